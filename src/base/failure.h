@@ -1,0 +1,50 @@
+#pragma once
+
+#include <exception>
+#include <string>
+
+namespace orvane {
+
+enum class FailureKind {
+    DatabaseMissing,
+    DatabaseUnreadable,
+    NotADatabase,
+    DatabaseReadOnly,
+    DatabaseLocked,
+    DiskFull,
+    DatabaseIncomplete, // a table, query or column that isn't there
+    Store,              // any other failure of the store
+    NoRow,              // a look-up without the row that a rule needs
+    ChoiceMissing,      // the same, because the choice that it goes by is still empty
+    NullValue,          // a null where a value is needed
+    RefusedNumber,      // a text that is no number, written to a number column
+    WrongText, // a box that holds no number where a calculation needs one
+    Overflow,
+    NoPicture,
+    Program, // the program's own fault, such as an unknown control
+};
+
+// Whatever stops an event. Subject names what it is about: a file, an object, a column. Cause is the
+// technical side, for people who keep the data files.
+class Failure : public std::exception
+{
+  public:
+    Failure(FailureKind Kind, std::string Subject, std::string Cause = {});
+
+    FailureKind Kind() const { return TheKind; }
+    const std::string& Subject() const { return TheSubject; }
+    const std::string& Cause() const { return TheCause; }
+
+    // The French sentence for the crafter.
+    std::string Sentence() const;
+
+    const char* what() const noexcept override { return Technical.c_str(); }
+
+  private:
+    FailureKind TheKind;
+    std::string TheSubject;
+    std::string TheCause;
+    std::string Technical;
+};
+
+} // namespace orvane

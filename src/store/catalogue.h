@@ -1,0 +1,68 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+// The schema of every database file, written once: what the tool that makes the files creates,
+// what the tests build their small files from, and what tells data keepers which columns exist.
+namespace orvane {
+
+enum class ColumnType {
+    Key,       // INTEGER PRIMARY KEY, given by the store when left out
+    Whole,     // INTEGER
+    Decimal,   // DECIMAL(19,4): settings and amounts, exact to the ten-thousandth
+    Text,      // TEXT
+    Reference, // INTEGER, the Num of a row of Target
+};
+
+struct ColumnDefinition
+{
+    std::string Name;
+    ColumnType Type = ColumnType::Text;
+    std::string Target; // table that a Reference points to
+};
+
+struct TableDefinition
+{
+    std::string Name;
+    std::vector<ColumnDefinition> Columns;
+};
+
+// A named SELECT in the store's dialect. Its first table is the list table: rows come in its order.
+struct QueryDefinition
+{
+    std::string Name;
+    std::string Sql;
+};
+
+// A table that lives in another file of the same folder.
+struct LinkDefinition
+{
+    std::string Name;
+    std::string File;
+    std::string Source;
+};
+
+struct DatabaseDefinition
+{
+    std::vector<TableDefinition> Tables;
+    std::vector<QueryDefinition> Queries;
+    std::vector<LinkDefinition> Links;
+};
+
+// The three realms, in the order that everything keeps.
+std::span<const std::string> Royaumes();
+
+const DatabaseDefinition& ConfigDefinition();
+const DatabaseDefinition& PanierDefinition();
+const DatabaseDefinition& AlchimieDefinition();
+const DatabaseDefinition& RoyaumeDefinition();
+
+// The fixed tables of a skin's layout database: RésolutionCommune and Temp.
+const DatabaseDefinition& SkinDefinition();
+
+// The columns of <screen>_Commun, <screen>_<resolution> and Temp.
+TableDefinition LayoutTable(const std::string& Name);
+
+} // namespace orvane

@@ -1,0 +1,313 @@
+#include "store/connection.h"
+
+#include "store/binding.h"
+#include "store/functions.h"
+#include "store/schema.h"
+#include "store/sqlite_error.h"
+#include "store/translation.h"
+
+#include "base/text.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace orvane {
+
+namespace {
+
+constexpr int BusyMilliseconds = 250;
+
+// What tells one state of a file from another.
+struct Stamp
+{
+    std::filesystem::file_time_type Time;
+    std::uintmax_t Size = 0;
+
+    friend bool operator==(const Stamp&, const Stamp&) = default;
+};
+
+std::optional<Stamp> StampOf(const std::filesystem::path& File)
+{
+    std::error_code Error;
+    const auto Time = std::filesystem::last_write_time(File, Error);
+    const auto Size = Error ? 0 : std::filesystem::file_size(File, Error);
+    return Error ? std::nullopt : std::optional(Stamp{Time, Size});
+}
+
+// A query's shape: its words, with each literal as the question marks that it takes. Two texts of
+// one shape share a prepared statement.
+std::string ShapeOf(Tokens Query, std::vector<Value>& Parameters)
+{
+    std::string Shape;
+    for (std::size_t At = 0; At < Query.size(); ++At) {
+        Shape += ' ';
+        if (Query[At].Kind != TokenKind::Text && Query[At].Kind != TokenKind::Number) {
+            Shape += Query[At].Content;
+            continue;
+        }
+        Literal Given = LiteralAt(Query, At);
+        Shape += Given.TheForm == Literal::Form::Folded ? "~" : "";
+        Shape.append(Given.Values.size(), '?');
+        std::move(Given.Values.begin(), Given.Values.end(), std::back_inserter(Parameters));
+    }
+    return Shape;
+}
+
+Value ValueAt(SQLite::Statement& Statement, int At)
+{
+    const SQLite::Column Cell = Statement.getColumn(At);
+    if (Cell.isNull())
+        return {};
+    if (Cell.isInteger())
+        return Cell.getInt64();
+    if (Cell.isFloat())
+        return Cell.getDouble();
+    return Cell.getString();
+}
+
+// What equal rows have in common: their values with case folded away.
+std::string DistinctKey(const std::vector<Value>& Row)
+{
+    std::string Key;
+    for (const Value& Cell : Row)
+        Key += FoldedCase(Cell.ToText()) + '\n';
+    return Key;
+}
+
+struct Prepared
+{
+    Prepared(SQLite::Database& Base, Translation Given)
+        : Statement(Base, Given.Sql), Query(std::move(Given)),
+          Columns(std::make_shared<const std::vector<std::string>>(Query.Columns))
+    {
+    }
+
+    SQLite::Statement Statement;
+    Translation Query;
+    std::shared_ptr<const std::vector<std::string>> Columns;
+};
+
+// Values that a query looks for, as a message shows them.
+std::vector<std::string> LookedFor(Tokens Query)
+{
+    std::vector<std::string> Values;
+    for (const Token& Each : Query)
+        if (Each.Kind == TokenKind::Text || Each.Kind == TokenKind::Number)
+            Values.push_back(Each.Content);
+    return Values;
+}
+
+} // namespace
+
+struct Connection::Inside
+{
+    explicit Inside(std::filesystem::path Path)
+        : File(std::move(Path)), Base(File.string(), SQLite::OPEN_READWRITE, BusyMilliseconds),
+          Schema(Base, File)
+    {
+        RegisterFunctions(Base);
+    }
+
+    // Ends reading, if it goes on: nothing may be attached or written inside it.
+    void EndReading()
+    {
+        if (Reading)
+            Base.exec("COMMIT");
+        Reading = false;
+    }
+
+    Prepared& Prepare(Tokens Query, const std::string& Shape)
+    {
+        if (const auto Known = Statements.find(Shape); Known != Statements.end())
+            return *Known->second;
+        const SourceFinder Find = [this](const std::string& Name) -> const Source& {
+            if (!Schema.Knows(Name))
+                EndReading(); // a linked table may have to be attached
+            return Schema.Find(Name);
+        };
+        auto Made = std::make_unique<Prepared>(Base, TranslateSelect(Query, Find));
+        return *Statements.emplace(Shape, std::move(Made)).first->second;
+    }
+
+    // Runs a write as one durable transaction.
+    void Write(const std::function<void()>& Action)
+    {
+        EndReading();
+        SQLite::Transaction Transaction(Base, SQLite::TransactionBehavior::IMMEDIATE);
+        Action();
+        Transaction.commit();
+    }
+
+    void Run(const std::string& Sql, const std::vector<Value>& Parameters)
+    {
+        SQLite::Statement Statement(Base, Sql);
+        for (std::size_t i = 0; i < Parameters.size(); ++i)
+            BindValue(Statement, static_cast<int>(i) + 1, Parameters[i]);
+        Statement.exec();
+    }
+
+    std::filesystem::path File;
+    SQLite::Database Base;
+    orvane::Schema Schema;
+    std::unordered_map<std::string, std::unique_ptr<Prepared>> Statements;
+    std::map<std::filesystem::path, std::optional<Stamp>> Stamps;
+    bool Reading = false;
+};
+
+Connection::Connection(std::filesystem::path File)
+{
+    std::error_code Error;
+    if (!std::filesystem::exists(File, Error))
+        throw Failure(FailureKind::DatabaseMissing, DisplayName(File), File.string());
+    if (!std::filesystem::is_regular_file(File, Error) ||
+        std::filesystem::file_size(File, Error) == 0)
+        throw Failure(FailureKind::NotADatabase, DisplayName(File), File.string());
+    const auto Path = File;
+    Translated(Path, [&] { In = std::make_unique<Inside>(std::move(File)); });
+}
+
+Connection::~Connection() = default;
+
+const std::filesystem::path& Connection::File() const
+{
+    return In->File;
+}
+
+RowSet Connection::Select(std::string_view Sql)
+{
+    const std::vector<Token> Query = Tokenize(Sql);
+    std::vector<Value> Parameters;
+    const std::string Shape = ShapeOf(Query, Parameters);
+    return Translated(In->File, [&] {
+        Prepared& Ready = In->Prepare(Query, Shape);
+        if (!In->Reading) {
+            In->Base.exec("BEGIN");
+            In->Reading = true;
+        }
+        RowSet Result{Ready.Columns, {}, Ready.Query.Table, {}, {}, LookedFor(Query)};
+        SQLite::Statement& Statement = Ready.Statement;
+        Statement.reset();
+        for (std::size_t i = 0; i < Parameters.size(); ++i)
+            BindValue(Statement, static_cast<int>(i) + 1, Parameters[i]);
+        std::unordered_set<std::string> Seen;
+        const int Count = static_cast<int>(Ready.Columns->size());
+        while (Statement.executeStep()) {
+            std::vector<Value> Row;
+            Row.reserve(static_cast<std::size_t>(Count));
+            for (int i = 0; i < Count; ++i)
+                Row.push_back(ValueAt(Statement, i));
+            if (Ready.Query.Distinct && !Seen.insert(DistinctKey(Row)).second)
+                continue;
+            Result.Rows.push_back(std::move(Row));
+            if (!Result.Table.empty())
+                Result.Keys.push_back(Statement.getColumn(Count).getInt64());
+        }
+        Statement.reset();
+        Result.Source = Ready.Query.Source;
+        return Result;
+    });
+}
+
+void Connection::Delete(std::string_view Sql)
+{
+    const std::vector<Token> Query = Tokenize(Sql);
+    std::vector<Value> Parameters;
+    ShapeOf(Query, Parameters);
+    Translated(In->File, [&] {
+        const std::string Translation = TranslateDelete(
+            Query, [&](const std::string& Name) -> const Source& { return In->Schema.Find(Name); });
+        In->Write([&] { In->Run(Translation, Parameters); });
+    });
+}
+
+Assignments Connection::Insert(const std::string& Table, const Assignments& Row, std::int64_t& Key)
+{
+    return Translated(In->File, [&] {
+        const Assignments Stored = In->Schema.Converted(Table, Row);
+        std::string Names;
+        std::string Marks;
+        std::vector<Value> Values;
+        for (const auto& [Column, Cell] : Stored) {
+            Names += (Names.empty() ? "" : ", ") + QuotedName(Column);
+            Marks += Marks.empty() ? "?" : ", ?";
+            Values.push_back(Cell);
+        }
+        In->Write([&] {
+            In->Run("INSERT INTO " + QuotedName(Table) +
+                        (Names.empty() ? " DEFAULT VALUES" : " (" + Names + ") VALUES (" + Marks + ")"),
+                    Values);
+            Key = In->Base.getLastInsertRowid();
+        });
+        return Stored;
+    });
+}
+
+Assignments Connection::Change(const std::string& Table, std::int64_t Key, const Assignments& Row)
+{
+    return Translated(In->File, [&] {
+        const Assignments Stored = In->Schema.Converted(Table, Row);
+        std::string Changes;
+        std::vector<Value> Values;
+        for (const auto& [Column, Cell] : Stored) {
+            Changes += (Changes.empty() ? "" : ", ") + QuotedName(Column) + " = ?";
+            Values.push_back(Cell);
+        }
+        if (Values.empty())
+            return Stored;
+        Values.emplace_back(Key);
+        In->Write([&] {
+            In->Run("UPDATE " + QuotedName(Table) + " SET " + Changes + " WHERE rowid = ?", Values);
+            if (In->Base.getChanges() == 0)
+                throw Failure(FailureKind::NoRow, Table, "the row is gone");
+        });
+        return Stored;
+    });
+}
+
+std::string Connection::LinkConnect(const std::string& Name)
+{
+    return Translated(In->File, [&] { return In->Schema.LinkConnect(Name); });
+}
+
+void Connection::SetLinkConnect(const std::string& Name, const std::string& Connect)
+{
+    Translated(In->File, [&] {
+        In->Write([&] {
+            In->Run("UPDATE LinkedTables SET Connect = ? WHERE Nom = ?", {Connect, Name});
+        });
+    });
+}
+
+void Connection::RefreshLink(const std::string& Name)
+{
+    Translated(In->File, [&] {
+        In->EndReading();
+        In->Statements.clear();
+        In->Schema.Refresh();
+        In->Schema.Find(Name);
+    });
+}
+
+void Connection::Rest()
+{
+    Translated(In->File, [&] { In->EndReading(); });
+    In->Stamps.clear();
+    In->Stamps[In->File] = StampOf(In->File);
+    for (const auto& Linked : In->Schema.LinkedFiles())
+        In->Stamps[Linked] = StampOf(Linked);
+}
+
+bool Connection::IsFresh() const
+{
+    for (const auto& [File, Known] : In->Stamps)
+        if (!Known || StampOf(File) != Known)
+            return false;
+    return true;
+}
+
+} // namespace orvane

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "store/source.h"
+#include "store/value.h"
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orvane {
+
+// The rows of a query, all read: walking and changing them needs no open cursor.
+struct RowSet
+{
+    std::shared_ptr<const std::vector<std::string>> Columns;
+    std::string Source;                     // what was selected from
+    std::string Table;                      // set when the rows can be changed
+    std::vector<std::vector<Value>> Rows;   // in the order of Columns
+    std::vector<std::int64_t> Keys;         // row numbers, when Table is set
+    std::vector<std::string> Looked;        // the values that the query looked for
+};
+
+// A row to be written: columns and their new values, by the table's own column names.
+using Assignments = std::vector<std::pair<std::string, Value>>;
+
+// One open file. All handles on the same file share it, so that a nested handler never waits for a
+// lock of its caller. From the first query until Rest() everything is read in one transaction; a
+// write ends it, is durable when the call returns, and reading starts afresh.
+class Connection
+{
+  public:
+    // Failure: DatabaseMissing, NotADatabase, DatabaseUnreadable.
+    explicit Connection(std::filesystem::path File);
+    ~Connection();
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    const std::filesystem::path& File() const;
+
+    RowSet Select(std::string_view Sql);
+    void Delete(std::string_view Sql);
+
+    // The stored values, converted to the columns' kinds. A refused value leaves the row as it was.
+    Assignments Insert(const std::string& Table, const Assignments& Row, std::int64_t& Key);
+    Assignments Change(const std::string& Table, std::int64_t Key, const Assignments& Row);
+
+    // ";DATABASE=" and the full path of the file that a linked table comes from.
+    std::string LinkConnect(const std::string& Name);
+    void SetLinkConnect(const std::string& Name, const std::string& Connect);
+
+    // Connects the linked table again. Failure when the file or the table isn't there.
+    void RefreshLink(const std::string& Name);
+
+    // Ends the read transaction; statements stay prepared for the next use.
+    void Rest();
+
+    // Whether the files behind are the same, unchanged by others, as when the connection last rested.
+    bool IsFresh() const;
+
+  private:
+    struct Inside;
+    std::unique_ptr<Inside> In;
+};
+
+} // namespace orvane

@@ -1,0 +1,159 @@
+#include "store/maker.h"
+
+#include "store/binding.h"
+#include "store/schema.h"
+#include "store/sql_text.h"
+#include "store/sqlite_error.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <algorithm>
+#include <array>
+#include <map>
+
+namespace orvane {
+
+namespace {
+
+std::string DeclaredType(ColumnType Type)
+{
+    switch (Type) {
+    case ColumnType::Key:
+        return "INTEGER PRIMARY KEY";
+    case ColumnType::Whole:
+    case ColumnType::Reference:
+        return "INTEGER";
+    case ColumnType::Decimal:
+        return "DECIMAL(19,4)";
+    case ColumnType::Text:
+        break;
+    }
+    return "TEXT";
+}
+
+// Columns that queries look names up in.
+bool IsSearched(const ColumnDefinition& Column)
+{
+    constexpr std::array Names{"Nom", "NomControl", "Acheteur", "Bonus"};
+    return Column.Type == ColumnType::Reference ||
+           std::ranges::find(Names, Column.Name) != Names.end();
+}
+
+std::filesystem::path Unfinished(std::filesystem::path File)
+{
+    return File += ".new";
+}
+
+} // namespace
+
+struct DatabaseMaker::Inside
+{
+    explicit Inside(std::filesystem::path Path)
+        : File(std::move(Path)),
+          Base((std::filesystem::remove(Unfinished(File)), Unfinished(File).string()),
+               SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE),
+          Transaction(Base)
+    {
+    }
+
+    std::filesystem::path File;
+    SQLite::Database Base;
+    SQLite::Transaction Transaction;
+    std::map<std::string, SQLite::Statement> Statements;
+    bool Finished = false;
+};
+
+DatabaseMaker::DatabaseMaker(std::filesystem::path File, const DatabaseDefinition& Definition)
+{
+    const auto Path = File;
+    Translated(Path, [&] {
+        In = std::make_unique<Inside>(std::move(File));
+        for (const TableDefinition& Table : Definition.Tables)
+            AddTable(Table);
+        if (!Definition.Queries.empty())
+            In->Base.exec("CREATE TABLE SavedQueries (Nom TEXT PRIMARY KEY, Texte TEXT NOT NULL)");
+        for (const QueryDefinition& Query : Definition.Queries) {
+            SQLite::Statement Insertion(In->Base, "INSERT INTO SavedQueries VALUES (?, ?)");
+            Insertion.bind(1, Query.Name);
+            Insertion.bind(2, Query.Sql);
+            Insertion.exec();
+        }
+        if (!Definition.Links.empty())
+            In->Base.exec("CREATE TABLE LinkedTables "
+                          "(Nom TEXT PRIMARY KEY, Connect TEXT NOT NULL, Source TEXT NOT NULL)");
+        for (const LinkDefinition& Link : Definition.Links) {
+            SQLite::Statement Insertion(In->Base, "INSERT INTO LinkedTables VALUES (?, ?, ?)");
+            Insertion.bind(1, Link.Name);
+            Insertion.bind(2, ConnectOf(std::filesystem::absolute(Path.parent_path() / Link.File)));
+            Insertion.bind(3, Link.Source);
+            Insertion.exec();
+        }
+    });
+}
+
+DatabaseMaker::~DatabaseMaker()
+{
+    if (!In || In->Finished)
+        return;
+    const auto File = Unfinished(In->File);
+    In = nullptr;
+    std::error_code Error;
+    std::filesystem::remove(File, Error);
+}
+
+void DatabaseMaker::AddTable(const TableDefinition& Table)
+{
+    Translated(In->File, [&] {
+        std::string Columns;
+        for (const ColumnDefinition& Column : Table.Columns)
+            Columns += (Columns.empty() ? "" : ", ") + QuotedName(Column.Name) + " " +
+                       DeclaredType(Column.Type);
+        In->Base.exec("CREATE TABLE " + QuotedName(Table.Name) + " (" + Columns + ")");
+        for (const ColumnDefinition& Column : Table.Columns)
+            if (IsSearched(Column))
+                In->Base.exec("CREATE INDEX " + QuotedName(Table.Name + "_" + Column.Name) +
+                              " ON " + QuotedName(Table.Name) + " (" + QuotedName(Column.Name) +
+                              (Column.Type == ColumnType::Text ? " COLLATE NOCASE)" : ")"));
+    });
+}
+
+void DatabaseMaker::Insert(const TableDefinition& Table, const std::vector<std::string>& Columns,
+                           const std::vector<Value>& Row)
+{
+    Translated(In->File, [&] {
+        std::string Names;
+        std::string Marks;
+        for (const std::string& Column : Columns) {
+            Names += (Names.empty() ? "" : ", ") + QuotedName(Column);
+            Marks += Marks.empty() ? "?" : ", ?";
+        }
+        const std::string Sql =
+            "INSERT INTO " + QuotedName(Table.Name) + " (" + Names + ") VALUES (" + Marks + ")";
+        auto Known = In->Statements.find(Sql);
+        if (Known == In->Statements.end())
+            Known = In->Statements.emplace(Sql, SQLite::Statement(In->Base, Sql)).first;
+        SQLite::Statement& Insertion = Known->second;
+        Insertion.reset();
+        for (std::size_t i = 0; i < Row.size(); ++i) {
+            const auto Definition =
+                std::ranges::find(Table.Columns, Columns[i], &ColumnDefinition::Name);
+            const auto Type = Definition == Table.Columns.end() ? ColumnType::Text : Definition->Type;
+            BindValue(Insertion, static_cast<int>(i) + 1,
+                      ColumnKind::FromDeclaredType(DeclaredType(Type)).Convert(Row[i]));
+        }
+        Insertion.exec();
+    });
+}
+
+void DatabaseMaker::Finish()
+{
+    Translated(In->File, [&] {
+        In->Statements.clear();
+        In->Transaction.commit();
+        In->Finished = true;
+    });
+    const auto File = In->File;
+    In = nullptr;
+    std::filesystem::rename(Unfinished(File), File);
+}
+
+} // namespace orvane

@@ -1,0 +1,149 @@
+#include "store/recordset.h"
+
+#include "base/failure.h"
+#include "base/number_text.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace orvane {
+
+namespace {
+
+template <class T>
+T OrRefused(std::optional<T> Number, const std::string& Subject)
+{
+    if (!Number)
+        throw Failure(FailureKind::NullValue, Subject, "not a number");
+    return *Number;
+}
+
+} // namespace
+
+Recordset::Recordset(std::shared_ptr<Connection> Base, RowSet Rows)
+    : Base(std::move(Base)), Rows(std::move(Rows))
+{
+}
+
+void Recordset::MoveFirst()
+{
+    if (Rows.Rows.empty()) {
+        const bool ChoiceMissing = std::ranges::find(Rows.Looked, "") != Rows.Looked.end();
+        throw Failure(ChoiceMissing ? FailureKind::ChoiceMissing : FailureKind::NoRow, Subject(),
+                      "no row in " + Rows.Source);
+    }
+    At = 0;
+}
+
+void Recordset::MoveNext()
+{
+    if (!Eof())
+        ++At;
+}
+
+bool Recordset::IsNull(std::string_view Name) const
+{
+    return Cell(Name).IsNull();
+}
+
+std::string Recordset::Text(std::string_view Name) const
+{
+    const Value& Given = Cell(Name);
+    if (Given.IsNull())
+        throw Failure(FailureKind::NullValue, Subject() + ", " + std::string(Name),
+                      "null in " + Rows.Source);
+    return Given.ToText();
+}
+
+std::string Recordset::TextOrEmpty(std::string_view Name) const
+{
+    return Cell(Name).ToText();
+}
+
+double Recordset::Number(std::string_view Name) const
+{
+    return OrRefused(DoubleFromText(Text(Name)), Subject() + ", " + std::string(Name));
+}
+
+std::int16_t Recordset::Whole(std::string_view Name) const
+{
+    return OrRefused(Entier16FromText(Text(Name)), Subject() + ", " + std::string(Name));
+}
+
+void Recordset::Edit()
+{
+    if (Eof())
+        throw Failure(FailureKind::NoRow, Subject());
+    Begin(Mode::Editing);
+}
+
+void Recordset::AddNew()
+{
+    Begin(Mode::Adding);
+}
+
+void Recordset::Set(std::string_view Name, std::string Text)
+{
+    Put(Name, Value(std::move(Text)));
+}
+
+void Recordset::Set(std::string_view Name, std::int64_t Number)
+{
+    Put(Name, Value(Number));
+}
+
+void Recordset::SetNull(std::string_view Name)
+{
+    Put(Name, Value());
+}
+
+void Recordset::Update()
+{
+    const Mode Done = std::exchange(TheMode, Mode::Reading);
+    const Assignments Row = std::exchange(Pending, {});
+    if (Done == Mode::Adding) {
+        std::int64_t Key = 0;
+        Base->Insert(Rows.Table, Row, Key);
+    } else if (Done == Mode::Editing) {
+        for (const auto& [Name, Stored] : Base->Change(Rows.Table, Rows.Keys[At], Row))
+            Rows.Rows[At][ColumnAt(Name)] = Stored;
+    }
+}
+
+const Value& Recordset::Cell(std::string_view Name) const
+{
+    if (Eof())
+        throw Failure(FailureKind::NoRow, Subject());
+    return Rows.Rows[At][ColumnAt(Name)];
+}
+
+std::size_t Recordset::ColumnAt(std::string_view Name) const
+{
+    const int Found = FindColumn(*Rows.Columns, Rows.Source, Name);
+    if (Found < 0)
+        throw Failure(FailureKind::DatabaseIncomplete, Rows.Source + "." + std::string(Name));
+    return static_cast<std::size_t>(Found);
+}
+
+void Recordset::Begin(Mode Wanted)
+{
+    if (Rows.Table.empty())
+        throw Failure(FailureKind::Store, Rows.Source, "the rows of this query can't be changed");
+    Pending.clear();
+    TheMode = Wanted;
+}
+
+void Recordset::Put(std::string_view Name, Value Cell)
+{
+    Pending.emplace_back((*Rows.Columns)[ColumnAt(Name)], std::move(Cell));
+}
+
+std::string Recordset::Subject() const
+{
+    std::string Result;
+    for (const std::string& Each : Rows.Looked)
+        Result += (Result.empty() ? "" : ", ") + Each;
+    return Result.empty() ? Rows.Source : Result + " (" + Rows.Source + ")";
+}
+
+} // namespace orvane

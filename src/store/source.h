@@ -1,0 +1,29 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orvane {
+
+// What a query can select from: a table, a saved query or a linked table.
+struct Source
+{
+    std::string Name;
+    std::string From;                 // SQL that stands behind FROM
+    std::vector<std::string> Columns; // as the source calls them, such as "Matériaux_1.Nom"
+    std::vector<std::string> Order;   // SQL terms of the order that rows have by themselves
+    bool IsTable = false;             // of this file, so that its rows can be changed
+};
+
+// The source of that name. Failure (Kind::DatabaseIncomplete) when there is none.
+using SourceFinder = std::function<const Source&(const std::string& Name)>;
+
+// Position of the column that a query or a caller calls Name: by its whole name; by its short name
+// (the part behind the dot) when only one column has it; or, for a column without a dot, by the
+// source's name, a dot and the column's. Case is ignored. -1 when there is none, or more than one.
+int FindColumn(const std::vector<std::string>& Columns, std::string_view SourceName,
+               std::string_view Name);
+
+} // namespace orvane

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The words of a query in the store's dialect.
+namespace orvane {
+
+// A value between double quotes, as data: a double quote inside it is doubled.
+std::string Quoted(std::string_view Text);
+
+// A name for SQLite, accents and dots included.
+std::string QuotedName(std::string_view Name);
+
+enum class TokenKind { Word, Text, Number, Symbol };
+
+struct Token
+{
+    TokenKind Kind = TokenKind::Symbol;
+    std::string Content; // names and texts without their quotes or brackets
+
+    // Whether this is the keyword, whatever its case.
+    bool Is(std::string_view Keyword) const;
+};
+
+// Failure (Kind::Store) for a text or bracket that doesn't end.
+std::vector<Token> Tokenize(std::string_view Sql);
+
+} // namespace orvane

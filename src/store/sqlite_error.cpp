@@ -1,0 +1,41 @@
+#include "store/sqlite_error.h"
+
+#include <array>
+#include <sqlite3.h>
+#include <utility>
+
+namespace orvane {
+
+namespace {
+
+constexpr std::array<std::pair<int, FailureKind>, 8> Kinds{{
+    {SQLITE_BUSY, FailureKind::DatabaseLocked},
+    {SQLITE_LOCKED, FailureKind::DatabaseLocked},
+    {SQLITE_READONLY, FailureKind::DatabaseReadOnly},
+    {SQLITE_FULL, FailureKind::DiskFull},
+    {SQLITE_NOTADB, FailureKind::NotADatabase},
+    {SQLITE_CORRUPT, FailureKind::DatabaseUnreadable},
+    {SQLITE_IOERR, FailureKind::DatabaseUnreadable},
+    {SQLITE_CANTOPEN, FailureKind::DatabaseUnreadable},
+}};
+
+} // namespace
+
+std::string DisplayName(const std::filesystem::path& File)
+{
+    const auto Name = File.filename().u8string();
+    return {Name.begin(), Name.end()};
+}
+
+Failure FailureOf(const SQLite::Exception& Error, const std::filesystem::path& File)
+{
+    for (const auto& [Code, Kind] : Kinds)
+        if (Error.getErrorCode() == Code)
+            return {Kind, DisplayName(File), Error.what()};
+    const std::string Cause = Error.what();
+    if (Cause.starts_with("no such "))
+        return {FailureKind::DatabaseIncomplete, DisplayName(File) + " : " + Cause, Cause};
+    return {FailureKind::Store, DisplayName(File), Cause};
+}
+
+} // namespace orvane

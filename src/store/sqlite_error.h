@@ -1,0 +1,40 @@
+#pragma once
+
+#include "base/failure.h"
+
+#include <filesystem>
+#include <string>
+
+namespace SQLite {
+class Exception;
+}
+
+namespace orvane {
+
+// What an error of SQLite on this file means to the crafter.
+Failure FailureOf(const SQLite::Exception& Error, const std::filesystem::path& File);
+
+// The file's name as a message shows it.
+std::string DisplayName(const std::filesystem::path& File);
+
+// Runs Action, with errors of SQLite turned into Failures about File.
+template <class Function>
+auto Translated(const std::filesystem::path& File, Function Action);
+
+} // namespace orvane
+
+#include <SQLiteCpp/Exception.h>
+
+namespace orvane {
+
+template <class Function>
+auto Translated(const std::filesystem::path& File, Function Action)
+{
+    try {
+        return Action();
+    } catch (const SQLite::Exception& Error) {
+        throw FailureOf(Error, File);
+    }
+}
+
+} // namespace orvane

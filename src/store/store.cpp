@@ -1,0 +1,88 @@
+#include "store/store.h"
+
+#include "base/failure.h"
+
+#include <utility>
+
+namespace orvane {
+
+Database::Database(Store& Owner, std::shared_ptr<Connection> Base)
+    : Owner(&Owner), Base(std::move(Base))
+{
+}
+
+Database::~Database()
+{
+    Close();
+}
+
+Database::Database(Database&& Other) noexcept
+    : Owner(Other.Owner), Base(std::exchange(Other.Base, nullptr))
+{
+}
+
+Database& Database::operator=(Database&& Other) noexcept
+{
+    if (this != &Other) {
+        Close();
+        Owner = Other.Owner;
+        Base = std::exchange(Other.Base, nullptr);
+    }
+    return *this;
+}
+
+Recordset Database::OpenRecordset(std::string_view Sql) const
+{
+    return {Base, Base->Select(Sql)};
+}
+
+void Database::Execute(std::string_view Sql) const
+{
+    Base->Delete(Sql);
+}
+
+std::string Database::LinkConnect(const std::string& Table) const
+{
+    return Base->LinkConnect(Table);
+}
+
+void Database::SetLinkConnect(const std::string& Table, const std::string& Connect) const
+{
+    Base->SetLinkConnect(Table, Connect);
+}
+
+void Database::RefreshLink(const std::string& Table) const
+{
+    Base->RefreshLink(Table);
+}
+
+void Database::Close()
+{
+    if (const auto Closed = std::exchange(Base, nullptr))
+        Owner->Release(*Closed);
+}
+
+Database Store::Open(const std::filesystem::path& File)
+{
+    Entry& Known = Connections[File];
+    if (Known.Handles == 0 && !(Known.Base && Known.Base->IsFresh()))
+        Known.Base = nullptr;
+    if (!Known.Base)
+        Known.Base = std::make_shared<Connection>(File);
+    ++Known.Handles;
+    return {*this, Known.Base};
+}
+
+void Store::Release(const Connection& Base) noexcept
+{
+    const auto Found = Connections.find(Base.File());
+    if (Found == Connections.end() || --Found->second.Handles > 0)
+        return;
+    try {
+        Found->second.Base->Rest();
+    } catch (const std::exception&) {
+        Found->second.Base = nullptr; // a connection that can't rest isn't kept
+    }
+}
+
+} // namespace orvane

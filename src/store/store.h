@@ -1,0 +1,64 @@
+#pragma once
+
+#include "store/recordset.h"
+
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace orvane {
+
+class Store;
+
+// An open database. Closing it, or the end of the handle, ends its reading; sets already opened stay
+// readable.
+class Database
+{
+  public:
+    Database(Store& Owner, std::shared_ptr<Connection> Base);
+    ~Database();
+    Database(Database&& Other) noexcept;
+    Database& operator=(Database&& Other) noexcept;
+
+    Recordset OpenRecordset(std::string_view Sql) const;
+
+    // DELETE * FROM table WHERE condition.
+    void Execute(std::string_view Sql) const;
+
+    // Where a linked table comes from: ";DATABASE=" and the full path of the file.
+    std::string LinkConnect(const std::string& Table) const;
+    void SetLinkConnect(const std::string& Table, const std::string& Connect) const;
+    void RefreshLink(const std::string& Table) const;
+
+    void Close();
+
+  private:
+    Store* Owner;
+    std::shared_ptr<Connection> Base;
+};
+
+// Opens databases. Handles on one file share its connection, and a file that nobody has open keeps
+// its connection for the next event, as long as nobody else changes the file.
+class Store
+{
+  public:
+    // Failure: DatabaseMissing, NotADatabase, DatabaseUnreadable.
+    Database Open(const std::filesystem::path& File);
+
+  private:
+    friend class Database;
+
+    struct Entry
+    {
+        std::shared_ptr<Connection> Base;
+        int Handles = 0;
+    };
+
+    void Release(const Connection& Base) noexcept;
+
+    std::map<std::filesystem::path, Entry> Connections;
+};
+
+} // namespace orvane

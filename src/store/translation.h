@@ -1,0 +1,33 @@
+#pragma once
+
+#include "store/condition.h"
+#include "store/source.h"
+
+#include <string>
+#include <vector>
+
+// Queries of the dialect as SQLite queries. What SQLite would do differently is settled here: names
+// are resolved against the columns of the source, rows come in the order of insertion (saved
+// queries: of their list table) behind the query's own ORDER BY, which sorts texts in French order.
+namespace orvane {
+
+struct Translation
+{
+    std::string Sql;
+    std::string Source;               // what is selected from
+    std::vector<std::string> Columns; // of the result, in order; a table's row key stands behind them
+    std::string Table;                // set when the rows can be changed
+    bool Distinct = false;            // equal rows are to be dropped, the first one kept
+};
+
+// SELECT [DISTINCT] columns FROM source [WHERE condition] [ORDER BY columns].
+Translation TranslateSelect(Tokens Query, const SourceFinder& Find);
+
+// DELETE * FROM table [WHERE condition].
+std::string TranslateDelete(Tokens Query, const SourceFinder& Find);
+
+// A saved query as a source: SELECT with qualified columns, joins and a condition. Its columns are
+// called table.column.
+Source TranslateSavedQuery(const std::string& Name, Tokens Query, const SourceFinder& Find);
+
+} // namespace orvane

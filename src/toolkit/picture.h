@@ -1,0 +1,53 @@
+#pragma once
+
+#include <filesystem>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace orvane {
+
+// A picture is the file it came from; decoding is for whoever draws it, when it is first seen.
+struct Picture
+{
+    std::filesystem::path File; // empty: no picture
+
+    bool IsEmpty() const { return File.empty(); }
+
+    friend bool operator==(const Picture&, const Picture&) = default;
+};
+
+// Pictures by number from 1, all of one size.
+class ImageList
+{
+  public:
+    // Files Stem1.png to Stem<Count>.png of Folder; Size in pixels, square.
+    void Fill(const std::filesystem::path& Folder, const std::string& Stem, int Count, int Size);
+
+    // Failure (Kind::Program) for an index that isn't there.
+    const orvane::Picture& Picture(int Index) const;
+    int Count() const { return static_cast<int>(Pictures.size()); }
+    int Size() const { return TheSize; }
+
+  private:
+    std::vector<orvane::Picture> Pictures;
+    int TheSize = 0;
+};
+
+// Finds picture files and remembers what was missing, to be said once, together.
+class PictureFiles
+{
+  public:
+    // The picture at a path, found whatever the case of its name. Failure (Kind::NoPicture).
+    static Picture Load(const std::filesystem::path& File);
+
+    // The same, but a picture that is missing gives Otherwise and is remembered.
+    Picture LoadOr(const std::filesystem::path& File, const Picture& Otherwise = {});
+
+    const std::set<std::string>& Missing() const { return MissingFiles; }
+
+  private:
+    std::set<std::string> MissingFiles;
+};
+
+} // namespace orvane

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "toolkit/controls.h"
+
+#include <functional>
+#include <string>
+
+namespace orvane {
+
+// The number that an input box is meant to hold.
+enum class NumberKind { None, Entier16, Montant };
+
+class TextBox : public Control
+{
+  public:
+    TextBox(Screen& Owner, std::string Name);
+
+    // Assigning a different text runs OnChange inside the assignment; the same text runs nothing.
+    class TextProperty
+    {
+      public:
+        explicit TextProperty(TextBox& Box) : Box(Box) {}
+        TextProperty(const TextProperty&) = delete;
+
+        TextProperty& operator=(const std::string& Given);
+        TextProperty& operator=(const TextProperty& Other) { return *this = Other.Value; }
+
+        operator const std::string&() const { return Value; }
+        const std::string& operator()() const { return Value; }
+
+        friend bool operator==(const TextProperty& Left, std::string_view Right)
+        {
+            return Left.Value == Right;
+        }
+
+      private:
+        friend class TextBox;
+
+        TextBox& Box;
+        std::string Value;
+    };
+
+    TextProperty Text{*this};
+    Property<bool> Locked{AsOwner(), PropertyId::Locked, true};
+
+    // The text is no number of the kind that the box accepts, or that a calculation needed.
+    Property<bool> Marked{AsOwner(), PropertyId::Marked};
+
+    // The figure is from before an input went wrong.
+    Property<bool> Stale{AsOwner(), PropertyId::Stale};
+
+    Alignment Align = Alignment::Centre;
+    NumberKind Accepts = NumberKind::None;
+    std::function<void()> OnChange;
+
+    // The text of a screen's definition: no handler runs.
+    void StartWith(std::string Initial) { Text.Value = std::move(Initial); }
+
+    // Open to typing on the input ground, meant for numbers of that kind.
+    void OpenFor(NumberKind Kind);
+
+  private:
+    void TextChanged();
+};
+
+} // namespace orvane

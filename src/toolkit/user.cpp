@@ -1,0 +1,98 @@
+#include "toolkit/user.h"
+
+#include "base/failure.h"
+
+namespace orvane {
+
+User::User(Forms& TheForms, Dialogs& TheDialogs, std::function<void()> AfterEvent)
+    : TheForms(TheForms), TheDialogs(TheDialogs), AfterEvent(std::move(AfterEvent))
+{
+}
+
+void User::Type(TextBox& Box, const std::string& NewText)
+{
+    On(Box, [&] {
+        if (!Box.Locked)
+            Box.Text = NewText;
+    });
+}
+
+void User::Type(ComboBox& Box, const std::string& NewText)
+{
+    On(Box, [&] { Box.Text = NewText; });
+}
+
+void User::Pick(ListControl& List, int Index)
+{
+    On(List, [&] {
+        if (Index >= 0 && Index < List.ListCount())
+            List.Pick(Index);
+    });
+}
+
+void User::Pick(ListControl& List, const std::string& Entry)
+{
+    On(List, [&] {
+        if (const int Index = List.FindItem(Entry); Index >= 0)
+            List.Pick(Index);
+    });
+}
+
+void User::Click(PictureControl& Which)
+{
+    On(Which, [&] {
+        if (Which.OnClick)
+            Which.OnClick();
+    });
+}
+
+void User::ClickItem(SideMenu& Menu, const std::string& Key)
+{
+    On(Menu, [&] {
+        const SideMenu::Item* Item = Menu.FindItem(Key);
+        if (Item != nullptr && Menu.OnItemClick)
+            Menu.OnItemClick(*Item);
+    });
+}
+
+void User::Activate(Screen& Which)
+{
+    Event([&] { TheForms.Activate(Which); });
+}
+
+void User::Close(Screen& Which)
+{
+    Event([&] {
+        if (!Which.IsVisible())
+            return;
+        TheForms.Activate(Which);
+        Which.WayBack();
+    });
+}
+
+void User::Event(const std::function<void()>& Action)
+{
+    std::string Sentence;
+    try {
+        Action();
+    } catch (const Failure& Given) {
+        Sentence = Given.Sentence();
+    } catch (const std::exception& Unexpected) {
+        Sentence = Failure(FailureKind::Program, Unexpected.what()).Sentence();
+    }
+    AfterEvent();
+    if (!Sentence.empty())
+        TheDialogs.MsgBox(Sentence);
+}
+
+void User::On(Control& Which, const std::function<void()>& Action)
+{
+    Event([&] {
+        if (!Which.Visible || !Which.Owner().IsVisible())
+            return;
+        TheForms.Activate(Which.Owner());
+        Action();
+    });
+}
+
+} // namespace orvane

@@ -1,0 +1,146 @@
+#include "pictures/drawing.h"
+
+#include "pictures/effects.h"
+
+#include <QDir>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QSet>
+#include <QSvgRenderer>
+
+#include <cmath>
+
+namespace orvane::pictures {
+
+namespace {
+
+// Qt reports an unknown gradient or an odd attribute as a warning only: here it is a fault.
+class WarningTrap
+{
+  public:
+    WarningTrap() : Former(qInstallMessageHandler(&WarningTrap::Take)) { Warnings.clear(); }
+    ~WarningTrap() { qInstallMessageHandler(Former); }
+    WarningTrap(const WarningTrap&) = delete;
+    WarningTrap& operator=(const WarningTrap&) = delete;
+
+    QString First() const { return Warnings.value(0); }
+
+  private:
+    static void Take(QtMsgType, const QMessageLogContext&, const QString& Text)
+    {
+        Warnings << Text;
+    }
+
+    static inline QStringList Warnings;
+    QtMessageHandler Former;
+};
+
+SourceError Fault(const Picture& P, const QString& What)
+{
+    return SourceError(QStringLiteral("%1 : %2 : %3").arg(P.Place, P.Source, What));
+}
+
+QString InsideOfSvg(const Picture& P, const QString& Name, const QString& Text)
+{
+    static const QRegularExpression Opening(QStringLiteral("<svg\\b[^>]*>"));
+    const QRegularExpressionMatch Match = Opening.match(Text);
+    const qsizetype End = Text.lastIndexOf(QLatin1String("</svg>"));
+    if (!Match.hasMatch() || End < Match.capturedEnd())
+        throw Fault(P, QStringLiteral("« %1 » n’a pas d’élément <svg>").arg(Name));
+    return Text.mid(Match.capturedEnd(), End - Match.capturedEnd());
+}
+
+QString WithWords(const Picture& P, const QString& Text)
+{
+    static const QRegularExpression Word(QStringLiteral("\\{([\\p{L}\\d-]+)\\}"));
+    QString Result;
+    qsizetype Done = 0;
+    for (auto Found = Word.globalMatch(Text); Found.hasNext();) {
+        const QRegularExpressionMatch Match = Found.next();
+        const QString Name = Match.captured(1);
+        if (!P.Colours.Words.contains(Name))
+            throw Fault(P, QStringLiteral("mot de palette inconnu « {%1} »").arg(Name));
+        Result += QStringView(Text).mid(Done, Match.capturedStart() - Done);
+        Result += P.Colours.Words[Name];
+        Done = Match.capturedEnd();
+    }
+    return Result + QStringView(Text).mid(Done).toString();
+}
+
+QString ReadDrawing(const QString& Folder, const QString& Name)
+{
+    return QString::fromUtf8(ReadWholeFile(QDir(Folder).filePath(Name)));
+}
+
+// The plate's drawing holds {dessin} where the object goes.
+QString OuterText(const QString& Folder, const Picture& P)
+{
+    if (!P.Plaque)
+        return ReadDrawing(Folder, P.Source);
+    return ReadDrawing(Folder, "plaque.svg")
+        .replace(QLatin1String("{dessin}"), "{inclure:" + P.Source + '}');
+}
+
+void RefuseStretching(const Picture& P, const QRectF& Box)
+{
+    const double Wanted = double(P.Size.width()) / P.Size.height();
+    if (Box.isEmpty() || std::abs(Box.width() / Box.height() / Wanted - 1) > 0.02)
+        throw Fault(P, QStringLiteral("les proportions du dessin (%1 × %2) ne sont pas celles de "
+                                      "l’image (%3 × %4)")
+                           .arg(Box.width())
+                           .arg(Box.height())
+                           .arg(P.Size.width())
+                           .arg(P.Size.height()));
+}
+
+bool IsBlank(const QImage& Image)
+{
+    for (int y = 0; y < Image.height(); ++y)
+        for (int x = 0; x < Image.width(); ++x)
+            if (qAlpha(Image.pixel(x, y)) != 0)
+                return false;
+    return true;
+}
+
+} // namespace
+
+QByteArray ExpandDrawing(const QString& Folder, const Picture& P)
+{
+    static const QRegularExpression Inclusion(QStringLiteral("\\{inclure:([\\w./-]+)\\}"));
+    QSet<QString> Included;
+    QString Text = WithWords(P, OuterText(Folder, P));
+    for (auto Match = Inclusion.match(Text); Match.hasMatch(); Match = Inclusion.match(Text)) {
+        const QString Name = Match.captured(1);
+        QString Inside;
+        if (!Included.contains(Name))
+            Inside = InsideOfSvg(P, Name, WithWords(P, ReadDrawing(Folder, Name)));
+        Included.insert(Name);
+        Text.replace(Match.capturedStart(), Match.capturedLength(), Inside);
+    }
+    return Text.toUtf8();
+}
+
+QImage RenderDrawing(const QString& Folder, const Picture& P)
+{
+    const QByteArray Svg = ExpandDrawing(Folder, P);
+    const WarningTrap Trap;
+    QSvgRenderer Renderer;
+    if (!Renderer.load(Svg))
+        throw Fault(P, QStringLiteral("ce n’est pas un dessin SVG valable. ") + Trap.First());
+    RefuseStretching(P, Renderer.viewBoxF());
+
+    QImage Image(P.Size, QImage::Format_ARGB32_Premultiplied);
+    Image.fill(Qt::transparent);
+    QPainter Painter(&Image);
+    Painter.setRenderHint(QPainter::Antialiasing);
+    Renderer.render(&Painter, QRectF(QPointF(), QSizeF(P.Size)));
+    Painter.end();
+
+    if (!Trap.First().isEmpty())
+        throw Fault(P, Trap.First());
+    if (IsBlank(Image))
+        throw Fault(P, QStringLiteral("l’image est vide"));
+    return P.Ombre ? WithShadowAndHalo(Image) : Image;
+}
+
+} // namespace orvane::pictures

@@ -1,0 +1,84 @@
+#include "pictures/quantizer.h"
+#include "pictures/writers.h"
+
+#include <array>
+#include <gif_lib.h>
+#include <memory>
+#include <stdexcept>
+
+namespace orvane::pictures {
+
+namespace {
+
+void Check(int Status)
+{
+    if (Status == GIF_ERROR)
+        throw std::runtime_error("GIF : l’écriture a échoué");
+}
+
+int AppendTo(GifFileType* Gif, const GifByteType* Bytes, int Count)
+{
+    static_cast<QByteArray*>(Gif->UserData)->append(reinterpret_cast<const char*>(Bytes), Count);
+    return Count;
+}
+
+struct CloseGif
+{
+    void operator()(GifFileType* Gif) const
+    {
+        int Error = 0;
+        EGifCloseFile(Gif, &Error);
+    }
+};
+
+struct FreeMap
+{
+    void operator()(ColorMapObject* Map) const { GifFreeMapObject(Map); }
+};
+
+// The format wants a power of two; the rest of the table is black.
+std::unique_ptr<ColorMapObject, FreeMap> MapOf(const std::vector<QRgb>& Colours)
+{
+    std::vector<GifColorType> Entries(std::size_t{1}
+                                      << GifBitSize(static_cast<int>(Colours.size())));
+    for (std::size_t i = 0; i < Colours.size(); ++i)
+        Entries[i] = {static_cast<GifByteType>(qRed(Colours[i])),
+                      static_cast<GifByteType>(qGreen(Colours[i])),
+                      static_cast<GifByteType>(qBlue(Colours[i]))};
+    return std::unique_ptr<ColorMapObject, FreeMap>(
+        GifMakeMapObject(static_cast<int>(Entries.size()), Entries.data()));
+}
+
+void PutTransparency(GifFileType* Gif)
+{
+    const GraphicsControlBlock Block{DISPOSAL_UNSPECIFIED, false, 0, 0};
+    std::array<GifByteType, 4> Bytes{};
+    EGifGCBToExtension(&Block, Bytes.data());
+    Check(EGifPutExtension(Gif, GRAPHICS_EXT_FUNC_CODE, static_cast<int>(Bytes.size()),
+                           Bytes.data()));
+}
+
+} // namespace
+
+QByteArray GifBytes(const QImage& Image)
+{
+    IndexedPicture Picture = Quantize(Image);
+    const int Width = Picture.Size.width(), Height = Picture.Size.height();
+    const auto Map = MapOf(Picture.Colours);
+    QByteArray Result;
+    int Error = 0;
+    std::unique_ptr<GifFileType, CloseGif> Gif(EGifOpen(&Result, &AppendTo, &Error));
+    if (!Gif || !Map)
+        throw std::runtime_error("GIF : mémoire insuffisante");
+
+    EGifSetGifVersion(Gif.get(), true);
+    Check(EGifPutScreenDesc(Gif.get(), Width, Height, 8, 0, Map.get()));
+    PutTransparency(Gif.get());
+    Check(EGifPutImageDesc(Gif.get(), 0, 0, Width, Height, false, nullptr));
+    for (int y = 0; y < Height; ++y)
+        Check(EGifPutLine(Gif.get(), &Picture.Pixels[static_cast<std::size_t>(y * Width)], Width));
+    Check(EGifCloseFile(Gif.release(), &Error));
+    return Result;
+}
+
+} // namespace orvane::pictures

@@ -1,0 +1,134 @@
+#include "pictures/manifest.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QMap>
+#include <QSet>
+
+#include <algorithm>
+
+namespace orvane::pictures {
+
+namespace {
+
+constexpr int LargestSide = 2048;
+
+struct Variant
+{
+    std::vector<Palette> Each;
+    bool Ombre = false;
+    bool Plaque = false;
+    bool Double = false;
+};
+
+Variant VariantOf(const TableRow& Row, const std::vector<Palette>& Palettes)
+{
+    Variant Result;
+    for (const QString& Word : Row.Cells["variant"].split(' ', Qt::SkipEmptyParts)) {
+        if (Word == QLatin1String("ombre"))
+            Result.Ombre = true;
+        else if (Word == QLatin1String("plaque"))
+            Result.Plaque = true;
+        else if (Word == QLatin1String("x2"))
+            Result.Double = true;
+        else {
+            const std::size_t Before = Result.Each.size();
+            std::ranges::copy_if(Palettes, std::back_inserter(Result.Each), [&](const Palette& P) {
+                return P.Name == Word || (P.IsRoyaume && Word == QLatin1String("royaumes"));
+            });
+            if (Result.Each.size() == Before)
+                throw SourceError(
+                    QStringLiteral("%1 : variante inconnue « %2 »").arg(Row.Place, Word));
+        }
+    }
+    if (Result.Each.empty())
+        throw SourceError(
+            QStringLiteral("%1 : la variante ne nomme aucune palette").arg(Row.Place));
+    return Result;
+}
+
+int SideOf(const TableRow& Row, const QString& Column)
+{
+    bool IsNumber = false;
+    const int Side = Row.Cells[Column].toInt(&IsNumber);
+    if (!IsNumber || Side < 1 || Side > LargestSide)
+        throw SourceError(
+            QStringLiteral("%1 : taille « %2 » refusée").arg(Row.Place, Row.Cells[Column]));
+    return Side;
+}
+
+QString ForPalette(QString Text, const Palette& Colours)
+{
+    return Text.replace(QLatin1String("{Royaume}"), Colours.Name)
+        .replace(QLatin1String("{royaume}"), Colours.Words["royaume"]);
+}
+
+void RefuseOutsidePath(const TableRow& Row, const QString& Path)
+{
+    if (QDir::isAbsolutePath(Path) || QDir::cleanPath(Path).startsWith(QLatin1String("..")))
+        throw SourceError(
+            QStringLiteral("%1 : le chemin « %2 » sort du dossier").arg(Row.Place, Path));
+}
+
+std::vector<Picture> PicturesOf(const TableRow& Row, const std::vector<Palette>& Palettes)
+{
+    std::vector<Picture> Result;
+    const Variant V = VariantOf(Row, Palettes);
+    const QSize Size(SideOf(Row, "width"), SideOf(Row, "height"));
+    for (const Palette& Colours : V.Each) {
+        Picture P{Row.Place,
+                  ForPalette(Row.Cells["output"], Colours),
+                  ForPalette(Row.Cells["source"], Colours),
+                  Size,
+                  Colours,
+                  V.Ombre,
+                  V.Plaque};
+        RefuseOutsidePath(Row, P.Output);
+        RefuseOutsidePath(Row, P.Source);
+        Result.push_back(P);
+        if (!V.Double)
+            continue;
+        P.Output.insert(P.Output.lastIndexOf('.'), QLatin1String("@2x"));
+        P.Size *= 2;
+        Result.push_back(P);
+    }
+    return Result;
+}
+
+void RefuseTwice(const std::vector<Picture>& Pictures)
+{
+    QSet<QString> Seen;
+    for (const Picture& P : Pictures) {
+        const bool IsIcon = P.Output.endsWith(QLatin1String(".ico"));
+        const QString Key = IsIcon ? P.Output + ' ' + QString::number(P.Size.width()) : P.Output;
+        if (Seen.contains(Key))
+            throw SourceError(
+                QStringLiteral("%1 : « %2 » est déjà dans la liste").arg(P.Place, P.Output));
+        Seen.insert(Key);
+    }
+}
+
+} // namespace
+
+std::vector<Palette> ReadPalettes(const QString& Folder)
+{
+    std::vector<Palette> Result;
+    const Table Rows = ReadTable(QDir(Folder).filePath("palettes.tsv"), {"palette", "royaume"});
+    for (const TableRow& Row : Rows.Rows)
+        Result.push_back(
+            {Row.Cells["palette"], Row.Cells["royaume"] != QLatin1String("-"), Row.Cells});
+    return Result;
+}
+
+std::vector<Picture> ReadManifest(const QString& Folder, const std::vector<Palette>& Palettes)
+{
+    std::vector<Picture> Result;
+    const Table Rows = ReadTable(QDir(Folder).filePath("manifest.tsv"),
+                                 {"output", "source", "width", "height", "variant"});
+    for (const TableRow& Row : Rows.Rows)
+        std::ranges::copy(PicturesOf(Row, Palettes), std::back_inserter(Result));
+    RefuseTwice(Result);
+    return Result;
+}
+
+} // namespace orvane::pictures
