@@ -40,9 +40,11 @@ QByteArray Encoded(const QString& Path, const Output& Out)
 
 void WriteFile(const QString& Path, const QByteArray& Bytes)
 {
+    const QString Folder = QFileInfo(Path).path();
+    if (!QDir().mkpath(Folder))
+        throw SourceError(QStringLiteral("%1 : impossible de créer le dossier").arg(Folder));
     QSaveFile File(Path);
-    if (!QDir().mkpath(QFileInfo(Path).path()) || !File.open(QIODevice::WriteOnly) ||
-        File.write(Bytes) != Bytes.size() || !File.commit())
+    if (!File.open(QIODevice::WriteOnly) || File.write(Bytes) != Bytes.size() || !File.commit())
         throw SourceError(
             QStringLiteral("%1 : impossible d’écrire : %2").arg(Path, File.errorString()));
 }

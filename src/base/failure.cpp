@@ -54,7 +54,9 @@ std::string Typeset(std::string Text)
 } // namespace
 
 Failure::Failure(FailureKind Kind, std::string Subject, std::string Cause)
-    : TheKind(Kind), TheSubject(std::move(Subject)), TheCause(std::move(Cause)),
+    : TheKind(Kind),
+      TheSubject(std::move(Subject)),
+      TheCause(std::move(Cause)),
       Technical(TheSubject + (TheCause.empty() ? "" : ": " + TheCause))
 {
 }

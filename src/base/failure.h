@@ -18,14 +18,14 @@ enum class FailureKind {
     ChoiceMissing,      // the same, because the choice that it goes by is still empty
     NullValue,          // a null where a value is needed
     RefusedNumber,      // a text that is no number, written to a number column
-    WrongText, // a box that holds no number where a calculation needs one
+    WrongText,          // a box that holds no number where a calculation needs one
     Overflow,
     NoPicture,
     Program, // the program's own fault, such as an unknown control
 };
 
-// Whatever stops an event. Subject names what it is about: a file, an object, a column. Cause is the
-// technical side, for people who keep the data files.
+// Whatever stops an event. Subject names what it is about: a file, an object, a column. Cause is
+// the technical side, for people who keep the data files.
 class Failure : public std::exception
 {
   public:

@@ -101,8 +101,8 @@ std::optional<std::int64_t> ScaledFromText(std::string_view Text, int Decimals)
     for (std::size_t i = 0; i < Places; ++i)
         if (!Append(Magnitude, i < Parts->Fraction.size() ? Parts->Fraction[i] : '0'))
             return std::nullopt;
-    if (Parts->Fraction.size() > Places &&
-        RoundsUp(Parts->Fraction.substr(Places), Magnitude) && ++Magnitude == 0)
+    if (Parts->Fraction.size() > Places && RoundsUp(Parts->Fraction.substr(Places), Magnitude) &&
+        ++Magnitude == 0)
         return std::nullopt;
     return Signed(Magnitude, Parts->Negative);
 }

@@ -127,8 +127,8 @@ std::string FoldedCase(std::string_view Text)
     Result.reserve(Text.size());
     ForEachLetter(Text, [&](UChar32 Letter) {
         if (Letter < 0x80)
-            Result.push_back(static_cast<char>(Letter >= 'A' && Letter <= 'Z' ? Letter + 32
-                                                                               : Letter));
+            Result.push_back(
+                static_cast<char>(Letter >= 'A' && Letter <= 'Z' ? Letter + 32 : Letter));
         else
             Append(Result, u_foldCase(Letter, U_FOLD_CASE_DEFAULT));
     });
@@ -180,9 +180,9 @@ int CompareFrench(std::string_view Left, std::string_view Right)
     if (Collator == nullptr)
         return Left.compare(Right);
     UErrorCode Status = U_ZERO_ERROR;
-    return Collator->compareUTF8(
-        icu::StringPiece(Left.data(), static_cast<int32_t>(Left.size())),
-        icu::StringPiece(Right.data(), static_cast<int32_t>(Right.size())), Status);
+    return Collator->compareUTF8(icu::StringPiece(Left.data(), static_cast<int32_t>(Left.size())),
+                                 icu::StringPiece(Right.data(), static_cast<int32_t>(Right.size())),
+                                 Status);
 }
 
 } // namespace orvane

@@ -100,22 +100,21 @@ std::vector<TableDefinition> ManualTables()
           {"Degré", Whole, {}}}},
         {"Classique_ProduitsDétaillés",
          {{"Num", Key, {}}, To("Produit", "Classique_Produits"), {"Nom", Text, {}}}},
-        {"Classique_ListeObjets",
-         Columns{{"Num", Key, {}},
-                 To("ProduitDétaillé", "Classique_ProduitsDétaillés"),
-                 {"Nom", Text, {}},
-                 {"Sup", Text, {}}} +
-             Numbered("Mat", 1, 6, Text) + Numbered("Qté", 1, 6, Whole) +
-             Columns{{"Image", Text, {}},
-                     {"Icône", Text, {}},
-                     {"NiveauCraft", Whole, {}},
-                     {"NiveauObjet", Whole, {}},
-                     {"Dps", Text, {}},
-                     {"Vit", Text, {}},
-                     {"BonusSpécial", Text, {}},
-                     {"NomObjet", Text, {}},
-                     {"NbObjet", Whole, {}}} +
-             Numbered("PrixReventeDegré", 0, 9, Decimal)},
+        {"Classique_ListeObjets", Columns{{"Num", Key, {}},
+                                          To("ProduitDétaillé", "Classique_ProduitsDétaillés"),
+                                          {"Nom", Text, {}},
+                                          {"Sup", Text, {}}} +
+                                      Numbered("Mat", 1, 6, Text) + Numbered("Qté", 1, 6, Whole) +
+                                      Columns{{"Image", Text, {}},
+                                              {"Icône", Text, {}},
+                                              {"NiveauCraft", Whole, {}},
+                                              {"NiveauObjet", Whole, {}},
+                                              {"Dps", Text, {}},
+                                              {"Vit", Text, {}},
+                                              {"BonusSpécial", Text, {}},
+                                              {"NomObjet", Text, {}},
+                                              {"NbObjet", Whole, {}}} +
+                                      Numbered("PrixReventeDegré", 0, 9, Decimal)},
     };
 }
 
@@ -128,8 +127,7 @@ std::vector<TableDefinition> MagicTables()
         {"Arcanes_Bonus", {{"Num", Key, {}}, {"Nom", Text, {}}, {"Degré", Whole, {}}}},
         {"Matériaux_Arcanes",
          {{"Num", Key, {}}, {"Nom", Text, {}}, {"Prix", Decimal, {}}, {"Degré", Whole, {}}}},
-        {"Degrés_Arcanes", Columns{{"NuméroDegré", Whole, {}}} +
-                               Numbered("DegréType", 1, 3, Text) +
+        {"Degrés_Arcanes", Columns{{"NuméroDegré", Whole, {}}} + Numbered("DegréType", 1, 3, Text) +
                                Columns{{"PrixRevente", Decimal, {}}}},
         {"Arcanes_ListeObjets",
          Columns{{"Num", Key, {}},
@@ -202,11 +200,10 @@ std::vector<TableDefinition> SecondaryTables()
           To("Artisanat", "Artisanat_Liste"),
           {"Nom", Text, {}},
           {"Degré", Whole, {}}}},
-        {"Secondaire_ListeObjets",
-         Columns{{"Num", Key, {}}, To("Produit", "Secondaire_Produits")} +
-             Numbered("Mat", 1, 3, Text) + Numbered("Qté", 1, 3, Whole) +
-             Columns{{"Icône", Text, {}}, {"NiveauCraft", Whole, {}}} +
-             Numbered("PrixReventeDegré", 0, 9, Decimal)},
+        {"Secondaire_ListeObjets", Columns{{"Num", Key, {}}, To("Produit", "Secondaire_Produits")} +
+                                       Numbered("Mat", 1, 3, Text) + Numbered("Qté", 1, 3, Whole) +
+                                       Columns{{"Icône", Text, {}}, {"NiveauCraft", Whole, {}}} +
+                                       Numbered("PrixReventeDegré", 0, 9, Decimal)},
         {"Sellerie_ProduitsDétaillés",
          {{"Num", Key, {}}, To("Artisanat", "Artisanat_Liste"), {"Nom", Text, {}}}},
         {"Sellerie_ListeObjets",
@@ -255,14 +252,14 @@ std::vector<QueryDefinition> MagicQueries()
                               "Arcanes_Produits.Nom, Arcanes_ProduitsDétaillés.Nom";
     return {
         {"R_Arcanes", Names + Joins},
-        {"R_ArcanesObjets",
-         Names +
-             ", Arcanes_ListeObjets.Num, Arcanes_ListeObjets.Icône, "
-             "Arcanes_ListeObjets.NiveauCraft, Arcanes_ListeObjets.CoefQté2, "
-             "Arcanes_ListeObjets.QtéSup, Arcanes_ListeObjets.NomObjet, "
-             "Arcanes_ListeObjets.NbObjet" +
-             EachJoin("Matériaux_Arcanes", 5, "Nom") + EachJoin("Matériaux_Arcanes", 5, "Prix") +
-             Joins + MaterialJoins("Arcanes_ListeObjets", "Matériaux_Arcanes", 5)},
+        {"R_ArcanesObjets", Names +
+                                ", Arcanes_ListeObjets.Num, Arcanes_ListeObjets.Icône, "
+                                "Arcanes_ListeObjets.NiveauCraft, Arcanes_ListeObjets.CoefQté2, "
+                                "Arcanes_ListeObjets.QtéSup, Arcanes_ListeObjets.NomObjet, "
+                                "Arcanes_ListeObjets.NbObjet" +
+                                EachJoin("Matériaux_Arcanes", 5, "Nom") +
+                                EachJoin("Matériaux_Arcanes", 5, "Prix") + Joins +
+                                MaterialJoins("Arcanes_ListeObjets", "Matériaux_Arcanes", 5)},
     };
 }
 
@@ -337,10 +334,9 @@ std::vector<QueryDefinition> HorseAndArcheryQueries()
              " FROM (Sellerie_ListeObjets INNER JOIN Artisanat_Liste "
              "ON Sellerie_ListeObjets.Artisanat = Artisanat_Liste.Num)" +
              MaterialJoins("Sellerie_ListeObjets", "Matériaux_Classique", 4)},
-        {"R_SellerieProduits",
-         "SELECT Sellerie_ProduitsDétaillés.Nom, Artisanat_Liste.Nom "
-         "FROM Sellerie_ProduitsDétaillés INNER JOIN Artisanat_Liste "
-         "ON Sellerie_ProduitsDétaillés.Artisanat = Artisanat_Liste.Num"},
+        {"R_SellerieProduits", "SELECT Sellerie_ProduitsDétaillés.Nom, Artisanat_Liste.Nom "
+                               "FROM Sellerie_ProduitsDétaillés INNER JOIN Artisanat_Liste "
+                               "ON Sellerie_ProduitsDétaillés.Artisanat = Artisanat_Liste.Num"},
     };
 }
 
@@ -436,8 +432,8 @@ const DatabaseDefinition& AlchimieDefinition()
 const DatabaseDefinition& RoyaumeDefinition()
 {
     static const DatabaseDefinition Definition{
-        Joined({ManualTables(), MagicTables(), ArcheryTables(), LegendaryTables(),
-                SecondaryTables()}),
+        Joined(
+            {ManualTables(), MagicTables(), ArcheryTables(), LegendaryTables(), SecondaryTables()}),
         Joined({ManualQueries(), MagicQueries(), LegendaryQueries(), HorseAndArcheryQueries()}),
         {{"Alchimie_ListeObjets", "Artisanat_Alchimie.mdb", "ListeObjets"}}};
     return Definition;

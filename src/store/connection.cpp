@@ -1,12 +1,11 @@
 #include "store/connection.h"
 
+#include "base/text.h"
 #include "store/binding.h"
 #include "store/functions.h"
 #include "store/schema.h"
 #include "store/sqlite_error.h"
 #include "store/translation.h"
-
-#include "base/text.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <cstdint>
@@ -82,7 +81,8 @@ std::string DistinctKey(const std::vector<Value>& Row)
 struct Prepared
 {
     Prepared(SQLite::Database& Base, Translation Given)
-        : Statement(Base, Given.Sql), Query(std::move(Given)),
+        : Statement(Base, Given.Sql),
+          Query(std::move(Given)),
           Columns(std::make_shared<const std::vector<std::string>>(Query.Columns))
     {
     }
@@ -107,7 +107,8 @@ std::vector<std::string> LookedFor(Tokens Query)
 struct Connection::Inside
 {
     explicit Inside(std::filesystem::path Path)
-        : File(std::move(Path)), Base(File.string(), SQLite::OPEN_READWRITE, BusyMilliseconds),
+        : File(std::move(Path)),
+          Base(File.string(), SQLite::OPEN_READWRITE, BusyMilliseconds),
           Schema(Base, File)
     {
         RegisterFunctions(Base);
@@ -238,9 +239,10 @@ Assignments Connection::Insert(const std::string& Table, const Assignments& Row,
             Values.push_back(Cell);
         }
         In->Write([&] {
-            In->Run("INSERT INTO " + QuotedName(Table) +
-                        (Names.empty() ? " DEFAULT VALUES" : " (" + Names + ") VALUES (" + Marks + ")"),
-                    Values);
+            In->Run(
+                "INSERT INTO " + QuotedName(Table) +
+                    (Names.empty() ? " DEFAULT VALUES" : " (" + Names + ") VALUES (" + Marks + ")"),
+                Values);
             Key = In->Base.getLastInsertRowid();
         });
         return Stored;

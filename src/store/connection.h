@@ -15,11 +15,11 @@ namespace orvane {
 struct RowSet
 {
     std::shared_ptr<const std::vector<std::string>> Columns;
-    std::string Source;                     // what was selected from
-    std::string Table;                      // set when the rows can be changed
-    std::vector<std::vector<Value>> Rows;   // in the order of Columns
-    std::vector<std::int64_t> Keys;         // row numbers, when Table is set
-    std::vector<std::string> Looked;        // the values that the query looked for
+    std::string Source;                   // what was selected from
+    std::string Table;                    // set when the rows can be changed
+    std::vector<std::vector<Value>> Rows; // in the order of Columns
+    std::vector<std::int64_t> Keys;       // row numbers, when Table is set
+    std::vector<std::string> Looked;      // the values that the query looked for
 };
 
 // A row to be written: columns and their new values, by the table's own column names.
@@ -56,7 +56,8 @@ class Connection
     // Ends the read transaction; statements stay prepared for the next use.
     void Rest();
 
-    // Whether the files behind are the same, unchanged by others, as when the connection last rested.
+    // Whether the files behind are the same, unchanged by others, as when the connection last
+    // rested.
     bool IsFresh() const;
 
   private:

@@ -13,9 +13,9 @@ namespace {
 std::string_view TextOf(sqlite3_value* Given)
 {
     const auto* Text = reinterpret_cast<const char*>(sqlite3_value_text(Given));
-    return Text == nullptr ? std::string_view()
-                           : std::string_view(Text, static_cast<std::size_t>(
-                                                        sqlite3_value_bytes(Given)));
+    return Text == nullptr
+               ? std::string_view()
+               : std::string_view(Text, static_cast<std::size_t>(sqlite3_value_bytes(Given)));
 }
 
 void FoldCase(sqlite3_context* Context, int, sqlite3_value** Given)
@@ -50,8 +50,8 @@ bool Fits(std::string_view Text, std::string_view Pattern)
 void TextLike(sqlite3_context* Context, int, sqlite3_value** Given)
 {
     const bool Null = sqlite3_value_type(Given[0]) == SQLITE_NULL;
-    sqlite3_result_int(Context, !Null && Fits(FoldedCase(TextOf(Given[0])),
-                                              FoldedCase(TextOf(Given[1]))));
+    sqlite3_result_int(Context,
+                       !Null && Fits(FoldedCase(TextOf(Given[0])), FoldedCase(TextOf(Given[1]))));
 }
 
 int French(void*, int LeftSize, const void* Left, int RightSize, const void* Right)

@@ -136,7 +136,8 @@ void DatabaseMaker::Insert(const TableDefinition& Table, const std::vector<std::
         for (std::size_t i = 0; i < Row.size(); ++i) {
             const auto Definition =
                 std::ranges::find(Table.Columns, Columns[i], &ColumnDefinition::Name);
-            const auto Type = Definition == Table.Columns.end() ? ColumnType::Text : Definition->Type;
+            const auto Type =
+                Definition == Table.Columns.end() ? ColumnType::Text : Definition->Type;
             BindValue(Insertion, static_cast<int>(i) + 1,
                       ColumnKind::FromDeclaredType(DeclaredType(Type)).Convert(Row[i]));
         }

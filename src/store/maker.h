@@ -10,8 +10,8 @@
 
 namespace orvane {
 
-// Makes a database file from its definition. The file appears whole when Finish returns; before, and
-// when making fails, there is none (a former file of that name stays).
+// Makes a database file from its definition. The file appears whole when Finish returns; before,
+// and when making fails, there is none (a former file of that name stays).
 class DatabaseMaker
 {
   public:

@@ -21,7 +21,8 @@ T OrRefused(std::optional<T> Number, const std::string& Subject)
 } // namespace
 
 Recordset::Recordset(std::shared_ptr<Connection> Base, RowSet Rows)
-    : Base(std::move(Base)), Rows(std::move(Rows))
+    : Base(std::move(Base)),
+      Rows(std::move(Rows))
 {
 }
 

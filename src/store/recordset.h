@@ -33,8 +33,8 @@ class Recordset
     double Number(std::string_view Name) const;
     std::int16_t Whole(std::string_view Name) const;
 
-    // Changing: Edit or AddNew, then Set for each column, then Update, which stores the row at once.
-    // A refused value leaves the stored row as it was.
+    // Changing: Edit or AddNew, then Set for each column, then Update, which stores the row at
+    // once. A refused value leaves the stored row as it was.
     void Edit();
     void AddNew();
     void Set(std::string_view Name, std::string Text);

@@ -1,9 +1,8 @@
 #include "store/schema.h"
 
+#include "base/text.h"
 #include "store/sqlite_error.h"
 #include "store/translation.h"
-
-#include "base/text.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
@@ -78,16 +77,15 @@ void Schema::Refresh()
 
 Source Schema::Load(const std::string& Name)
 {
-    const auto Known = FirstRow(
-        "SELECT name, type FROM main.sqlite_schema WHERE type IN ('table', 'view') "
-        "AND fold_case(name) = ?",
-        FoldedCase(Name));
+    const auto Known =
+        FirstRow("SELECT name, type FROM main.sqlite_schema WHERE type IN ('table', 'view') "
+                 "AND fold_case(name) = ?",
+                 FoldedCase(Name));
     if (!Known.empty())
         return LoadTable("main", Known[0], Known[1] == "view");
     if (HasTable("SavedQueries"))
-        if (const auto Row =
-                FirstRow("SELECT Nom, Texte FROM SavedQueries WHERE fold_case(Nom) = ?",
-                         FoldedCase(Name));
+        if (const auto Row = FirstRow(
+                "SELECT Nom, Texte FROM SavedQueries WHERE fold_case(Nom) = ?", FoldedCase(Name));
             !Row.empty())
             return TranslateSavedQuery(
                 Row[0], Tokenize(Row[1]),
@@ -137,8 +135,7 @@ Source Schema::LoadLink(const std::string& Name, const std::string& Connect,
         });
         Known = Attached.emplace(Path, Alias).first;
     }
-    Source Result =
-        Translated(Path, [&] { return LoadTable(Known->second, Table, false); });
+    Source Result = Translated(Path, [&] { return LoadTable(Known->second, Table, false); });
     Result.Name = Name;
     Result.IsTable = false;
     return Result;

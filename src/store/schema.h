@@ -50,9 +50,9 @@ class Schema
 
     SQLite::Database& Base;
     const std::filesystem::path& File;
-    std::map<std::string, Source> Sources;                  // by folded name
-    std::map<std::string, std::vector<ColumnKind>> Kinds;   // by folded table name
-    std::map<std::filesystem::path, std::string> Attached;  // file and its name in SQL
+    std::map<std::string, Source> Sources;                 // by folded name
+    std::map<std::string, std::vector<ColumnKind>> Kinds;  // by folded table name
+    std::map<std::filesystem::path, std::string> Attached; // file and its name in SQL
 };
 
 // The folder-independent form in which a link keeps its file: ";DATABASE=" and the full path.

@@ -30,7 +30,8 @@ int FindColumn(const std::vector<std::string>& Columns, std::string_view SourceN
         if (Columns[i] == Name)
             return static_cast<int>(i);
     const std::string Wanted = FoldedCase(Name);
-    if (const int Same = OnlyOne(Columns, [&](const std::string& Column) { return Column == Wanted; });
+    if (const int Same =
+            OnlyOne(Columns, [&](const std::string& Column) { return Column == Wanted; });
         Same >= 0)
         return Same;
     if (Wanted.find('.') == std::string::npos)

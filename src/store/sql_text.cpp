@@ -60,11 +60,12 @@ class Scanner
         if (First == '[')
             return {TokenKind::Word, Delimited(']')};
         if (IsDigit(First))
-            return {TokenKind::Number, While([](char Letter) { return IsDigit(Letter) || Letter == '.'; })};
+            return {TokenKind::Number,
+                    While([](char Letter) { return IsDigit(Letter) || Letter == '.'; })};
         if (IsNameLetter(First))
             return {TokenKind::Word, While(IsNameLetter)};
-        const bool Pair = Sql.substr(At, 2) == "<>" || Sql.substr(At, 2) == ">=" ||
-                          Sql.substr(At, 2) == "<=";
+        const bool Pair =
+            Sql.substr(At, 2) == "<>" || Sql.substr(At, 2) == ">=" || Sql.substr(At, 2) == "<=";
         const std::string Symbol(Sql.substr(At, Pair ? 2 : 1));
         At += Symbol.size();
         return {TokenKind::Symbol, Symbol};

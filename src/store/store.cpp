@@ -7,7 +7,8 @@
 namespace orvane {
 
 Database::Database(Store& Owner, std::shared_ptr<Connection> Base)
-    : Owner(&Owner), Base(std::move(Base))
+    : Owner(&Owner),
+      Base(std::move(Base))
 {
 }
 
@@ -17,7 +18,8 @@ Database::~Database()
 }
 
 Database::Database(Database&& Other) noexcept
-    : Owner(Other.Owner), Base(std::exchange(Other.Base, nullptr))
+    : Owner(Other.Owner),
+      Base(std::exchange(Other.Base, nullptr))
 {
 }
 

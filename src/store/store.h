@@ -12,8 +12,8 @@ namespace orvane {
 
 class Store;
 
-// An open database. Closing it, or the end of the handle, ends its reading; sets already opened stay
-// readable.
+// An open database. Closing it, or the end of the handle, ends its reading; sets already opened
+// stay readable.
 class Database
 {
   public:

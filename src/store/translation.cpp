@@ -128,8 +128,8 @@ class JoinTranslator
         if (Current.Is("ON"))
             TableNext = false;
         if (Current.Kind != TokenKind::Word || Current.Is("JOIN") || Current.Is("ON") ||
-            Current.Is("INNER") || Current.Is("LEFT") || Current.Is("RIGHT") ||
-            Current.Is("AND") || Current.Is("OR"))
+            Current.Is("INNER") || Current.Is("LEFT") || Current.Is("RIGHT") || Current.Is("AND") ||
+            Current.Is("OR"))
             Sql += " " + Current.Content;
         else if (TableNext)
             AddTable(Current.Content);
@@ -168,8 +168,7 @@ Translation TranslateSelect(Tokens Query, const SourceFinder& Find)
     Translation Result;
     Result.Source = From.Name;
     Result.Distinct = Parts.Distinct;
-    Result.Columns =
-        SelectedColumns(Query.subspan(Parts.Items, Parts.From - Parts.Items), From);
+    Result.Columns = SelectedColumns(Query.subspan(Parts.Items, Parts.From - Parts.Items), From);
     for (const std::string& Column : Result.Columns)
         Result.Sql += (Result.Sql.empty() ? "SELECT " : ", ") + QuotedName(Column);
     if (From.IsTable && !Parts.Distinct) {

@@ -14,10 +14,11 @@ namespace orvane {
 struct Translation
 {
     std::string Sql;
-    std::string Source;               // what is selected from
-    std::vector<std::string> Columns; // of the result, in order; a table's row key stands behind them
-    std::string Table;                // set when the rows can be changed
-    bool Distinct = false;            // equal rows are to be dropped, the first one kept
+    std::string Source; // what is selected from
+    std::vector<std::string>
+        Columns;           // of the result, in order; a table's row key stands behind them
+    std::string Table;     // set when the rows can be changed
+    bool Distinct = false; // equal rows are to be dropped, the first one kept
 };
 
 // SELECT [DISTINCT] columns FROM source [WHERE condition] [ORDER BY columns].

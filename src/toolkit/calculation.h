@@ -23,9 +23,9 @@ inline double D(TextBox& Box)
     return D(M(Box));
 }
 
-// Runs a formula that reads all its inputs before it writes its results. A wrong text or an overflow
-// ends the formula and nothing else: the results keep their last figures, shown as stale, and the
-// caller goes on. Tells whether the results are good.
+// Runs a formula that reads all its inputs before it writes its results. A wrong text or an
+// overflow ends the formula and nothing else: the results keep their last figures, shown as stale,
+// and the caller goes on. Tells whether the results are good.
 template <class Formula>
 bool Calculate(const std::vector<TextBox*>& Results, Formula Run)
 {

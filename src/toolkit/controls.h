@@ -6,7 +6,8 @@
 #include <functional>
 #include <string>
 
-// The controls that show and are clicked; those that hold texts and lists have headers of their own.
+// The controls that show and are clicked; those that hold texts and lists have headers of their
+// own.
 namespace orvane {
 
 enum class Alignment { Left, Centre, Right };

@@ -16,7 +16,7 @@ class FormsObserver
 {
   public:
     virtual ~FormsObserver() = default;
-    virtual void Shown(Screen& Which) = 0;  // on top, active; also when it was visible already
+    virtual void Shown(Screen& Which) = 0; // on top, active; also when it was visible already
     virtual void Hidden(Screen& Which) = 0;
 };
 

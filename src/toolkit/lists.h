@@ -14,8 +14,8 @@ class ListControl : public Control
   public:
     using Control::Control;
 
-    // Assigning another index shows its entry and runs OnClick inside the assignment; the same index
-    // runs nothing. Failure (Kind::Program) for an index that isn't there.
+    // Assigning another index shows its entry and runs OnClick inside the assignment; the same
+    // index runs nothing. Failure (Kind::Program) for an index that isn't there.
     class IndexProperty
     {
       public:
@@ -23,6 +23,7 @@ class ListControl : public Control
         IndexProperty(const IndexProperty&) = delete;
 
         IndexProperty& operator=(int Given);
+        IndexProperty& operator=(const IndexProperty& Other) { return *this = Other.Value; }
         operator int() const { return Value; }
 
       private:
@@ -47,7 +48,8 @@ class ListControl : public Control
     // Empties the list, the text and the choice; runs nothing.
     void Clear();
 
-    // What a person's pick does: as an assignment, but OnClick runs also for the entry chosen already.
+    // What a person's pick does: as an assignment, but OnClick runs also for the entry chosen
+    // already.
     void Pick(int Index);
 
   protected:

@@ -50,8 +50,7 @@ Picture PictureFiles::Load(const fs::path& File)
 {
     const fs::path Found = FindIgnoringCase(File);
     std::error_code Error;
-    if (Found.empty() || !fs::is_regular_file(Found, Error) ||
-        ::access(Found.c_str(), R_OK) != 0)
+    if (Found.empty() || !fs::is_regular_file(Found, Error) || ::access(Found.c_str(), R_OK) != 0)
         throw Failure(FailureKind::NoPicture, File.string());
     return {Found};
 }

@@ -48,7 +48,9 @@ class Property
 {
   public:
     Property(PropertyOwner& Owner, PropertyId Id, Type Initial = {})
-        : Owner(Owner), Id(Id), Value(std::move(Initial))
+        : Owner(Owner),
+          Id(Id),
+          Value(std::move(Initial))
     {
     }
     Property(const Property&) = delete;

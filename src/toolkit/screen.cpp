@@ -8,7 +8,9 @@
 namespace orvane {
 
 Control::Control(Screen& Owner, ControlKind Kind, std::string Name)
-    : TheOwner(Owner), TheKind(Kind), TheName(std::move(Name))
+    : TheOwner(Owner),
+      TheKind(Kind),
+      TheName(std::move(Name))
 {
     Owner.Add(*this);
 }
@@ -20,7 +22,9 @@ void Control::Changed(PropertyId Id)
 }
 
 Screen::Screen(Forms& Owner, std::string Name, std::string Title)
-    : Caption(*this, PropertyId::Caption, std::move(Title)), Owner(Owner), TheName(std::move(Name))
+    : Caption(*this, PropertyId::Caption, std::move(Title)),
+      Owner(Owner),
+      TheName(std::move(Name))
 {
 }
 

@@ -23,8 +23,8 @@ class ScreenObserver
     virtual void ScreenChanged(PropertyId What) = 0;
 };
 
-// A screen: a class whose members are its controls, under their own names. It exists once, keeps its
-// state while hidden, and is never destroyed before the run ends.
+// A screen: a class whose members are its controls, under their own names. It exists once, keeps
+// its state while hidden, and is never destroyed before the run ends.
 class Screen : private PropertyOwner
 {
   public:

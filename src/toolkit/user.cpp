@@ -5,7 +5,9 @@
 namespace orvane {
 
 User::User(Forms& TheForms, Dialogs& TheDialogs, std::function<void()> AfterEvent)
-    : TheForms(TheForms), TheDialogs(TheDialogs), AfterEvent(std::move(AfterEvent))
+    : TheForms(TheForms),
+      TheDialogs(TheDialogs),
+      AfterEvent(std::move(AfterEvent))
 {
 }
 

@@ -8,8 +8,8 @@
 
 namespace orvane {
 
-// The user's door: what a person does to a screen. It alone respects Visible and Locked, activates a
-// visible screen that isn't the active one before acting on it, and meets every failure with one
+// The user's door: what a person does to a screen. It alone respects Visible and Locked, activates
+// a visible screen that isn't the active one before acting on it, and meets every failure with one
 // box. The view and the tests come in by this door.
 class User
 {

@@ -2,7 +2,9 @@
 
 #include "pictures/effects.h"
 
+#include <QColor>
 #include <QDir>
+#include <QFileInfo>
 #include <QPainter>
 #include <QRegularExpression>
 #include <QSet>
@@ -67,8 +69,10 @@ QString WithWords(const Picture& P, const QString& Text)
     return Result + QStringView(Text).mid(Done).toString();
 }
 
-QString ReadDrawing(const QString& Folder, const QString& Name)
+QString ReadDrawing(const QString& Folder, const Picture& P, const QString& Name)
 {
+    if (!QFileInfo(QDir(Folder).filePath(Name)).isFile())
+        throw Fault(P, QStringLiteral("« %1 » est introuvable").arg(Name));
     return QString::fromUtf8(ReadWholeFile(QDir(Folder).filePath(Name)));
 }
 
@@ -76,9 +80,19 @@ QString ReadDrawing(const QString& Folder, const QString& Name)
 QString OuterText(const QString& Folder, const Picture& P)
 {
     if (!P.Plaque)
-        return ReadDrawing(Folder, P.Source);
-    return ReadDrawing(Folder, "plaque.svg")
+        return ReadDrawing(Folder, P, P.Source);
+    return ReadDrawing(Folder, P, "plaque.svg")
         .replace(QLatin1String("{dessin}"), "{inclure:" + P.Source + '}');
+}
+
+// Qt draws an unreadable colour as no colour at all, without a warning.
+void RefuseOddColours(const Picture& P, const QString& Svg)
+{
+    static const QRegularExpression Paint(
+        QStringLiteral("\\b(?:fill|stroke|stop-color)=\"(?!none\"|inherit\"|url\\()([^\"]*)\""));
+    for (auto Found = Paint.globalMatch(Svg); Found.hasNext();)
+        if (const QString Colour = Found.next().captured(1); !QColor::isValidColor(Colour))
+            throw Fault(P, QStringLiteral("couleur inconnue « %1 »").arg(Colour));
 }
 
 void RefuseStretching(const Picture& P, const QRectF& Box)
@@ -113,7 +127,7 @@ QByteArray ExpandDrawing(const QString& Folder, const Picture& P)
         const QString Name = Match.captured(1);
         QString Inside;
         if (!Included.contains(Name))
-            Inside = InsideOfSvg(P, Name, WithWords(P, ReadDrawing(Folder, Name)));
+            Inside = InsideOfSvg(P, Name, WithWords(P, ReadDrawing(Folder, P, Name)));
         Included.insert(Name);
         Text.replace(Match.capturedStart(), Match.capturedLength(), Inside);
     }
@@ -123,6 +137,9 @@ QByteArray ExpandDrawing(const QString& Folder, const Picture& P)
 QImage RenderDrawing(const QString& Folder, const Picture& P)
 {
     const QByteArray Svg = ExpandDrawing(Folder, P);
+    if (Svg.contains("<text")) // its look would depend on the fonts of the machine
+        throw Fault(P, QStringLiteral("un dessin ne contient pas de <text> : convertir en tracés"));
+    RefuseOddColours(P, QString::fromUtf8(Svg));
     const WarningTrap Trap;
     QSvgRenderer Renderer;
     if (!Renderer.load(Svg))

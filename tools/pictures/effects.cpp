@@ -100,7 +100,7 @@ QImage OnParchment(const QImage& Image)
     for (int y = 0; y < Image.height(); ++y)
         for (int x = 0; x < Image.width(); ++x)
             if (qAlpha(Image.pixel(x, y)) < FaintestAlpha)
-                Result.setPixel(x, y, qRgba(0, 0, 0, 0));
+                Result.setPixel(x, y, Parchment & RGB_MASK);
     return Result;
 }
 

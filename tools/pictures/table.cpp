@@ -5,6 +5,28 @@
 
 namespace orvane::pictures {
 
+namespace {
+
+QString Composed(const std::string& Text)
+{
+    return QString::fromStdString(Text).normalized(QString::NormalizationForm_C).trimmed();
+}
+
+TableRow RowOf(const QStringList& Columns, const tools::TsvTable::Row& Given)
+{
+    TableRow Row{QString::fromStdString(Given.Place), {}};
+    for (qsizetype i = 0; i < Columns.size(); ++i) {
+        const QString Cell = Composed(Given.Cells[static_cast<std::size_t>(i)]);
+        if (Cell.isEmpty())
+            throw SourceError(
+                QStringLiteral("%1 : la colonne « %2 » est vide").arg(Row.Place, Columns[i]));
+        Row.Cells.insert(Columns[i], Cell);
+    }
+    return Row;
+}
+
+} // namespace
+
 QByteArray ReadWholeFile(const QString& Path)
 {
     QFile File(Path);
@@ -13,49 +35,18 @@ QByteArray ReadWholeFile(const QString& Path)
     return File.readAll();
 }
 
-namespace {
-
-TableRow RowOf(const QStringList& Columns, const QStringList& Cells, const QString& Place)
-{
-    if (Cells.size() != Columns.size())
-        throw SourceError(QStringLiteral("%1 : %2 colonnes au lieu de %3")
-                              .arg(Place)
-                              .arg(Cells.size())
-                              .arg(Columns.size()));
-    TableRow Row{Place, {}};
-    for (qsizetype i = 0; i < Cells.size(); ++i) {
-        if (Cells[i].trimmed().isEmpty())
-            throw SourceError(
-                QStringLiteral("%1 : la colonne « %2 » est vide").arg(Place, Columns[i]));
-        Row.Cells.insert(Columns[i], Cells[i].trimmed());
-    }
-    return Row;
-}
-
-} // namespace
-
 Table ReadTable(const QString& Path, const QStringList& RequiredColumns)
 {
+    const tools::TsvTable Given = tools::ReadTsv(Path.toStdString());
     Table Result;
-    const QString Name = QFileInfo(Path).fileName();
-    const QStringList Lines =
-        QString::fromUtf8(ReadWholeFile(Path)).normalized(QString::NormalizationForm_C).split('\n');
-    for (qsizetype i = 0; i < Lines.size(); ++i) {
-        const QString& Line = Lines[i];
-        if (Line.trimmed().isEmpty() || Line.startsWith('#'))
-            continue;
-        const QStringList Cells = Line.split('\t');
-        if (Result.Columns.isEmpty()) {
-            for (const QString& Cell : Cells)
-                Result.Columns << Cell.trimmed();
-            continue;
-        }
-        const QString Place = QStringLiteral("%1, ligne %2").arg(Name).arg(i + 1);
-        Result.Rows.push_back(RowOf(Result.Columns, Cells, Place));
-    }
+    for (const std::string& Column : Given.Columns)
+        Result.Columns << Composed(Column);
     for (const QString& Column : RequiredColumns)
         if (!Result.Columns.contains(Column))
-            throw SourceError(QStringLiteral("%1 : il manque la colonne « %2 »").arg(Name, Column));
+            throw SourceError(QStringLiteral("%1 : il manque la colonne « %2 »")
+                                  .arg(QFileInfo(Path).fileName(), Column));
+    for (const tools::TsvTable::Row& Row : Given.Rows)
+        Result.Rows.push_back(RowOf(Result.Columns, Row));
     return Result;
 }
 

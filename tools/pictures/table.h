@@ -1,19 +1,20 @@
 #pragma once
 
+#include "tables/tsv.h"
+
 #include <QHash>
 #include <QString>
 #include <QStringList>
 
-#include <stdexcept>
 #include <vector>
 
 namespace orvane::pictures {
 
 // Whatever is wrong with the sources; the text is for the person who keeps them.
-class SourceError : public std::runtime_error
+class SourceError : public tools::SourceError
 {
   public:
-    explicit SourceError(const QString& Message) : std::runtime_error(Message.toStdString()) {}
+    explicit SourceError(const QString& Message) : tools::SourceError(Message.toStdString()) {}
 };
 
 // A row of a tab-separated table whose first row names the columns.

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "shell/application.h"
+
+#include <string>
+
+// What the other subsystems need of the basket.
+namespace orvane {
+
+// The order that the program starts on, and the only one that can be given a name.
+inline const std::string NouvelleCommande = "Nouvelle commande";
+
+// Refills the list of orders; the order in hand is then NouvelleCommande.
+void RemplirCommandes(Application& App);
+
+// An object line: its label, and the boxes whose texts go into the row as they stand, decimal comma
+// included. Prices stand for the whole line.
+struct LigneCommande
+{
+    std::string Nom;
+    const TextBox& Nb;
+    const TextBox& PrixCoûtant;
+    const TextBox& PrixVente;
+};
+
+// Adds a row under the order in hand and the current realm; prices that are stale are refused with
+// a message. The basket screen isn't refreshed.
+void AjouterLigne(Application& App, const LigneCommande& Ligne);
+
+} // namespace orvane

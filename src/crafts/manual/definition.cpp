@@ -1,0 +1,180 @@
+#include "crafts/manual/frm_artisanats_manuels.h"
+#include "toolkit/placing.h"
+
+// Where the controls of the manual crafts stand and what they say until a skin moves them. Three
+// columns: the menu, the walk with the bill of materials, the object.
+namespace orvane {
+
+namespace {
+
+constexpr int MiddleX = 192;
+constexpr int MiddleWide = 496;
+constexpr int RightX = 700;
+constexpr int RightWide = 296;
+constexpr int High = 24;
+
+void PlaceRow(Label& Name, const char* Words, TextBox& Value, Box At, int BoxWide)
+{
+    PlaceLabel(Name, Words, {At.X, At.Y, At.W, High});
+    Place(Value, {At.X + At.W, At.Y, BoxWide, High});
+}
+
+} // namespace
+
+void frm_ArtisanatsManuels::Définir()
+{
+    SizeScreen(*this, 1008, 700);
+    Place(img_Bannière, {MiddleX - 4, 10, 600, 64});
+    Place(Bar_Menus, {12, 10, 168, 680});
+    PlacePanel(shp_Artisanat, {800, 10, 196, 64});
+    Place(pct_Artisanat, {814, 26, 32, 32});
+    PlaceTitle(lbl_Artisanat, "", {854, 24, 140, 36});
+    DéfinirChoix();
+    DéfinirObjet();
+    DéfinirMatériaux();
+    DéfinirVente();
+    DéfinirObjetSup();
+    for (auto* Holders : {&txt_MatériauxBruts, &txt_PrixMatUnitaire})
+        for (TextBox& Holder : *Holders)
+            Holder.Visible = false;
+    for (TextBox& Holder : txt_PrixMatUnitaire)
+        Holder.StartWith("0");
+    for (TextBox& Holder : txt_PrixMatSuptUnitaire)
+        Holder.Visible = false;
+    for (TextBox* Holder : {&txt_Sup, &txt_Image, &txt_Icône, &txt_IconeObjetSup, &txt_ObjetSupBis})
+        Holder->Visible = false;
+    txt_Image.StartWith("Vide"); // so that the first empty text shows the placeholder
+    PlaceButton(cmd_AjouterPanier, "Ajouter au panier", "Ajouter l’objet à la commande en cours",
+                {RightX, 644, 168, 46});
+    PlaceButton(cmd_Retour, "Retour", "Revenir à l’accueil", {RightX + 180, 644, 116, 46});
+}
+
+void frm_ArtisanatsManuels::DéfinirChoix()
+{
+    PlacePanel(shp_Choix, {MiddleX, 86, MiddleWide, 166});
+    PlaceHeading(lbl11, "Choix de l'objet à fabriquer", {MiddleX + 14, 90, 400, High});
+    struct Row
+    {
+        Label& Name;
+        const char* Words;
+        ComboBox& List;
+        int Y;
+    };
+    for (const Row& Each :
+         {Row{lbl14, "Produit :", cbo_Produit, 118},
+          Row{lbl15, "Produit détaillé :", cbo_ProduitDétaillé, 150},
+          Row{lbl16, "Objet :", cbo_Objet, 182}, Row{lbl_Degré, "Degré :", cbo_Degré, 216}}) {
+        PlaceLabel(Each.Name, Each.Words, {MiddleX + 14, Each.Y, 112, High});
+        Place(Each.List, {MiddleX + 128, Each.Y, 354, 25});
+    }
+    for (ComboBox* Walk : {&cbo_Produit, &cbo_ProduitDétaillé, &cbo_Objet})
+        Walk->Sorted = true;
+    cbo_Degré.Width = 3135;
+    PlaceLabel(lbl_TypeDégats, "Type :", {MiddleX + 222, 216, 52, High});
+    Place(cbo_TypeDégats, {MiddleX + 276, 216, 206, 25});
+    for (Control* Degree :
+         {static_cast<Control*>(&lbl_Degré), static_cast<Control*>(&cbo_Degré),
+          static_cast<Control*>(&lbl_TypeDégats), static_cast<Control*>(&cbo_TypeDégats)})
+        Degree->Visible = false;
+}
+
+void frm_ArtisanatsManuels::DéfinirObjet()
+{
+    PlacePanel(shp_Niveau, {RightX, 86, RightWide, 58});
+    PlaceHeading(lbl12, "Niveau", {RightX + 14, 102, 120, 26});
+    PlaceTitle(lbl_Niveau, "", {RightX + 150, 98, 90, 34});
+    lbl_Niveau.Align = Alignment::Right;
+    Place(img_Niveau, {RightX + 254, 103, 24, 24});
+
+    PlacePanel(shp_Objet, {RightX, 154, RightWide, 228});
+    PlaceHeading(lbl31, "Informations sur l'objet", {RightX + 14, 158, 260, High});
+    PlaceRow(lbl32, "Niveau :", txt_Niveau, {RightX + 14, 188, 58, 0}, 54);
+    PlaceRow(lbl_AF, "AF :", txt_AF, {RightX + 14, 218, 58, 0}, 54);
+    PlaceRow(lbl_Dps, "Dps : ", txt_Dps, {RightX + 14, 248, 58, 0}, 54);
+    PlaceRow(lbl_Vit, "Vit. :", txt_Vit, {RightX + 14, 278, 58, 0}, 54);
+    Place(img_Icône, {RightX + 14, 306, 32, 32});
+    Place(img_Objet, {RightX + 134, 188, 150, 150});
+    PlaceRow(lbl_BonusSpécial, "Bonus spécial : ", txt_BonusSpécial, {RightX + 14, 346, 108, 0},
+             162);
+    for (Control* Statistic :
+         {static_cast<Control*>(&lbl_AF), static_cast<Control*>(&txt_AF),
+          static_cast<Control*>(&lbl_Dps), static_cast<Control*>(&txt_Dps),
+          static_cast<Control*>(&lbl_Vit), static_cast<Control*>(&txt_Vit),
+          static_cast<Control*>(&lbl_BonusSpécial), static_cast<Control*>(&txt_BonusSpécial)})
+        Statistic->Visible = false;
+}
+
+void frm_ArtisanatsManuels::DéfinirMatériaux()
+{
+    PlacePanel(shp_Matériaux, {MiddleX, 262, MiddleWide, 278});
+    PlaceHeading(lbl21, "Matériaux", {MiddleX + 14, 266, 300, High});
+    for (int i = 1; i <= 6; ++i) {
+        const int Y = 292 + (i - 1) * 29;
+        Place(txt_Matériaux[i], {MiddleX + 14, Y, 272, High});
+        txt_Matériaux[i].Align = Alignment::Left;
+        PlaceLabel(lbl_MatX[i], "x", {MiddleX + 288, Y, 14, High}, Alignment::Centre);
+        Place(txt_MatériauxQté[i], {MiddleX + 304, Y, 44, High});
+        PlaceLabel(lbl_Mat[i], "=", {MiddleX + 350, Y, 14, High}, Alignment::Centre);
+        Place(txt_PrixMat[i], {MiddleX + 366, Y, 116, High});
+        txt_MatériauxQté[i].StartWith("0");
+        txt_PrixMat[i].StartWith("0");
+        txt_PrixMat[i].Accepts = NumberKind::Montant;
+    }
+    PlaceRow(lbl23, "Prix coûtant :", txt_PrixCoûtant, {MiddleX + 178, 474, 188, 0}, 116);
+    PlaceRow(lbl22, "Prix de revente à un PNJ :", txt_PrixRevente, {MiddleX + 178, 504, 188, 0},
+             116);
+    for (Label* Total : {&lbl23, &lbl22})
+        Total->Align = Alignment::Right;
+    txt_PrixCoûtant.StartWith("0");
+    txt_PrixRevente.StartWith("0");
+}
+
+void frm_ArtisanatsManuels::DéfinirVente()
+{
+    PlacePanel(shp_InfosVente, {MiddleX, 550, MiddleWide, 140});
+    PlaceHeading(lbl_InfosVente, "Informations de vente", {MiddleX + 14, 556, 300, High});
+    PlaceRow(lbl411, "Nb d'objets :", txt_NbObjet, {MiddleX + 14, 594, 140, 0}, 66);
+    PlaceRow(lbl44, "Nb d'essais suppl. :", txt_NbEssais, {MiddleX + 14, 634, 140, 0}, 66);
+    PlaceRow(lbl48, "Prix coûtant :", txt_PrixCoûtantTotal, {MiddleX + 242, 594, 108, 0}, 132);
+    PlaceRow(lbl42, "Prix de vente :", txt_PrixVente, {MiddleX + 242, 634, 108, 0}, 132);
+    txt_NbObjet.StartWith("1");
+    txt_NbEssais.StartWith("0");
+    txt_PrixCoûtantTotal.StartWith("0");
+    txt_PrixVente.StartWith("0");
+    txt_NbObjet.OpenFor(NumberKind::Entier16);
+    txt_NbEssais.OpenFor(NumberKind::Entier16);
+}
+
+void frm_ArtisanatsManuels::DéfinirObjetSup()
+{
+    PlacePanel(shp_ObjetSup, {RightX, 392, RightWide, 242});
+    PlaceHeading(lbl_ObjetSup, "Objet nécessaire", {RightX + 14, 396, 220, High});
+    Place(txt_ObjetSup, {RightX + 14, 424, 230, High});
+    Place(img_ObjetSup, {RightX + 252, 416, 32, 32});
+    PlaceRow(lbl_NbObjetSup, "Nb :", txt_NbObjetSup, {RightX + 14, 454, 36, 0}, 44);
+    PlaceLabel(lbl_ObjetSupNiveau, "Niveau :", {RightX + 112, 454, 58, High});
+    PlaceLabel(lbl_ObjetSupNiveauCraft, "", {RightX + 172, 454, 50, High}, Alignment::Right);
+    Place(img_ObjetSupNiveau, {RightX + 232, 454, 24, 24});
+    for (int i = 1; i <= 4; ++i) {
+        const int Y = 484 + (i - 1) * 28;
+        Place(txt_MatSup[i], {RightX + 14, Y, 146, High});
+        txt_MatSup[i].Align = Alignment::Left;
+        PlaceLabel(lbl_MatSupX[i], "x", {RightX + 160, Y, 12, High}, Alignment::Centre);
+        Place(txt_MatSupQté[i], {RightX + 173, Y, 32, High});
+        PlaceLabel(lbl_MatSup[i], "=", {RightX + 206, Y, 12, High}, Alignment::Centre);
+        Place(txt_PrixMatSup[i], {RightX + 219, Y, 65, High});
+    }
+    PlaceRow(lbl_ObjetSUpPrixCoûtant, "Prix :", txt_ObjetSUpPrixCoûtant, {RightX + 128, 600, 56, 0},
+             100);
+    lbl_ObjetSUpPrixCoûtant.Align = Alignment::Right;
+    txt_NbObjetSup.StartWith("1");
+    txt_ObjetSUpPrixCoûtant.StartWith("0");
+    txt_ObjetSUpPrixCoûtant.OpenFor(NumberKind::Montant);
+    txt_ObjetSup.Locked = false;
+
+    for (Control* Each : Controls())
+        if (Each->Left() >= RightX * TwipsPerPixel && Each->Top() >= 392 * TwipsPerPixel)
+            Each->Visible = false; // the whole panel, until an object asks for another one
+}
+
+} // namespace orvane

@@ -1,0 +1,136 @@
+#include "base/notation.h"
+#include "base/number_text.h"
+#include "base/text.h"
+#include "crafts/manual/frm_artisanats_manuels.h"
+#include "settings/affichage.h"
+#include "shell/queries.h"
+#include "toolkit/calculation.h"
+
+#include <array>
+
+// What a degree makes of the chosen object: named materials with unit prices, levels, statistics
+// and the price a merchant pays for it.
+namespace orvane {
+
+namespace {
+
+// Material codes that are no key of the materials table.
+constexpr std::string_view SansMatériau = "10";
+constexpr std::string_view Patron = "8";
+constexpr std::string_view PrixLibre = "9";
+
+constexpr const char* NonDéfini = "ND";
+
+struct PremierNiveau
+{
+    double NiveauObjet;
+    const char* Niveau;
+};
+
+// Levels of the lowest degree that the formula doesn't give.
+constexpr std::array PremiersNiveaux{PremierNiveau{0, "2"}, PremierNiveau{1, "3"},
+                                     PremierNiveau{3, "5"}};
+
+std::string TexteNiveau(double NiveauObjet, std::int16_t Degré)
+{
+    if (Degré == 0)
+        for (const PremierNiveau& Each : PremiersNiveaux)
+            if (Each.NiveauObjet == NiveauObjet)
+                return Each.Niveau;
+    return T(NiveauObjet + Entier16(5 * Degré));
+}
+
+} // namespace
+
+void frm_ArtisanatsManuels::cbo_Degré_Click()
+{
+    {
+        const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+        Globals.TexteSQL = "SELECT * FROM Degrés_ListeTypes WHERE " + ColonneDegré + "=" +
+                           Quoted(cbo_Degré.Text());
+        NuméroDegré = PremierEnregistrement(Globals).Whole("NuméroDegré");
+        for (int i = 1; i <= 6; ++i)
+            RésoudreMatériau(txt_MatériauxBruts[i], txt_Matériaux[i], txt_PrixMatUnitaire[i]);
+
+        Globals.TexteSQL =
+            "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text());
+        const Recordset& Objet = PremierEnregistrement(Globals);
+        LireNiveaux(Objet);
+        txt_ObjetSupBis.Text = Objet.TextOrEmpty("NomObjet");
+        txt_NbObjetSup.Text = Objet.Text("NbObjet");
+        LireStatistiques(Objet);
+        txt_PrixRevente.Text = Objet.Text("PrixReventeDegré" + std::to_string(NuméroDegré));
+        Globals.Enregistrements.Empty();
+    }
+    ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
+    CalculerPrixMatériaux();
+    CalculerPrixVente();
+    for (int i = 1; i <= 6; ++i)
+        ActualiserVerrouPrix(txt_PrixMat[i], txt_Matériaux[i]);
+}
+
+// Needs the realm database open and NuméroDegré set.
+void frm_ArtisanatsManuels::RésoudreMatériau(TextBox& Code, TextBox& Nom, TextBox& Prix)
+{
+    if (Code.Text == SansMatériau)
+        return;
+    if (Code.Text == Patron) {
+        const std::string& Objet = cbo_Objet.Text();
+        const bool Couronne = Contains(Objet, "couronne") || Contains(Objet, "Couronne");
+        Nom.Text = Couronne ? "Patron pour couronne tressée" : "Patron pour chapeau pointu";
+        Prix.Text = "0,0050";
+        return;
+    }
+    Globals.TexteSQL = "SELECT * FROM Matériaux_Classique WHERE (Type=" + Code.Text() +
+                       " AND Degré=" + std::to_string(NuméroDegré) + ")";
+    const Recordset& Matériau = PremierEnregistrement(Globals);
+    Nom.Text = Matériau.Text("Nom");
+    Prix.Text = Matériau.Text("Prix");
+    Globals.Enregistrements.Empty();
+}
+
+void frm_ArtisanatsManuels::LireNiveaux(const Recordset& Objet)
+{
+    lbl_Niveau.Caption = T(Objet.Number("NiveauCraft") + Entier16(100 * NuméroDegré));
+    txt_Niveau.Text = TexteNiveau(Objet.Number("NiveauObjet"), NuméroDegré);
+}
+
+void frm_ArtisanatsManuels::LireStatistiques(const Recordset& Objet)
+{
+    const std::string& Métier = lbl_Artisanat.Caption();
+    if (Métier == "Empennage" || Métier == "Forge") {
+        txt_Dps.Text = Objet.Text("Dps") == NonDéfini
+                           ? NonDéfini
+                           : T(Objet.Number("Dps") + 1.5 * D(NuméroDegré));
+        txt_Vit.Text = Objet.Text("Vit");
+        txt_AF.Text = NonDéfini;
+        txt_BonusSpécial.Text = Objet.Text("BonusSpécial");
+    } else if (Métier == "Armurerie" || Métier == "Couture") {
+        const int Facteur = cbo_Produit.Text() == "Tissu" ? 1 : 2;
+        txt_AF.Text = std::to_string(Entier16(Facteur * I(txt_Niveau)));
+        txt_BonusSpécial.Text = Objet.Text("BonusSpécial");
+        txt_Dps.Text = NonDéfini;
+        txt_Vit.Text = NonDéfini;
+    }
+}
+
+// Shows or hides a row with its code, and opens its price for a material that the crafter prices.
+void frm_ArtisanatsManuels::txt_MatériauxBruts_Change(int i)
+{
+    const bool Montrée = txt_MatériauxBruts[i].Text != SansMatériau;
+    for (Control* Each : std::array<Control*, 5>{&txt_Matériaux[i], &txt_MatériauxQté[i],
+                                                 &lbl_MatX[i], &lbl_Mat[i], &txt_PrixMat[i]})
+        Each->Visible = Montrée;
+    const bool Libre = txt_MatériauxBruts[i].Text == PrixLibre;
+    txt_PrixMat[i].Locked = !Libre;
+    txt_PrixMat[i].BackColor = Libre ? InputGrey : White;
+}
+
+void frm_ArtisanatsManuels::MontrerStatistique(TextBox& Valeur, Label& Titre)
+{
+    const bool Montrée = Valeur.Text != NonDéfini;
+    Valeur.Visible = Montrée;
+    Titre.Visible = Montrée;
+}
+
+} // namespace orvane

@@ -1,0 +1,169 @@
+#pragma once
+
+#include "shell/feuille.h"
+
+#include <cstdint>
+#include <string>
+
+namespace orvane {
+
+// The four main trades: a walk down three lists to one object, a degree that gives it materials,
+// levels and statistics, and its cost and sale price. The text of a control is the value: handlers
+// read and write controls, and the writes set off further handlers.
+class frm_ArtisanatsManuels : public Feuille
+{
+  public:
+    static constexpr auto ScreenName = "frm_ArtisanatsManuels";
+
+    explicit frm_ArtisanatsManuels(Application& App);
+
+    void Load() override;
+    void Activate() override;
+    void WayBack() override;
+
+    // Trade, menu, choice
+    Image NAMED(img_Bannière);
+    Shape NAMED(shp_Artisanat);
+    PictureBox NAMED(pct_Artisanat);
+    Label NAMED(lbl_Artisanat);
+    SideMenu NAMED(Bar_Menus);
+    Shape NAMED(shp_Choix);
+    Label NAMED(lbl11);
+    Label NAMED(lbl14);
+    Label NAMED(lbl15);
+    Label NAMED(lbl16);
+    ComboBox NAMED(cbo_Produit);
+    ComboBox NAMED(cbo_ProduitDétaillé);
+    ComboBox NAMED(cbo_Objet);
+    Label NAMED(lbl_Degré);
+    ComboBox NAMED(cbo_Degré);
+    Label NAMED(lbl_TypeDégats);
+    ComboBox NAMED(cbo_TypeDégats);
+
+    // Level and object
+    Shape NAMED(shp_Niveau);
+    Label NAMED(lbl12);
+    Label NAMED(lbl_Niveau);
+    Image NAMED(img_Niveau);
+    Shape NAMED(shp_Objet);
+    Label NAMED(lbl31);
+    Label NAMED(lbl32);
+    TextBox NAMED(txt_Niveau);
+    Label NAMED(lbl_AF);
+    TextBox NAMED(txt_AF);
+    Label NAMED(lbl_Dps);
+    TextBox NAMED(txt_Dps);
+    Label NAMED(lbl_Vit);
+    TextBox NAMED(txt_Vit);
+    Label NAMED(lbl_BonusSpécial);
+    TextBox NAMED(txt_BonusSpécial);
+    Image NAMED(img_Icône);
+    Image NAMED(img_Objet);
+
+    // Materials
+    Shape NAMED(shp_Matériaux);
+    Label NAMED(lbl21);
+    Family<TextBox, 6> NAMED(txt_Matériaux);
+    Family<Label, 6> NAMED(lbl_MatX);
+    Family<TextBox, 6> NAMED(txt_MatériauxQté);
+    Family<Label, 6> NAMED(lbl_Mat);
+    Family<TextBox, 6> NAMED(txt_PrixMat);
+    Label NAMED(lbl23);
+    TextBox NAMED(txt_PrixCoûtant);
+    Label NAMED(lbl22);
+    TextBox NAMED(txt_PrixRevente);
+
+    // Sale
+    Shape NAMED(shp_InfosVente);
+    Label NAMED(lbl_InfosVente);
+    Label NAMED(lbl411);
+    TextBox NAMED(txt_NbObjet);
+    Label NAMED(lbl44);
+    TextBox NAMED(txt_NbEssais);
+    Label NAMED(lbl48);
+    TextBox NAMED(txt_PrixCoûtantTotal);
+    Label NAMED(lbl42);
+    TextBox NAMED(txt_PrixVente);
+
+    // Extra object
+    Shape NAMED(shp_ObjetSup);
+    Label NAMED(lbl_ObjetSup);
+    TextBox NAMED(txt_ObjetSup);
+    Label NAMED(lbl_NbObjetSup);
+    TextBox NAMED(txt_NbObjetSup);
+    Label NAMED(lbl_ObjetSupNiveau);
+    Label NAMED(lbl_ObjetSupNiveauCraft);
+    Image NAMED(img_ObjetSupNiveau);
+    Image NAMED(img_ObjetSup);
+    Label NAMED(lbl_ObjetSUpPrixCoûtant);
+    TextBox NAMED(txt_ObjetSUpPrixCoûtant);
+    Family<TextBox, 4> NAMED(txt_MatSup);
+    Family<Label, 4> NAMED(lbl_MatSupX);
+    Family<TextBox, 4> NAMED(txt_MatSupQté);
+    Family<Label, 4> NAMED(lbl_MatSup);
+    Family<TextBox, 4> NAMED(txt_PrixMatSup);
+
+    // Hidden holders: working values that are never shown
+    Family<TextBox, 6> NAMED(txt_MatériauxBruts);
+    Family<TextBox, 6> NAMED(txt_PrixMatUnitaire);
+    Family<TextBox, 4> NAMED(txt_PrixMatSuptUnitaire);
+    TextBox NAMED(txt_Sup);
+    TextBox NAMED(txt_Image);
+    TextBox NAMED(txt_Icône);
+    TextBox NAMED(txt_IconeObjetSup);
+    TextBox NAMED(txt_ObjetSupBis);
+
+    Button NAMED(cmd_AjouterPanier);
+    Button NAMED(cmd_Retour);
+
+  private:
+    // Definition
+    void Définir();
+    void DéfinirChoix();
+    void DéfinirObjet();
+    void DéfinirMatériaux();
+    void DéfinirVente();
+    void DéfinirObjetSup();
+    void Relier(); // handlers to their controls
+
+    // Selection
+    void ConstruireMenu();
+    void Bar_Menus_ItemClick(const SideMenu::Item& Entrée);
+    void PrendreArtisanat(const std::string& Nom);
+    void EffacerSélection(std::int16_t Palier);
+    void EffacerMatériaux();
+    void EffacerInfosObjet();
+    void RemplirProduits();
+    void cbo_Produit_Click();
+    void cbo_ProduitDétaillé_Click();
+    void cbo_Objet_Click();
+    void LireObjet();
+    void PréparerTypeDégats();
+    void txt_Sup_Change();
+    void txt_Image_Change();
+    void MontrerIcône(const TextBox& Fichier, Image& Icône, const std::string& Dossier);
+
+    // Degree
+    void cbo_Degré_Click();
+    void RésoudreMatériau(TextBox& Code, TextBox& Nom, TextBox& Prix);
+    void LireNiveaux(const Recordset& Objet);
+    void LireStatistiques(const Recordset& Objet);
+    void txt_MatériauxBruts_Change(int i);
+    void MontrerStatistique(TextBox& Valeur, Label& Titre);
+
+    // Costing
+    void CalculerPrixMatériaux();
+    void CalculerPrixVente();
+    void ActualiserVerrouPrix(TextBox& Prix, TextBox& Nom);
+
+    void cmd_AjouterPanier_Click();
+
+    std::int16_t NiveauCraft = 0;    // the crafter's level in the trade in hand
+    std::int16_t NiveauAlchimie = 0; // and in alchemy
+    std::int16_t Marge = 0;          // percent, on the objects
+    std::int16_t MargeEssais = 0;    // percent, on the extra trials
+    std::string ColonneDegré;     // column of Degrés_ListeTypes that spells the product's degrees
+    std::int16_t NuméroDegré = 0; // of the degree chosen last
+};
+
+} // namespace orvane

@@ -1,0 +1,213 @@
+#include "base/text.h"
+#include "crafts/manual/frm_artisanats_manuels.h"
+#include "shell/queries.h"
+
+#include <array>
+
+// The walk down the lists, from the products of a trade to one object and the degrees it may have.
+namespace orvane {
+
+namespace {
+
+constexpr int DegréLarge = 3135; // twips
+constexpr int DegréÉtroit = 1215;
+
+struct RègleDegrés
+{
+    const char* Sup;
+    const char* Restriction;
+};
+
+// The letter of an object decides which degrees exist.
+constexpr std::array RèglesDegrés{
+    RègleDegrés{"O", " WHERE NuméroDegré>3"}, RègleDegrés{"N", ""},
+    RègleDegrés{"S", " WHERE NuméroDegré=0"}, RègleDegrés{"E", " WHERE NuméroDegré=9"},
+    RègleDegrés{"A", " WHERE NuméroDegré>7"},
+};
+
+const RègleDegrés* Chercher(const std::string& Sup)
+{
+    for (const RègleDegrés& Each : RèglesDegrés)
+        if (Sup == Each.Sup)
+            return &Each;
+    return nullptr;
+}
+
+template <class Family>
+void ÉcrirePartout(Family& Boxes, const char* Text)
+{
+    for (TextBox& Box : Boxes)
+        Box.Text = Text;
+}
+
+} // namespace
+
+// Clears the screen from one level of the cascade down: 1 the products, 2 their details, 3 the
+// objects, 4 what belongs to one object.
+void frm_ArtisanatsManuels::EffacerSélection(std::int16_t Palier)
+{
+    if (Palier <= 1)
+        cbo_Produit.Clear();
+    if (Palier <= 2) {
+        cbo_ProduitDétaillé.Clear();
+        cbo_Degré.Clear();
+    }
+    if (Palier <= 3) {
+        cbo_Objet.Clear();
+        txt_Image.Text = "";
+        txt_Icône.Text = "";
+        lbl_TypeDégats.Visible = false;
+        cbo_TypeDégats.Visible = false;
+        cbo_Degré.Width = DegréLarge;
+        txt_ObjetSup.Text = "";
+        txt_ObjetSupBis.Text = "";
+    }
+    txt_Sup.Text = "";
+    EffacerMatériaux();
+    EffacerInfosObjet();
+}
+
+// Prices are recalculated as they fall; counts, totals and level aren't written here.
+void frm_ArtisanatsManuels::EffacerMatériaux()
+{
+    ÉcrirePartout(txt_Matériaux, "");
+    ÉcrirePartout(txt_MatériauxBruts, "");
+    ÉcrirePartout(txt_MatériauxQté, "0");
+    ÉcrirePartout(txt_PrixMatUnitaire, "0");
+    ÉcrirePartout(txt_PrixMat, "0");
+    txt_PrixRevente.Text = "0";
+    txt_PrixCoûtant.Text = "0";
+    ÉcrirePartout(txt_MatSup, "");
+    ÉcrirePartout(txt_MatSupQté, "0");
+    ÉcrirePartout(txt_PrixMatSuptUnitaire, "0");
+    ÉcrirePartout(txt_PrixMatSup, "0");
+    txt_ObjetSUpPrixCoûtant.Text = "0";
+    txt_NbObjetSup.Text = "1";
+}
+
+void frm_ArtisanatsManuels::EffacerInfosObjet()
+{
+    for (TextBox* Info : {&txt_Dps, &txt_Vit, &txt_AF, &txt_Niveau, &txt_BonusSpécial})
+        Info->Text = "";
+}
+
+void frm_ArtisanatsManuels::RemplirProduits()
+{
+    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    Globals.TexteSQL =
+        "SELECT DISTINCT Classique_Produits.Nom,Artisanat_Liste.Nom FROM R_Classique "
+        "WHERE (Artisanat_Liste.Nom=" +
+        Quoted(lbl_Artisanat.Caption()) + ")";
+    RemplirListe(Globals, cbo_Produit, "Classique_Produits.Nom");
+}
+
+void frm_ArtisanatsManuels::cbo_Produit_Click()
+{
+    EffacerSélection(2);
+    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    if (cbo_Produit.Text() == "Armes légendaires") {
+        App.Feuilles.Touch("frm_ArmesLégendaires").Show();
+        return;
+    }
+    Globals.TexteSQL = "SELECT DISTINCT Classique_ProduitsDétaillés.Nom,Classique_Produits.Nom "
+                       "FROM R_Classique WHERE ((Artisanat_Liste.Nom = " +
+                       Quoted(lbl_Artisanat.Caption()) +
+                       ") AND (Classique_Produits.Nom=" + Quoted(cbo_Produit.Text()) + "))";
+    RemplirListe(Globals, cbo_ProduitDétaillé, "Classique_ProduitsDétaillés.Nom");
+}
+
+void frm_ArtisanatsManuels::cbo_ProduitDétaillé_Click()
+{
+    EffacerSélection(3);
+    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    if (cbo_ProduitDétaillé.Text() == "Carreaux" || cbo_ProduitDétaillé.Text() == "Flèches") {
+        App.Feuilles.Touch("frm_Archerie").Show();
+        return;
+    }
+    Globals.TexteSQL =
+        "SELECT * FROM R_Classique WHERE ((Artisanat_Liste.Nom = " +
+        Quoted(lbl_Artisanat.Caption()) +
+        ") AND (Classique_Produits.Nom = " + Quoted(cbo_Produit.Text()) +
+        ") AND (Classique_ProduitsDétaillés.Nom = " + Quoted(cbo_ProduitDétaillé.Text()) + "))";
+    RemplirListe(Globals, cbo_Objet, "Classique_ListeObjets.Nom");
+}
+
+void frm_ArtisanatsManuels::cbo_Objet_Click()
+{
+    EffacerSélection(4);
+    LireObjet();
+    PréparerTypeDégats();
+}
+
+void frm_ArtisanatsManuels::LireObjet()
+{
+    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    Globals.TexteSQL = "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text());
+    const std::string Sup = PremierEnregistrement(Globals).Text("Sup");
+    txt_Sup.Text = Sup; // its handler uses the open database and the slot of this very set
+
+    Globals.TexteSQL = "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text());
+    const Recordset& Objet = PremierEnregistrement(Globals);
+    for (int i = 1; i <= 6; ++i)
+        txt_MatériauxBruts[i].Text = Objet.Text("Mat" + std::to_string(i));
+    for (int i = 1; i <= 6; ++i)
+        txt_MatériauxQté[i].Text = Objet.Text("Qté" + std::to_string(i));
+    txt_Image.Text = Objet.TextOrEmpty("Image");
+    txt_Icône.Text = Objet.TextOrEmpty("Icône");
+    Globals.Enregistrements.Empty();
+}
+
+void frm_ArtisanatsManuels::PréparerTypeDégats()
+{
+    const std::string& Objet = cbo_Objet.Text();
+    const bool AvecType =
+        ContainsIgnoringCase(Objet, "durable") || ContainsIgnoringCase(Objet, "supérieur");
+    lbl_TypeDégats.Visible = AvecType;
+    cbo_TypeDégats.Visible = AvecType;
+    cbo_Degré.Width = AvecType ? DegréÉtroit : DegréLarge;
+    if (!AvecType)
+        return;
+    cbo_TypeDégats.Clear();
+    cbo_TypeDégats.AddItem("de feu");
+    cbo_TypeDégats.AddItem("de glace");
+    cbo_TypeDégats.AddItem(FirstCharacters(Objet, 3) == "Arc" ? "conducteur" : "conductrice");
+}
+
+void frm_ArtisanatsManuels::txt_Sup_Change()
+{
+    cbo_Degré.Clear();
+    const RègleDegrés* Règle = Chercher(txt_Sup.Text);
+    lbl_Degré.Visible = Règle != nullptr;
+    cbo_Degré.Visible = Règle != nullptr;
+    if (Règle == nullptr) // emptied, or a letter without degrees: no database is needed
+        return;
+    Globals.TexteSQL = "SELECT DISTINCT Classique_ProduitsDétaillés.Nom,Classique_Produits.Nom, "
+                       "Degré FROM R_Classique WHERE (Artisanat_Liste.Nom=" +
+                       Quoted(lbl_Artisanat.Caption()) +
+                       " AND Classique_Produits.Nom=" + Quoted(cbo_Produit.Text()) + ")";
+    const std::string Degré = PremierEnregistrement(Globals).Text("Degré");
+    Globals.TexteSQL = std::string("SELECT * FROM Degrés_ListeTypes") + Règle->Restriction;
+    ColonneDegré = "DegréType" + Degré;
+    RemplirListe(Globals, cbo_Degré, ColonneDegré);
+}
+
+void frm_ArtisanatsManuels::txt_Image_Change()
+{
+    const orvane::Picture PasImage = App.Images.LoadOr(App.Chemin("/Objets/Commun/PasImage.gif"));
+    img_Objet.Picture = txt_Image.Text == ""
+                            ? PasImage
+                            : App.Images.LoadOr(App.Chemin("/Objets/" + Globals.RoyaumeCourant +
+                                                           "/" + txt_Image.Text()),
+                                                PasImage);
+}
+
+void frm_ArtisanatsManuels::MontrerIcône(const TextBox& Fichier, Image& Icône,
+                                         const std::string& Dossier)
+{
+    Icône.Picture =
+        Fichier.Text == ""
+            ? orvane::Picture()
+            : App.Images.LoadOr(App.Chemin("/Objets/" + Dossier + "/" + Fichier.Text()));
+}
+
+} // namespace orvane

@@ -1,0 +1,120 @@
+#include "settings/frm_configuration.h"
+
+#include "base/number_text.h"
+#include "shell/queries.h"
+
+namespace orvane {
+
+frm_Configuration::frm_Configuration(Application& App)
+    : Feuille(App, ScreenName, "Configuration - Définition des marges et du niveau d'artisanat")
+{
+    const std::string Listes = App.Chemin("/Interface/Listes");
+    imglst_CouleurCraft.Fill(Listes, "CouleurCraft", 7, 24);
+    imglst_CraftPetit.Fill(Listes, "CraftPetit", 11, 16);
+    imglst_CraftGrand.Fill(Listes, "CraftGrand", 11, 32);
+    Définir();
+    pct_Logo.Picture = App.Images.LoadOr(App.Chemin("/Interface/Logo.png"));
+    cmd_Validation.OnClick = [this] { cmd_Validation_Click(); };
+    cmd_Couleur.OnClick = [this] { cmd_Couleur_Click(); };
+}
+
+std::array<RéglagesArtisanat, 11> frm_Configuration::Réglages()
+{
+    return {{
+        {&txt_NiveauArmurerie, &txt_MargeArmurerie, &txt_EssaiArmurerie},
+        {&txt_NiveauCouture, &txt_MargeCouture, &txt_EssaiCouture},
+        {&txt_NiveauEmpennage, &txt_MargeEmpennage, &txt_EssaiEmpennage},
+        {&txt_NiveauForge, &txt_MargeForge, &txt_EssaiForge},
+        {&txt_NiveauAlchimie, &txt_MargeAlchimie, nullptr},
+        {&txt_NiveauArcanes, &txt_MargeArcanes, &txt_EssaiArcanes},
+        {&txt_NiveauMaroquinerie, &txt_MargeMaroquinerie, nullptr},
+        {&txt_NiveauMenuiserie, nullptr, nullptr},
+        {&txt_NiveauMétallurgie, &txt_MargeMétallurgie, nullptr},
+        {&txt_NiveauTissage, &txt_MargeTissage, nullptr},
+        {nullptr, &txt_MargeLégendaires, &txt_EssaiLégendaires},
+    }};
+}
+
+std::string frm_Configuration::ColonnesPour(const std::string& Royaume)
+{
+    return "Num, Craft" + Royaume + ", Marges1" + Royaume + ", Marges2" + Royaume;
+}
+
+void frm_Configuration::cmd_Validation_Click()
+{
+    if (!ToutEstValable())
+        return;
+    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminConfig);
+    EnregistrerRéglages();
+    EnregistrerChoix("DernièreSkin", cbo_Skin, "txt_Skin");
+    EnregistrerChoix("DernièreRésolution", cbo_Résolution, "txt_Résolution");
+    Globals.BaseDonnées.Empty();
+    Hide();
+}
+
+void frm_Configuration::cmd_Couleur_Click()
+{
+    if (const auto Couleur = App.TheDialogs.ShowColor())
+        App.MsgBox(std::to_string(Couleur->Number));
+}
+
+bool frm_Configuration::ToutEstValable()
+{
+    std::string Faute;
+    if (cbo_Résolution.FindItem(cbo_Résolution.Text) < 0)
+        Faute = "La résolution « " + cbo_Résolution.Text + " » n’existe pas.";
+    if (cbo_Skin.FindItem(cbo_Skin.Text) < 0)
+        Faute = "La skin « " + cbo_Skin.Text + " » n’existe pas.";
+    for (const RéglagesArtisanat& Artisanat : Réglages())
+        for (TextBox* Case : {Artisanat.Niveau, Artisanat.Marge, Artisanat.Essai})
+            if (Case != nullptr) {
+                Case->Marked = !Entier16FromText(Case->Text());
+                if (Case->Marked)
+                    Faute = "Les cases marquées doivent contenir un nombre entier.";
+            }
+    if (!Faute.empty())
+        App.MsgBox(Faute + "\nRien n’a été enregistré.");
+    return Faute.empty();
+}
+
+void frm_Configuration::EnregistrerRéglages()
+{
+    const std::string& Royaume = Globals.RoyaumeCourant;
+    ColonnesRoyaume = ColonnesPour(Royaume);
+    Globals.TexteSQL = "SELECT " + ColonnesRoyaume + " FROM ConfigRoyaume ORDER BY Num";
+    Recordset& Lignes = PremierEnregistrement(Globals);
+    for (const RéglagesArtisanat& Artisanat : Réglages()) {
+        Lignes.Edit();
+        if (Artisanat.Niveau != nullptr)
+            Lignes.Set("Craft" + Royaume, Artisanat.Niveau->Text());
+        if (Artisanat.Marge != nullptr)
+            Lignes.Set("Marges1" + Royaume, Artisanat.Marge->Text());
+        if (Artisanat.Essai != nullptr)
+            Lignes.Set("Marges2" + Royaume, Artisanat.Essai->Text());
+        Lignes.Update();
+        Lignes.MoveNext();
+    }
+    Globals.Enregistrements.Empty();
+}
+
+void frm_Configuration::EnregistrerChoix(const std::string& Table, ComboBox& Liste,
+                                         const char* Case)
+{
+    Globals.TexteSQL = "SELECT Nom FROM " + Table;
+    Recordset& Ligne = PremierEnregistrement(Globals);
+    Ligne.Edit();
+    Ligne.Set("Nom", Liste.Text());
+    Ligne.Update();
+    Globals.Enregistrements.Empty();
+    auto& Courant = static_cast<TextBox&>(App.Feuilles.Touch("frm_Accueil").Find(Case));
+    if (Courant.Text != Liste.Text())
+        Courant.Text = Liste.Text();
+}
+
+void LireRéglage(const TextBox& Réglage, std::int16_t& Variable)
+{
+    if (const auto Valeur = Entier16FromText(Réglage.Text()))
+        Variable = *Valeur;
+}
+
+} // namespace orvane

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "shell/shared_state.h"
+#include "toolkit/dialogs.h"
+#include "toolkit/forms.h"
+#include "toolkit/picture.h"
+#include "toolkit/user.h"
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace orvane {
+
+// One run of the program: owns all that its screens share. As many can live side by side as there
+// are folders.
+class Application
+{
+  public:
+    // Folder is the program's own: databases and pictures lie in it.
+    Application(std::filesystem::path Folder, Dialogs& TheDialogs);
+
+    // Folder and a relative path that begins with its separator: Chemin("/Config.mdb").
+    std::string Chemin(const std::string& Relative) const;
+
+    // The message of a handler's guard, in a box with one OK button.
+    void MsgBox(const std::string& Text) { TheDialogs.MsgBox(Text); }
+
+    // Something to be told once, after start-up, together with whatever else there is.
+    void Notice(std::string Text) { Notices.push_back(std::move(Text)); }
+
+    // Tells the notices and the pictures that were missing, in one box if there is anything.
+    void TellNotices();
+
+    // Empties the shared slots: runs at the end of each event.
+    void EmptySlots();
+
+    Store Bases;
+    Variables Globals;
+    Forms Feuilles;
+    PictureFiles Images;
+    Dialogs& TheDialogs;
+    User Door;
+    std::function<void()> OnQuit = [] {}; // ends the process
+
+  private:
+    std::filesystem::path Folder;
+    std::vector<std::string> Notices;
+};
+
+} // namespace orvane

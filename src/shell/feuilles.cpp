@@ -1,0 +1,59 @@
+#include "shell/feuilles.h"
+
+#include "basket/frm_panier.h"
+#include "crafts/manual/frm_artisanats_manuels.h"
+#include "settings/frm_configuration.h"
+#include "shell/frm_accueil.h"
+#include "shell/frm_avenir.h"
+
+#include <array>
+
+namespace orvane {
+
+namespace {
+
+struct ÀVenir
+{
+    const char* Nom;
+    const char* Titre;
+    Retour Comment;
+};
+
+constexpr std::array FeuillesÀVenir{
+    ÀVenir{"frm_Archerie", "Archerie", Retour::Cacher},
+    ÀVenir{"frm_ArmesLégendaires", "Armes Légendaires", Retour::Cacher},
+    ÀVenir{"frm_ArtisanatsMagiques", "Artisanats magiques", Retour::CacherPuisAccueil},
+    ÀVenir{"frm_ArtisanatsSecondaires", "Artisanats Secondaires", Retour::CacherPuisAccueil},
+    ÀVenir{"frm_News", "Orvane Artisanats - News", Retour::AccueilPuisCacher},
+    ÀVenir{"frm_Statut", "Mise à Jour", Retour::Cacher},
+};
+
+template <class ScreenType>
+void Enregistrer(Application& App)
+{
+    App.Feuilles.Register(ScreenType::ScreenName,
+                          [&App] { return std::make_unique<ScreenType>(App); });
+}
+
+} // namespace
+
+void EnregistrerFeuilles(Application& App)
+{
+    Enregistrer<frm_Accueil>(App);
+    Enregistrer<frm_Configuration>(App);
+    Enregistrer<frm_ArtisanatsManuels>(App);
+    Enregistrer<frm_Panier>(App);
+    for (const ÀVenir& Each : FeuillesÀVenir)
+        App.Feuilles.Register(Each.Nom, [&App, &Each] {
+            return std::make_unique<frm_Avenir>(App, Each.Nom, Each.Titre, Each.Comment);
+        });
+}
+
+void Démarrer(Application& App)
+{
+    App.Feuilles.Get<frm_Accueil>().Show();
+    App.EmptySlots();
+    App.TellNotices();
+}
+
+} // namespace orvane

@@ -1,0 +1,176 @@
+#include "shell/frm_accueil.h"
+
+#include "basket/affichage.h"
+#include "settings/frm_configuration.h"
+#include "shell/navigation.h"
+#include "shell/queries.h"
+#include "store/catalogue.h"
+
+#include <algorithm>
+
+namespace orvane {
+
+frm_Accueil::frm_Accueil(Application& App) : Feuille(App, ScreenName, "Orvane - Artisanats")
+{
+    Définir();
+    for (const Écu& Each : Écus()) {
+        MontrerÉcu(Each, false);
+        Each.Bouclier->OnClick = [this, Royaume = Each.Royaume] { ChoisirRoyaume(Royaume); };
+    }
+    cmd_ArtisanatsManuels.OnClick = [this] {
+        OuvrirArtisanat("frm_ArtisanatsManuels",
+                        {"frm_ArtisanatsManuels", "frm_Archerie", "frm_ArmesLégendaires"});
+    };
+    cmd_ArtisanatsMagiques.OnClick = [this] {
+        OuvrirArtisanat("frm_ArtisanatsMagiques", {"frm_ArtisanatsMagiques"});
+    };
+    cmd_ArtisanatsSecondaires.OnClick = [this] {
+        OuvrirArtisanat("frm_ArtisanatsSecondaires", {"frm_ArtisanatsSecondaires"});
+    };
+    cmd_Configuration.OnClick = [this] { cmd_Configuration_Click(); };
+    cmd_News.OnClick = [this] { cmd_News_Click(); };
+    cmd_Quitter.OnClick = [this] { cmd_Quitter_Click(); };
+}
+
+void frm_Accueil::Load()
+{
+    Globals.CheminPanier = App.Chemin("/Panier.mdb");
+    Globals.CheminAlchimie = App.Chemin("/Artisanat_Alchimie.mdb");
+    Globals.CheminConfig = App.Chemin("/Config.mdb");
+    {
+        const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminConfig);
+        RestaurerRoyaume();
+        auto& Configuration = App.Feuilles.Get<frm_Configuration>();
+        txt_Skin.Text = RestaurerChoix("SkinsListe", "DernièreSkin", Configuration.cbo_Skin);
+        txt_Résolution.Text =
+            RestaurerChoix("RésolutionsListe", "DernièreRésolution", Configuration.cbo_Résolution);
+    }
+    ChargerConfigRoyaume();
+    RemplirCommandes(App);
+}
+
+void frm_Accueil::ChargerConfigRoyaume()
+{
+    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminConfig);
+    const std::string& Royaume = Globals.RoyaumeCourant;
+    ColonnesRoyaume = frm_Configuration::ColonnesPour(Royaume);
+    Globals.TexteSQL = "SELECT " + ColonnesRoyaume + " FROM ConfigRoyaume ORDER BY Num";
+    Recordset& Lignes = PremierEnregistrement(Globals);
+    for (const RéglagesArtisanat& Artisanat : App.Feuilles.Get<frm_Configuration>().Réglages()) {
+        if (Artisanat.Niveau != nullptr)
+            Artisanat.Niveau->Text = Lignes.Text("Craft" + Royaume);
+        if (Artisanat.Marge != nullptr)
+            Artisanat.Marge->Text = Lignes.Text("Marges1" + Royaume);
+        if (Artisanat.Essai != nullptr)
+            Artisanat.Essai->Text = Lignes.Text("Marges2" + Royaume);
+        Lignes.MoveNext();
+    }
+    Globals.Enregistrements.Empty();
+}
+
+std::vector<frm_Accueil::Écu> frm_Accueil::Écus()
+{
+    const auto Noms = Royaumes();
+    return {{Noms[0], &img_Valdren}, {Noms[1], &img_Corvane}, {Noms[2], &img_Brenmoor}};
+}
+
+void frm_Accueil::MontrerÉcu(const Écu& Which, bool Choisi)
+{
+    Which.Bouclier->Picture = App.Images.LoadOr(
+        App.Chemin("/Interface/Ecu" + Which.Royaume + (Choisi ? "Ombre" : "") + ".gif"));
+    Which.Bouclier->Tip = "Royaume de " + Which.Royaume + (Choisi ? " (royaume choisi)" : "");
+}
+
+void frm_Accueil::RestaurerRoyaume()
+{
+    Globals.TexteSQL = "SELECT Nom FROM DernierRoyaume";
+    const std::string Dernier = PremierEnregistrement(Globals).Text("Nom");
+    const auto Tous = Écus();
+    auto Choisi = std::ranges::find(Tous, Dernier, &Écu::Royaume);
+    if (Choisi == Tous.end()) {
+        Choisi = Tous.begin();
+        App.Notice("Le royaume « " + Dernier + " » n’existe pas\u00A0: " + Choisi->Royaume +
+                   " est choisi à sa place.");
+    }
+    Globals.RoyaumeCourant = Choisi->Royaume;
+    MontrerÉcu(*Choisi, true);
+    Globals.CheminRoyaume = App.Chemin("/Artisanat_" + Globals.RoyaumeCourant + ".mdb");
+    Globals.Enregistrements.Empty();
+}
+
+std::string frm_Accueil::RestaurerChoix(const std::string& Liste, const std::string& Dernier,
+                                        ComboBox& Box)
+{
+    Globals.TexteSQL = "SELECT Nom FROM " + Liste + " ORDER BY Num";
+    const std::string Premier = PremierEnregistrement(Globals).Text("Nom");
+    RemplirListe(Globals, Box, "Nom");
+    Globals.TexteSQL = "SELECT Nom FROM " + Dernier;
+    std::string Choix = PremierEnregistrement(Globals).Text("Nom");
+    Globals.Enregistrements.Empty();
+    if (Box.FindItem(Choix) < 0) {
+        App.Notice("« " + Choix + " » n’existe plus\u00A0: « " + Premier +
+                   " » est choisi à sa place.");
+        Choix = Premier;
+    }
+    Box.Text = Choix;
+    return Choix;
+}
+
+void frm_Accueil::ChoisirRoyaume(const std::string& Royaume)
+{
+    for (const Écu& Each : Écus())
+        if (Each.Royaume != Royaume && Each.Royaume == Globals.RoyaumeCourant)
+            MontrerÉcu(Each, false);
+    Globals.RoyaumeCourant = Royaume;
+    Globals.CheminRoyaume = App.Chemin("/Artisanat_" + Royaume + ".mdb");
+    for (const Écu& Each : Écus())
+        if (Each.Royaume == Royaume)
+            MontrerÉcu(Each, true);
+    ChargerConfigRoyaume();
+}
+
+void frm_Accueil::OuvrirArtisanat(const std::string& Nom, const std::vector<std::string>& AvecIcône)
+{
+    Screen& Atelier = App.Feuilles.Touch(Nom);
+    PoserBannière(App, static_cast<Image&>(Atelier.Find("img_Bannière")));
+    for (const std::string& Each : AvecIcône)
+        PoserIcône(App, App.Feuilles.Touch(Each));
+    Atelier.Show();
+    Hide();
+}
+
+void frm_Accueil::cmd_Configuration_Click()
+{
+    auto& Configuration = App.Feuilles.Get<frm_Configuration>();
+    PoserBannière(App, Configuration.img_Bannière);
+    Configuration.Show();
+}
+
+void frm_Accueil::cmd_News_Click()
+{
+    Hide();
+    App.Feuilles.Touch("frm_News").Show();
+}
+
+void frm_Accueil::cmd_Quitter_Click()
+{
+    try {
+        EnregistrerRoyaume();
+    } catch (const Failure& Given) { // a folder that can't be written must not keep anybody in
+        App.MsgBox(Given.Sentence());
+    }
+    App.OnQuit();
+}
+
+void frm_Accueil::EnregistrerRoyaume()
+{
+    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminConfig);
+    Globals.TexteSQL = "SELECT Nom FROM DernierRoyaume";
+    Recordset& Ligne = PremierEnregistrement(Globals);
+    Ligne.Edit();
+    Ligne.Set("Nom", Globals.RoyaumeCourant);
+    Ligne.Update();
+    Globals.Enregistrements.Empty();
+}
+
+} // namespace orvane

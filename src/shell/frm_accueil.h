@@ -1,0 +1,75 @@
+#pragma once
+
+#include "shell/feuille.h"
+#include "store/store.h"
+
+#include <string>
+#include <vector>
+
+namespace orvane {
+
+// The home screen: the realm's shields and six buttons. Its load event is the start of the run.
+class frm_Accueil : public Feuille
+{
+  public:
+    static constexpr auto ScreenName = "frm_Accueil";
+
+    explicit frm_Accueil(Application& App);
+
+    void Load() override;
+
+    // Closing by the frame is quitting.
+    void WayBack() override { cmd_Quitter_Click(); }
+
+    // Copies the rows of ConfigRoyaume for the current realm into the boxes of frm_Configuration.
+    void ChargerConfigRoyaume();
+
+    Shape NAMED(shp_Royaumes);
+    Shape NAMED(shp_Ateliers);
+    Label NAMED(lbl_Titre);
+    Label NAMED(lbl_SousTitre);
+    Label NAMED(lbl_Royaumes);
+    Image NAMED(img_Valdren);
+    Image NAMED(img_Corvane);
+    Image NAMED(img_Brenmoor);
+    Label NAMED(lbl_Valdren);
+    Label NAMED(lbl_Corvane);
+    Label NAMED(lbl_Brenmoor);
+    Button NAMED(cmd_ArtisanatsManuels);
+    Button NAMED(cmd_ArtisanatsMagiques);
+    Button NAMED(cmd_ArtisanatsSecondaires);
+    Button NAMED(cmd_Configuration);
+    Button NAMED(cmd_News);
+    Button NAMED(cmd_Quitter);
+    TextBox NAMED(txt_Skin); // hidden: writing either one sets off a change of look
+    TextBox NAMED(txt_Résolution);
+
+  private:
+    // A realm and the shield that stands for it.
+    struct Écu
+    {
+        std::string Royaume;
+        Image* Bouclier;
+    };
+
+    void Définir();
+    std::vector<Écu> Écus();
+    void MontrerÉcu(const Écu& Which, bool Choisi);
+
+    void RestaurerRoyaume();
+
+    // Fills the list from Liste and writes the last choice, the row of Dernier, to its text. A last
+    // choice that is no longer in the list gives way to the first of the list, which is told later.
+    std::string RestaurerChoix(const std::string& Liste, const std::string& Dernier, ComboBox& Box);
+
+    void ChoisirRoyaume(const std::string& Royaume);
+    void OuvrirArtisanat(const std::string& Feuille, const std::vector<std::string>& AvecIcône);
+    void cmd_Configuration_Click();
+    void cmd_News_Click();
+    void cmd_Quitter_Click();
+    void EnregistrerRoyaume();
+
+    std::string ColonnesRoyaume;
+};
+
+} // namespace orvane
