@@ -51,6 +51,11 @@ std::optional<NumberParts> SplitNumber(std::string_view Text)
     return Parts;
 }
 
+bool IsBelowOne(const NumberParts& Parts)
+{
+    return Parts.Whole.find_first_not_of('0') == std::string_view::npos;
+}
+
 // Appends one decimal digit; false when the magnitude no longer fits.
 bool Append(std::uint64_t& Magnitude, char Digit)
 {
@@ -129,7 +134,10 @@ std::optional<double> DoubleFromText(std::string_view Text)
     const std::string Plain =
         "0" + std::string(Parts->Whole) + "." + std::string(Parts->Fraction) + "0";
     double Value = 0;
-    if (std::from_chars(Plain.data(), Plain.data() + Plain.size(), Value).ec != std::errc())
+    const auto Read = std::from_chars(Plain.data(), Plain.data() + Plain.size(), Value);
+    if (Read.ec == std::errc::result_out_of_range && IsBelowOne(*Parts))
+        Value = 0; // too small for a double
+    else if (Read.ec != std::errc())
         return std::nullopt;
     return Parts->Negative ? -Value : Value;
 }

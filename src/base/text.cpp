@@ -98,7 +98,7 @@ std::string FirstCharacters(std::string_view Text, std::size_t Count)
 {
     const icu::UnicodeString Wide = Unicode(Text);
     const auto Bounds = Boundaries(Wide);
-    return Count + 1 >= Bounds.size() ? std::string(Text)
+    return Count >= Bounds.size() - 1 ? std::string(Text)
                                       : Utf8(Wide.tempSubStringBetween(0, Bounds[Count]));
 }
 
@@ -106,7 +106,7 @@ std::string WithoutLastCharacters(std::string_view Text, std::size_t Count)
 {
     const icu::UnicodeString Wide = Unicode(Text);
     const auto Bounds = Boundaries(Wide);
-    return Count + 1 >= Bounds.size()
+    return Count >= Bounds.size() - 1
                ? std::string()
                : Utf8(Wide.tempSubStringBetween(0, Bounds[Bounds.size() - 1 - Count]));
 }

@@ -12,6 +12,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <sys/stat.h>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -24,18 +25,20 @@ constexpr int BusyMilliseconds = 250;
 // What tells one state of a file from another.
 struct Stamp
 {
-    std::filesystem::file_time_type Time;
-    std::uintmax_t Size = 0;
+    ino_t File = 0;
+    off_t Size = 0;
+    std::int64_t Changed = 0; // nanoseconds
 
     friend bool operator==(const Stamp&, const Stamp&) = default;
 };
 
 std::optional<Stamp> StampOf(const std::filesystem::path& File)
 {
-    std::error_code Error;
-    const auto Time = std::filesystem::last_write_time(File, Error);
-    const auto Size = Error ? 0 : std::filesystem::file_size(File, Error);
-    return Error ? std::nullopt : std::optional(Stamp{Time, Size});
+    struct stat Status = {};
+    if (::stat(File.c_str(), &Status) != 0)
+        return std::nullopt;
+    return Stamp{Status.st_ino, Status.st_size,
+                 std::int64_t{Status.st_mtim.tv_sec} * 1'000'000'000 + Status.st_mtim.tv_nsec};
 }
 
 // A query's shape: its words, with each literal as the question marks that it takes. Two texts of
@@ -50,7 +53,9 @@ std::string ShapeOf(Tokens Query, std::vector<Value>& Parameters)
             continue;
         }
         Literal Given = LiteralAt(Query, At);
-        Shape += Given.TheForm == Literal::Form::Folded ? "~" : "";
+        Shape += Query[At].Kind == TokenKind::Number      ? "#"
+                 : Given.TheForm == Literal::Form::Folded ? "~"
+                                                          : "";
         Shape.append(Given.Values.size(), '?');
         std::move(Given.Values.begin(), Given.Values.end(), std::back_inserter(Parameters));
     }
@@ -106,12 +111,15 @@ std::vector<std::string> LookedFor(Tokens Query)
 
 struct Connection::Inside
 {
-    explicit Inside(std::filesystem::path Path)
+    Inside(std::filesystem::path Path, std::function<void()> BeforeWriteRuns)
         : File(std::move(Path)),
+          BeforeWrite(std::move(BeforeWriteRuns)),
           Base(File.string(), SQLite::OPEN_READWRITE, BusyMilliseconds),
           Schema(Base, File)
     {
         RegisterFunctions(Base);
+        Base.exec(
+            "PRAGMA schema_version"); // reads the header: a file that is no database fails here
     }
 
     // Ends reading, if it goes on: nothing may be attached or written inside it.
@@ -138,6 +146,7 @@ struct Connection::Inside
     // Runs a write as one durable transaction.
     void Write(const std::function<void()>& Action)
     {
+        BeforeWrite();
         EndReading();
         SQLite::Transaction Transaction(Base, SQLite::TransactionBehavior::IMMEDIATE);
         Action();
@@ -153,6 +162,7 @@ struct Connection::Inside
     }
 
     std::filesystem::path File;
+    std::function<void()> BeforeWrite;
     SQLite::Database Base;
     orvane::Schema Schema;
     std::unordered_map<std::string, std::unique_ptr<Prepared>> Statements;
@@ -160,7 +170,7 @@ struct Connection::Inside
     bool Reading = false;
 };
 
-Connection::Connection(std::filesystem::path File)
+Connection::Connection(std::filesystem::path File, std::function<void()> BeforeWrite)
 {
     std::error_code Error;
     if (!std::filesystem::exists(File, Error))
@@ -169,7 +179,8 @@ Connection::Connection(std::filesystem::path File)
         std::filesystem::file_size(File, Error) == 0)
         throw Failure(FailureKind::NotADatabase, DisplayName(File), File.string());
     const auto Path = File;
-    Translated(Path, [&] { In = std::make_unique<Inside>(std::move(File)); });
+    Translated(Path,
+               [&] { In = std::make_unique<Inside>(std::move(File), std::move(BeforeWrite)); });
 }
 
 Connection::~Connection() = default;
@@ -192,7 +203,7 @@ RowSet Connection::Select(std::string_view Sql)
         }
         RowSet Result{Ready.Columns, {}, Ready.Query.Table, {}, {}, LookedFor(Query)};
         SQLite::Statement& Statement = Ready.Statement;
-        Statement.reset();
+        Statement.tryReset(); // a former failure isn't this query's
         for (std::size_t i = 0; i < Parameters.size(); ++i)
             BindValue(Statement, static_cast<int>(i) + 1, Parameters[i]);
         std::unordered_set<std::string> Seen;
@@ -208,7 +219,7 @@ RowSet Connection::Select(std::string_view Sql)
             if (!Result.Table.empty())
                 Result.Keys.push_back(Statement.getColumn(Count).getInt64());
         }
-        Statement.reset();
+        Statement.tryReset();
         Result.Source = Ready.Query.Source;
         return Result;
     });
@@ -295,9 +306,14 @@ void Connection::RefreshLink(const std::string& Name)
     });
 }
 
-void Connection::Rest()
+void Connection::EndReading()
 {
     Translated(In->File, [&] { In->EndReading(); });
+}
+
+void Connection::Rest()
+{
+    EndReading();
     In->Stamps.clear();
     In->Stamps[In->File] = StampOf(In->File);
     for (const auto& Linked : In->Schema.LinkedFiles())

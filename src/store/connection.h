@@ -4,6 +4,7 @@
 #include "store/value.h"
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -31,8 +32,10 @@ using Assignments = std::vector<std::pair<std::string, Value>>;
 class Connection
 {
   public:
-    // Failure: DatabaseMissing, NotADatabase, DatabaseUnreadable.
-    explicit Connection(std::filesystem::path File);
+    // BeforeWrite runs before each write. Failure: DatabaseMissing, NotADatabase,
+    // DatabaseUnreadable.
+    explicit Connection(
+        std::filesystem::path File, std::function<void()> BeforeWrite = [] {});
     ~Connection();
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
@@ -53,7 +56,10 @@ class Connection
     // Connects the linked table again. Failure when the file or the table isn't there.
     void RefreshLink(const std::string& Name);
 
-    // Ends the read transaction; statements stay prepared for the next use.
+    // Ends the read transaction; the next query begins another one.
+    void EndReading();
+
+    // Ends the read transaction for good; statements stay prepared for the next use.
     void Rest();
 
     // Whether the files behind are the same, unchanged by others, as when the connection last

@@ -20,6 +20,8 @@ std::string_view TextOf(sqlite3_value* Given)
 
 void FoldCase(sqlite3_context* Context, int, sqlite3_value** Given)
 {
+    if (sqlite3_value_type(Given[0]) == SQLITE_NULL) // compares as a null does
+        return;
     const std::string Folded = FoldedCase(TextOf(Given[0]));
     sqlite3_result_text(Context, Folded.data(), static_cast<int>(Folded.size()), SQLITE_TRANSIENT);
 }

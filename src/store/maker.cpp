@@ -132,7 +132,7 @@ void DatabaseMaker::Insert(const TableDefinition& Table, const std::vector<std::
         if (Known == In->Statements.end())
             Known = In->Statements.emplace(Sql, SQLite::Statement(In->Base, Sql)).first;
         SQLite::Statement& Insertion = Known->second;
-        Insertion.reset();
+        Insertion.tryReset();
         for (std::size_t i = 0; i < Row.size(); ++i) {
             const auto Definition =
                 std::ranges::find(Table.Columns, Columns[i], &ColumnDefinition::Name);

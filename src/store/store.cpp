@@ -64,15 +64,23 @@ void Database::Close()
         Owner->Release(*Closed);
 }
 
-Database Store::Open(const std::filesystem::path& File)
+Database Store::Open(const std::filesystem::path& Path)
 {
+    const std::filesystem::path File = Path.lexically_normal();
     Entry& Known = Connections[File];
     if (Known.Handles == 0 && !(Known.Base && Known.Base->IsFresh()))
         Known.Base = nullptr;
     if (!Known.Base)
-        Known.Base = std::make_shared<Connection>(File);
+        Known.Base = std::make_shared<Connection>(File, [this] { EndAllReading(); });
     ++Known.Handles;
     return {*this, Known.Base};
+}
+
+void Store::EndAllReading()
+{
+    for (const auto& [File, Known] : Connections)
+        if (Known.Base)
+            Known.Base->EndReading();
 }
 
 void Store::Release(const Connection& Base) noexcept

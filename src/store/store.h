@@ -58,6 +58,9 @@ class Store
 
     void Release(const Connection& Base) noexcept;
 
+    // A write to one file may concern a table that another connection reads through a link.
+    void EndAllReading();
+
     std::map<std::filesystem::path, Entry> Connections;
 };
 

@@ -51,9 +51,11 @@ void User::Click(PictureControl& Which)
 void User::ClickItem(SideMenu& Menu, const std::string& Key)
 {
     On(Menu, [&] {
-        const SideMenu::Item* Item = Menu.FindItem(Key);
-        if (Item != nullptr && Menu.OnItemClick)
-            Menu.OnItemClick(*Item);
+        const SideMenu::Item* Found = Menu.FindItem(Key);
+        if (Found == nullptr || !Menu.OnItemClick)
+            return;
+        const SideMenu::Item Item = *Found; // the handler may build the menu anew
+        Menu.OnItemClick(Item);
     });
 }
 

@@ -1,0 +1,101 @@
+#include "view/button_view.h"
+
+#include "toolkit/user.h"
+#include "view/act.h"
+#include "view/look.h"
+#include "view/qt_text.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace orvane {
+
+ButtonView::ButtonView(Button& Model, User& TheUser, QWidget* Parent)
+    : QAbstractButton(Parent), ControlView(Model), TheModel(Model), TheUser(TheUser)
+{
+    setAttribute(Qt::WA_Hover);
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+    connect(this, &QAbstractButton::clicked, this,
+            [this] { Act([&] { this->TheUser.Click(TheModel); }); });
+}
+
+void ButtonView::Follow(PropertyId What)
+{
+    switch (What) {
+    case PropertyId::Caption:
+    case PropertyId::Tip:
+        FollowWords();
+        break;
+    case PropertyId::Picture:
+        Source.Set(TheModel.Picture);
+        update();
+        break;
+    default:
+        ControlView::Follow(What);
+    }
+}
+
+void ButtonView::FollowAll()
+{
+    ControlView::FollowAll();
+    Source.Set(TheModel.Picture);
+}
+
+void ButtonView::FollowWords()
+{
+    const QString Words = ToQt(TheModel.Words);
+    const QString Tip = ToQt(TheModel.Tip);
+    setAccessibleName(Words);
+    setAccessibleDescription(Tip);
+    setToolTip(Tip.isEmpty() ? Words : Tip);
+    update();
+}
+
+void ButtonView::paintEvent(QPaintEvent*)
+{
+    QPainter Painter(this);
+    const QPixmap& Pixels = Source.For(size(), devicePixelRatioF(), PictureSource::Fit::Whole);
+    if (Pixels.isNull())
+        PaintWords(Painter);
+    else
+        PaintPicture(Painter, Pixels);
+}
+
+void ButtonView::PaintPicture(QPainter& Painter, const QPixmap& Pixels) const
+{
+    const QPointF Place(0, isDown() ? 1 : 0);
+    Painter.drawPixmap(Place, Pixels);
+    if (isDown() || underMouse()) { // a tint that keeps to the picture's own shape
+        QPixmap Tinted = Pixels;
+        QPainter Tint(&Tinted);
+        Tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        Tint.fillRect(rect(), isDown() ? QColor(30, 15, 0, 70) : QColor(255, 246, 220, 48));
+        Tint.end();
+        Painter.drawPixmap(Place, Tinted);
+    }
+    if (hasFocus())
+        look::PaintFocusRing(Painter, rect(), look::PlateRadius);
+}
+
+void ButtonView::PaintWords(QPainter& Painter) const
+{
+    look::PaintPlate(Painter, rect(), {underMouse(), isDown(), hasFocus()});
+    QFont Font = font();
+    Font.setBold(true);
+    Painter.setFont(Font);
+    Painter.setPen(look::Cream);
+    const QRect Box = rect().adjusted(6, 2, -6, isDown() ? 0 : -2);
+    Painter.drawText(Box, Qt::AlignCenter | Qt::TextWordWrap, ToQt(TheModel.Words));
+}
+
+void ButtonView::keyPressEvent(QKeyEvent* Event)
+{
+    const bool Enter = Event->key() == Qt::Key_Return || Event->key() == Qt::Key_Enter;
+    if (!Enter)
+        QAbstractButton::keyPressEvent(Event);
+    else if (!Event->isAutoRepeat())
+        click();
+}
+
+} // namespace orvane

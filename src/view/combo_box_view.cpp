@@ -1,0 +1,257 @@
+#include "view/combo_box_view.h"
+
+#include "toolkit/user.h"
+#include "view/act.h"
+#include "view/entry_popup.h"
+#include "view/look.h"
+#include "view/qt_text.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPainter>
+#include <QWheelEvent>
+
+namespace orvane {
+
+ComboBoxView::ComboBoxView(ComboBox& Model, User& TheUser, QWidget* Parent)
+    : QComboBox(Parent), ControlView(Model), Box(Model), TheUser(TheUser), TheOffers(Model)
+{
+    setEditable(true);
+    setCompleter(nullptr);
+    setInsertPolicy(NoInsert);
+    setFocusPolicy(Qt::StrongFocus); // not by the wheel
+    lineEdit()->setFrame(false);
+    connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& Text) { Typed(Text); });
+}
+
+void ComboBoxView::Follow(PropertyId What)
+{
+    switch (What) {
+    case PropertyId::Text:
+        ShowText();
+        break;
+    case PropertyId::Items:
+        TheOffers.Forget();
+        hidePopup();
+        break;
+    case PropertyId::ListIndex:
+        break;
+    case PropertyId::ForeColor:
+    case PropertyId::BackColor:
+        ShowColours();
+        break;
+    case PropertyId::Tip:
+        ShowTip();
+        break;
+    default:
+        ControlView::Follow(What);
+    }
+}
+
+void ComboBoxView::FollowAll()
+{
+    ControlView::FollowAll();
+    ShowColours();
+    ShowText();
+}
+
+void ComboBoxView::TakeName(const QString& Name)
+{
+    setAccessibleName(Name);
+    lineEdit()->setAccessibleName(Name);
+}
+
+QRect ComboBoxView::Place() const
+{
+    QRect Result = ControlView::Place();
+    if (Result.height() <= 0)
+        Result.setHeight(look::ComboHeight);
+    return Result;
+}
+
+bool ComboBoxView::IsOpen() const
+{
+    return ThePopup != nullptr && ThePopup->isVisible();
+}
+
+EntryPopup& ComboBoxView::MadePopup()
+{
+    if (ThePopup == nullptr) {
+        ThePopup = new EntryPopup(*this, Box);
+        ThePopup->OnPick = [this](int Entry) { Pick(Entry); };
+    }
+    return *ThePopup;
+}
+
+void ComboBoxView::showPopup()
+{
+    if (Box.ListCount() > 0)
+        MadePopup().OpenAll(Box.ListIndex);
+}
+
+void ComboBoxView::hidePopup()
+{
+    if (ThePopup != nullptr)
+        ThePopup->hide();
+}
+
+void ComboBoxView::Toggle()
+{
+    if (IsOpen())
+        hidePopup();
+    else
+        showPopup();
+}
+
+void ComboBoxView::Move(int Rows)
+{
+    if (IsOpen()) {
+        MadePopup().Move(Rows);
+        return;
+    }
+    const int Next = Box.ListIndex + Rows;
+    if (Next >= 0 && Next < Box.ListCount())
+        Pick(Next);
+}
+
+void ComboBoxView::Typed(const QString& Text)
+{
+    Act([&] { TheUser.Type(Box, FromQt(Text)); });
+    ShowText();
+    ShowTip();
+    Act([&] { Offer(); });
+}
+
+void ComboBoxView::Offer()
+{
+    std::vector<int> Found = TheOffers.For(Box.Text);
+    if (Found.empty() || !isVisible()) {
+        hidePopup();
+        return;
+    }
+    const int First = Found.front();
+    MadePopup().OpenSome(std::move(Found));
+    if (TheOffers.Is(First, Box.Text))
+        MadePopup().Highlight(First); // typed in full: Enter picks it
+}
+
+void ComboBoxView::Pick(int Entry)
+{
+    hidePopup();
+    if (Entry >= 0)
+        Act([&] { TheUser.Pick(Box, Entry); });
+    ShowText();
+    lineEdit()->setCursorPosition(0);
+}
+
+void ComboBoxView::ShowText()
+{
+    const QString Wanted = ToQt(Box.Text);
+    if (lineEdit()->text() == Wanted)
+        return;
+    lineEdit()->setText(Wanted);
+    lineEdit()->setCursorPosition(0); // a long text shows its beginning
+    ShowTip();
+}
+
+void ComboBoxView::ShowTip()
+{
+    const QString Tip = ToQt(Box.Tip);
+    const QString Text = lineEdit()->text();
+    const bool Fits =
+        fontMetrics().horizontalAdvance(Text) <= lineEdit()->width() - 2 * look::FieldPadding;
+    setAccessibleDescription(Tip);
+    setToolTip(Fits ? Tip : Tip.isEmpty() ? Text : Text + u'\n' + Tip);
+}
+
+void ComboBoxView::ShowColours()
+{
+    QPalette Colours = palette();
+    Colours.setColor(QPalette::Base, look::ColourOf(Box.BackColor));
+    Colours.setColor(QPalette::Text, look::InkOf(Box.ForeColor));
+    setPalette(Colours);
+}
+
+void ComboBoxView::paintEvent(QPaintEvent*)
+{
+    QPainter Painter(this);
+    look::PaintField(Painter, rect(), {palette().color(QPalette::Base), hasFocus(), false});
+    const QRect Arrow(width() - look::ArrowWidth, 0, look::ArrowWidth, height());
+    look::PaintArrow(Painter, Arrow, hasFocus() || underMouse() ? look::Focus : look::MutedInk);
+}
+
+void ComboBoxView::resizeEvent(QResizeEvent* Event)
+{
+    QComboBox::resizeEvent(Event);
+    ShowTip();
+}
+
+void ComboBoxView::hideEvent(QHideEvent* Event)
+{
+    hidePopup();
+    QComboBox::hideEvent(Event);
+}
+
+void ComboBoxView::focusInEvent(QFocusEvent* Event)
+{
+    QComboBox::focusInEvent(Event);
+    if (lineEdit()->hasSelectedText()) // backwards, so that a long text shows its beginning
+        lineEdit()->setSelection(static_cast<int>(lineEdit()->text().size()),
+                                 -static_cast<int>(lineEdit()->text().size()));
+}
+
+void ComboBoxView::focusOutEvent(QFocusEvent* Event)
+{
+    hidePopup();
+    QComboBox::focusOutEvent(Event);
+    if (Event->reason() != Qt::PopupFocusReason && Event->reason() != Qt::ActiveWindowFocusReason)
+        lineEdit()->setCursorPosition(0);
+}
+
+void ComboBoxView::keyPressEvent(QKeyEvent* Event)
+{
+    const bool Alt = Event->modifiers().testFlag(Qt::AltModifier);
+    switch (Event->key()) {
+    case Qt::Key_F4:
+        Toggle();
+        return;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        if (Alt)
+            Toggle();
+        else
+            Move(Event->key() == Qt::Key_Down ? 1 : -1);
+        return;
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        if (IsOpen())
+            Move(Event->key() == Qt::Key_PageDown ? ThePopup->PageRows() : -ThePopup->PageRows());
+        return;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (IsOpen())
+            Pick(ThePopup->Highlighted());
+        return;
+    case Qt::Key_Escape:
+        if (IsOpen())
+            hidePopup();
+        else
+            Event->ignore(); // the way back is the window's business
+        return;
+    default:
+        QComboBox::keyPressEvent(Event);
+    }
+}
+
+void ComboBoxView::mousePressEvent(QMouseEvent* Event)
+{
+    if (Event->button() == Qt::LeftButton)
+        Toggle();
+}
+
+void ComboBoxView::wheelEvent(QWheelEvent* Event)
+{
+    Event->ignore();
+}
+
+} // namespace orvane

@@ -1,0 +1,59 @@
+#include "view/control_view.h"
+
+#include "view/look.h"
+#include "view/qt_text.h"
+
+#include <QWidget>
+
+#include <cmath>
+
+namespace orvane {
+
+int Pixels(int Twips)
+{
+    return static_cast<int>(std::lround(Twips / 15.0));
+}
+
+QRect PixelBox(const Control& Which)
+{
+    const int Left = Pixels(Which.Left);
+    const int Top = Pixels(Which.Top);
+    return {Left, Top, Pixels(Which.Left + Which.Width) - Left,
+            Pixels(Which.Top + Which.Height) - Top};
+}
+
+void ControlView::Follow(PropertyId What)
+{
+    switch (What) {
+    case PropertyId::Visible:
+        Widget().setVisible(TheControl.Visible);
+        break;
+    case PropertyId::Left:
+    case PropertyId::Top:
+    case PropertyId::Width:
+    case PropertyId::Height:
+    case PropertyId::Ends:
+        Widget().setGeometry(Place());
+        break;
+    case PropertyId::FontSize:
+        Widget().setFont(look::Font(TheControl.FontSize));
+        break;
+    case PropertyId::Tip:
+        Widget().setToolTip(ToQt(TheControl.Tip));
+        break;
+    default:
+        Widget().update();
+    }
+}
+
+void ControlView::FollowAll()
+{
+    Widget().setObjectName(ToQt(TheControl.Name()));
+    Widget().setGeometry(Place());
+    if (!TheControl.Visible)
+        Widget().hide();
+    Follow(PropertyId::FontSize);
+    Follow(PropertyId::Tip);
+}
+
+} // namespace orvane

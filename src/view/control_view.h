@@ -1,0 +1,49 @@
+#pragma once
+
+#include "toolkit/control.h"
+#include "toolkit/property.h"
+
+#include <QRect>
+#include <QString>
+
+#include <vector>
+
+class QWidget;
+
+namespace orvane {
+
+// Twips to pixels at 96 dots per inch.
+int Pixels(int Twips);
+QRect PixelBox(const Control& Which);
+
+// What all kinds have in common: a widget that follows a control.
+class ControlView
+{
+  public:
+    explicit ControlView(Control& Model) : TheControl(Model) {}
+    virtual ~ControlView() = default;
+
+    virtual QWidget& Widget() = 0;
+
+    // Brings one property over; the base knows those that every control has.
+    virtual void Follow(PropertyId What);
+
+    // Brings over everything, when the widget has just been made.
+    virtual void FollowAll();
+
+    // Where Tab stops, in order. Hidden and locked ones among them are passed over.
+    virtual std::vector<QWidget*> TabStops() { return {}; }
+
+    // The name that a screen reader tells, for controls that bear none themselves.
+    virtual void TakeName(const QString&) {}
+
+    Control& Model() const { return TheControl; }
+
+  protected:
+    virtual QRect Place() const { return PixelBox(TheControl); }
+
+  private:
+    Control& TheControl;
+};
+
+} // namespace orvane

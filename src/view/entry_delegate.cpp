@@ -1,0 +1,51 @@
+#include "view/entry_delegate.h"
+
+#include "view/look.h"
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+namespace orvane {
+
+void EntryDelegate::paint(QPainter* Painter, const QStyleOptionViewItem& Option,
+                          const QModelIndex& Index) const
+{
+    const bool Chosen = Option.state.testFlag(QStyle::State_Selected);
+    const bool Active = Option.state.testFlag(QStyle::State_Active);
+    QColor Words = Option.palette.color(QPalette::Text);
+    if (Chosen) {
+        Painter->fillRect(Option.rect, Active ? look::Choice : look::QuietChoice);
+        Words = Active ? look::Cream : look::Ink;
+    } else if (Option.state.testFlag(QStyle::State_MouseOver)) {
+        Painter->fillRect(Option.rect, look::Hover);
+        Words = look::Ink;
+    }
+    const QRect Box = Option.rect.adjusted(look::RowPadding, 0, -look::RowPadding, 0);
+    const QString Text = Index.data(Qt::DisplayRole).toString();
+    Painter->setFont(Option.font);
+    Painter->setPen(Words);
+    Painter->drawText(Box, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                      Option.fontMetrics.elidedText(Text, Qt::ElideRight, Box.width()));
+}
+
+QSize EntryDelegate::sizeHint(const QStyleOptionViewItem& Option, const QModelIndex& Index) const
+{
+    const QString Text = Index.data(Qt::DisplayRole).toString();
+    return {Option.fontMetrics.horizontalAdvance(Text) + 2 * look::RowPadding,
+            Option.fontMetrics.height() + look::RowPadding};
+}
+
+bool EntryDelegate::helpEvent(QHelpEvent* Event, QAbstractItemView* View,
+                              const QStyleOptionViewItem& Option, const QModelIndex& Index)
+{
+    if (Event->type() == QEvent::ToolTip && Index.isValid() &&
+        sizeHint(Option, Index).width() > Option.rect.width()) {
+        QToolTip::showText(Event->globalPos(), Index.data(Qt::DisplayRole).toString(), View);
+        return true;
+    }
+    return QStyledItemDelegate::helpEvent(Event, View, Option, Index);
+}
+
+} // namespace orvane

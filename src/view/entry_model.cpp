@@ -1,0 +1,45 @@
+#include "view/entry_model.h"
+
+#include "view/qt_text.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace orvane {
+
+void EntryModel::TakeAll()
+{
+    std::vector<int> All(static_cast<std::size_t>(List.ListCount()));
+    std::iota(All.begin(), All.end(), 0);
+    Take(std::move(All));
+}
+
+void EntryModel::Take(std::vector<int> NewEntries)
+{
+    beginResetModel();
+    Entries = std::move(NewEntries);
+    endResetModel();
+}
+
+int EntryModel::RowOf(int Entry) const
+{
+    const auto Found = std::ranges::find(Entries, Entry);
+    return Found == Entries.end() ? -1 : static_cast<int>(Found - Entries.begin());
+}
+
+int EntryModel::rowCount(const QModelIndex& Parent) const
+{
+    return Parent.isValid() ? 0 : static_cast<int>(Entries.size());
+}
+
+QVariant EntryModel::data(const QModelIndex& Index, int Role) const
+{
+    if (Role != Qt::DisplayRole || Index.row() < 0 || Index.row() >= rowCount())
+        return {};
+    const int Entry = EntryAt(Index.row());
+    if (Entry >= List.ListCount()) // the list has shrunk since
+        return {};
+    return ToQt(List.Items()[static_cast<std::size_t>(Entry)]);
+}
+
+} // namespace orvane

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "toolkit/lists.h"
+
+#include <QAbstractListModel>
+
+#include <vector>
+
+namespace orvane {
+
+// Entries of a list for a view, read where they are: all of them, or a choice in an order of its own.
+class EntryModel : public QAbstractListModel
+{
+  public:
+    EntryModel(const ListControl& List, QObject* Parent) : QAbstractListModel(Parent), List(List) {}
+
+    void TakeAll();
+    void Take(std::vector<int> NewEntries);
+
+    int EntryAt(int Row) const { return Entries.at(static_cast<std::size_t>(Row)); }
+    int RowOf(int Entry) const; // -1 when it isn't among them
+
+    int rowCount(const QModelIndex& Parent = {}) const override;
+    QVariant data(const QModelIndex& Index, int Role) const override;
+
+  private:
+    const ListControl& List;
+    std::vector<int> Entries;
+};
+
+} // namespace orvane

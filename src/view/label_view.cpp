@@ -1,0 +1,85 @@
+#include "view/label_view.h"
+
+#include "view/look.h"
+#include "view/qt_text.h"
+
+#include <QPainter>
+
+namespace orvane {
+
+namespace {
+
+constexpr double SmallestShare = 0.82; // of the model's size, before a caption is cut short
+
+} // namespace
+
+LabelView::LabelView(Label& Model, QWidget* Parent)
+    : QLabel(Parent), ControlView(Model), TheLabel(Model)
+{
+    setTextFormat(Qt::PlainText);
+}
+
+void LabelView::Follow(PropertyId What)
+{
+    switch (What) {
+    case PropertyId::Caption:
+    case PropertyId::Bold:
+    case PropertyId::FontSize:
+    case PropertyId::Tip:
+        Fit();
+        break;
+    default:
+        ControlView::Follow(What);
+    }
+}
+
+void LabelView::FollowAll()
+{
+    ControlView::FollowAll();
+    Fit();
+}
+
+bool LabelView::Wraps() const
+{
+    return text().contains(u'\n') || height() >= 2 * fontMetrics().lineSpacing() - 2;
+}
+
+void LabelView::Fit()
+{
+    const QString Caption = ToQt(TheLabel.Caption);
+    if (text() != Caption)
+        setText(Caption);
+    QFont Font = look::Font(TheLabel.FontSize, TheLabel.Bold);
+    setFont(Font);
+    const auto TooLong = [&] { return fontMetrics().horizontalAdvance(Caption) > width(); };
+    for (double Share = 0.94; !Wraps() && TooLong() && Share >= SmallestShare; Share -= 0.06) {
+        Font.setPointSizeF(TheLabel.FontSize * Share);
+        setFont(Font);
+    }
+    setToolTip(!Wraps() && TooLong() && TheLabel.Tip().empty() ? Caption : ToQt(TheLabel.Tip));
+}
+
+void LabelView::resizeEvent(QResizeEvent* Event)
+{
+    QLabel::resizeEvent(Event);
+    Fit();
+}
+
+void LabelView::paintEvent(QPaintEvent*)
+{
+    QPainter Painter(this);
+    Painter.setPen(look::InkOf(TheLabel.ForeColor));
+    int Flags = TheLabel.Align == Alignment::Left    ? Qt::AlignLeft
+                : TheLabel.Align == Alignment::Right ? Qt::AlignRight
+                                                     : Qt::AlignHCenter;
+    QString Caption = text();
+    if (Wraps()) {
+        Flags |= Qt::TextWordWrap | Qt::AlignTop;
+    } else {
+        Flags |= Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip;
+        Caption = fontMetrics().elidedText(Caption, Qt::ElideRight, width());
+    }
+    Painter.drawText(rect(), Flags, Caption);
+}
+
+} // namespace orvane

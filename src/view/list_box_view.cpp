@@ -1,0 +1,189 @@
+#include "view/list_box_view.h"
+
+#include "base/text.h"
+#include "toolkit/user.h"
+#include "view/act.h"
+#include "view/entry_delegate.h"
+#include "view/list_columns.h"
+#include "view/look.h"
+#include "view/qt_text.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace orvane {
+
+ListBoxView::ListBoxView(ListBox& Model, User& TheUser, QWidget* Parent)
+    : QListView(Parent), ControlView(Model), TheBox(Model), TheUser(TheUser), Entries(Model, this)
+{
+    setModel(&Entries);
+    setItemDelegate(new EntryDelegate(this));
+    setUniformItemSizes(true);
+    setVerticalScrollMode(ScrollPerItem);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    viewport()->setAttribute(Qt::WA_Hover);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
+            [this](int Row) { ScrollColumns(*this, Row); });
+}
+
+void ListBoxView::Follow(PropertyId What)
+{
+    switch (What) {
+    case PropertyId::Items:
+        FollowLater();
+        break;
+    case PropertyId::ListIndex:
+        if (!ItemsAreOld)
+            ShowChoice();
+        break;
+    case PropertyId::ForeColor:
+    case PropertyId::BackColor:
+        ShowColours();
+        break;
+    case PropertyId::Visible:
+    case PropertyId::Left:
+    case PropertyId::Top:
+    case PropertyId::Height:
+        ControlView::Follow(What);
+        FollowLater(); // the columns beside it may have changed
+        break;
+    default:
+        ControlView::Follow(What);
+    }
+}
+
+void ListBoxView::FollowAll()
+{
+    ControlView::FollowAll();
+    ShowColours();
+    FollowLater();
+}
+
+// Once for however many entries an event adds.
+void ListBoxView::FollowLater()
+{
+    if (!ItemsAreOld)
+        QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+    ItemsAreOld = true;
+}
+
+bool ListBoxView::event(QEvent* Event)
+{
+    if (Event->type() == QEvent::User)
+        FollowItems();
+    return QListView::event(Event);
+}
+
+void ListBoxView::FollowItems()
+{
+    if (!ItemsAreOld)
+        return;
+    ItemsAreOld = false;
+    const int Row = verticalScrollBar()->value();
+    Entries.TakeAll();
+    executeDelayedItemsLayout();
+    verticalScrollBar()->setValue(Row);
+    ShowChoice();
+    ArrangeColumns(*this);
+}
+
+void ListBoxView::ShowChoice()
+{
+    const QModelIndex Index = Entries.index(TheBox.ListIndex);
+    setCurrentIndex(Index);
+    if (!Index.isValid())
+        clearSelection();
+}
+
+void ListBoxView::ShowColours()
+{
+    QPalette Colours = palette();
+    Colours.setColor(QPalette::Base, look::ColourOf(TheBox.BackColor));
+    Colours.setColor(QPalette::Text, look::InkOf(TheBox.ForeColor));
+    setPalette(Colours);
+}
+
+void ListBoxView::Pick(int Entry)
+{
+    if (Entry < 0 || Entry >= TheBox.ListCount())
+        return;
+    Act([&] { TheUser.Pick(TheBox, Entry); });
+    FollowItems();
+    ShowChoice();
+}
+
+void ListBoxView::paintEvent(QPaintEvent* Event)
+{
+    FollowItems();
+    QListView::paintEvent(Event);
+}
+
+void ListBoxView::keyPressEvent(QKeyEvent* Event)
+{
+    FollowItems();
+    const int At = TheBox.ListIndex;
+    const int Last = TheBox.ListCount() - 1;
+    const int Page = std::max(1, verticalScrollBar()->pageStep() - 1);
+    switch (Event->key()) {
+    case Qt::Key_Up:
+        Pick(std::max(At - 1, 0));
+        return;
+    case Qt::Key_Down:
+        Pick(std::min(At + 1, Last));
+        return;
+    case Qt::Key_PageUp:
+        Pick(std::max(At - Page, 0));
+        return;
+    case Qt::Key_PageDown:
+        Pick(std::min(At + Page, Last));
+        return;
+    case Qt::Key_Home:
+        Pick(0);
+        return;
+    case Qt::Key_End:
+        Pick(Last);
+        return;
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        Pick(At);
+        return;
+    case Qt::Key_Escape:
+        Event->ignore();
+        return;
+    default:
+        QListView::keyPressEvent(Event); // copying, and searching by letters
+    }
+}
+
+// The next entry that begins with the letter, after the chosen one.
+void ListBoxView::keyboardSearch(const QString& Letters)
+{
+    const std::string Wanted = FoldedForSearch(FromQt(Letters));
+    for (int i = 1; i <= TheBox.ListCount(); ++i) {
+        const int Entry = (TheBox.ListIndex + i) % TheBox.ListCount();
+        if (FoldedForSearch(TheBox.Items()[static_cast<std::size_t>(Entry)]).starts_with(Wanted)) {
+            Pick(Entry);
+            return;
+        }
+    }
+}
+
+void ListBoxView::mousePressEvent(QMouseEvent* Event)
+{
+    FollowItems();
+    if (Event->button() == Qt::LeftButton)
+        Pick(indexAt(Event->position().toPoint()).row());
+}
+
+void ListBoxView::mouseDoubleClickEvent(QMouseEvent* Event)
+{
+    mousePressEvent(Event);
+}
+
+} // namespace orvane

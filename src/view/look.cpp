@@ -1,0 +1,166 @@
+#include "view/look.h"
+
+#include "view/style.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QImage>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
+#include <QRandomGenerator>
+#include <QToolTip>
+
+namespace orvane::look {
+
+namespace {
+
+// The first that is on the machine; widths of the screens are made for the last.
+const QString& Family()
+{
+    static const QString Chosen = [] {
+        for (const char* Each : {"Noto Sans", "Open Sans"})
+            if (QFontDatabase::hasFamily(QLatin1String(Each)))
+                return QString(QLatin1String(Each));
+        return QStringLiteral("DejaVu Sans");
+    }();
+    return Chosen;
+}
+
+QPalette ParchmentPalette()
+{
+    QPalette Result(Ground);
+    Result.setColor(QPalette::Window, Ground);
+    Result.setColor(QPalette::WindowText, Ink);
+    Result.setColor(QPalette::Base, Qt::white);
+    Result.setColor(QPalette::AlternateBase, Panel);
+    Result.setColor(QPalette::Text, Ink);
+    Result.setColor(QPalette::Button, QColor(0xE6, 0xD8, 0xB8));
+    Result.setColor(QPalette::ButtonText, Ink);
+    Result.setColor(QPalette::Highlight, Choice);
+    Result.setColor(QPalette::HighlightedText, Cream);
+    Result.setColor(QPalette::ToolTipBase, QColor(0xFF, 0xFA, 0xEC));
+    Result.setColor(QPalette::ToolTipText, Ink);
+    Result.setColor(QPalette::PlaceholderText, MutedInk);
+    Result.setColor(QPalette::Link, Focus);
+    return Result;
+}
+
+// A faint grain, the same at each run.
+const QPixmap& Grain()
+{
+    static const QPixmap Tile = [] {
+        QImage Result(128, 128, QImage::Format_ARGB32_Premultiplied);
+        QRandomGenerator Random(7);
+        for (int y = 0; y < Result.height(); ++y)
+            for (int x = 0; x < Result.width(); ++x)
+                Result.setPixel(x, y, qPremultiply(qRgba(90, 60, 20, Random.bounded(9))));
+        return QPixmap::fromImage(Result);
+    }();
+    return Tile;
+}
+
+QRectF Inside(const QRectF& Box, double By)
+{
+    return Box.adjusted(By, By, -By, -By);
+}
+
+} // namespace
+
+void Apply(QApplication& Application)
+{
+    QApplication::setStyle(new Style);
+    QApplication::setPalette(ParchmentPalette());
+    QToolTip::setPalette(ParchmentPalette());
+    Application.setFont(Font(DialogPoints));
+}
+
+QFont Font(double Points, bool Bold)
+{
+    QFont Result(Family());
+    Result.setPointSizeF(Points > 0 ? Points : DialogPoints);
+    Result.setBold(Bold);
+    return Result;
+}
+
+QColor ColourOf(Colour Given)
+{
+    return {Given.Red(), Given.Green(), Given.Blue()};
+}
+
+QColor InkOf(Colour Given)
+{
+    return Given == Black ? Ink : ColourOf(Given);
+}
+
+void PaintField(QPainter& Painter, const QRectF& Box, const FieldState& State)
+{
+    Painter.save();
+    Painter.setRenderHint(QPainter::Antialiasing);
+    const double Pen = State.Focused ? 2 : 1;
+    const QColor Border = State.Wrong ? WrongBorder : State.Focused ? Focus : FieldBorder;
+    Painter.setPen(QPen(Border, Pen));
+    Painter.setBrush(State.Wrong ? WrongGround : State.FieldGround);
+    Painter.drawRoundedRect(Inside(Box, Pen / 2), FieldRadius, FieldRadius);
+    Painter.restore();
+}
+
+void PaintPlate(QPainter& Painter, const QRectF& Box, const PlateState& State)
+{
+    Painter.save();
+    Painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF Plate = Inside(Box, 0.5);
+    const int Lighter = State.Pressed ? 88 : State.Hovered ? 112 : 100;
+    QLinearGradient Fill(Plate.topLeft(), Plate.bottomLeft());
+    Fill.setColorAt(State.Pressed ? 1 : 0, PlateTop.lighter(Lighter));
+    Fill.setColorAt(State.Pressed ? 0 : 1, PlateBottom.lighter(Lighter));
+    Painter.setPen(QPen(PlateBorder, 1));
+    Painter.setBrush(Fill);
+    Painter.drawRoundedRect(Plate, PlateRadius, PlateRadius);
+    Painter.setBrush(Qt::NoBrush);
+    if (!State.Pressed) {
+        Painter.setPen(QPen(QColor(255, 236, 200, 70), 1));
+        Painter.drawRoundedRect(Inside(Plate, 1), PlateRadius - 1, PlateRadius - 1);
+    }
+    if (State.Focused) {
+        Painter.setPen(QPen(Cream, 1.5));
+        Painter.drawRoundedRect(Inside(Plate, 3), PlateRadius - 2, PlateRadius - 2);
+    }
+    Painter.restore();
+}
+
+void PaintFocusRing(QPainter& Painter, const QRectF& Box, double Radius)
+{
+    Painter.save();
+    Painter.setRenderHint(QPainter::Antialiasing);
+    Painter.setBrush(Qt::NoBrush);
+    Painter.setPen(QPen(Cream, 4));
+    Painter.drawRoundedRect(Inside(Box, 2), Radius, Radius);
+    Painter.setPen(QPen(Focus, 2));
+    Painter.drawRoundedRect(Inside(Box, 1), Radius, Radius);
+    Painter.restore();
+}
+
+void PaintGround(QPainter& Painter, const QRectF& Window)
+{
+    QLinearGradient Fill(Window.topLeft(), Window.bottomLeft());
+    Fill.setColorAt(0, GroundTop);
+    Fill.setColorAt(1, GroundBottom);
+    Painter.fillRect(Window, Fill);
+    Painter.drawTiledPixmap(Window, Grain());
+    Painter.setPen(QPen(GroundEdge, 1));
+    Painter.drawRect(Inside(Window, 4.5));
+}
+
+void PaintArrow(QPainter& Painter, const QRectF& Box, const QColor& Colour)
+{
+    Painter.save();
+    Painter.setRenderHint(QPainter::Antialiasing);
+    Painter.setPen(QPen(Colour, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QPointF Tip = Box.center() + QPointF(0, 2);
+    Painter.drawPolyline(QPolygonF{Tip + QPointF(-4, -4), Tip, Tip + QPointF(4, -4)});
+    Painter.restore();
+}
+
+} // namespace orvane::look

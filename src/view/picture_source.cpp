@@ -1,0 +1,75 @@
+#include "view/picture_source.h"
+
+#include "view/qt_text.h"
+
+#include <QImageReader>
+
+#include <algorithm>
+
+namespace orvane {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+QImage Read(const fs::path& File)
+{
+    QImageReader Reader(ToQt(File.string()));
+    Reader.setDecideFormatFromContent(true);
+    Reader.setAutoTransform(true);
+    return Reader.read();
+}
+
+// The sharper of the two files and how many of its pixels go into one of the screen's definition.
+std::pair<QImage, double> ReadFor(const fs::path& File, double Density)
+{
+    if (Density > 1) {
+        fs::path Dense = File;
+        Dense.replace_filename(File.stem().string() + "@2x" + File.extension().string());
+        std::error_code Error;
+        if (fs::exists(Dense, Error))
+            if (QImage Result = Read(Dense); !Result.isNull())
+                return {Result, 2};
+    }
+    return {Read(File), 1};
+}
+
+} // namespace
+
+void PictureSource::Set(const Picture& NewPicture)
+{
+    TheFile = NewPicture;
+    MadeFor = {};
+}
+
+const QPixmap& PictureSource::For(QSize Box, double Density, Fit How)
+{
+    if (MadeFor != Box || MadeDensity != Density) {
+        Made = TheFile.IsEmpty() || Box.isEmpty() ? QPixmap() : Scaled(Box, Density, How);
+        MadeFor = Box;
+        MadeDensity = Density;
+    }
+    return Made;
+}
+
+QPixmap PictureSource::Scaled(QSize Box, double Density, Fit How) const
+{
+    auto [Source, PerPixel] = ReadFor(TheFile.File, Density);
+    if (Source.isNull())
+        return {};
+    QSizeF Target = Box;
+    if (How == Fit::KeepingProportions) {
+        const QSizeF Natural = QSizeF(Source.size()) / PerPixel;
+        Target = Natural.scaled(Target, Qt::KeepAspectRatio);
+        if (Target.width() > Natural.width())
+            Target = Natural;
+    }
+    const QSize Pixels = (Target * Density).toSize().expandedTo(QSize(1, 1));
+    if (Pixels != Source.size())
+        Source = Source.scaled(Pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QPixmap Result = QPixmap::fromImage(std::move(Source));
+    Result.setDevicePixelRatio(Density);
+    return Result;
+}
+
+} // namespace orvane

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "toolkit/picture.h"
+
+#include <QImage>
+#include <QPixmap>
+#include <QSize>
+
+namespace orvane {
+
+// A picture of the model, decoded when it is first to be seen. On high-density screens the file
+// "name@2x.ext" beside it is taken when there is one.
+class PictureSource
+{
+  public:
+    enum class Fit { Whole, KeepingProportions };
+
+    void Set(const Picture& NewPicture);
+
+    // The picture for a box of that size, null when there is none or it can't be decoded. Keeping
+    // proportions makes it smaller at need, but never larger than its file is sharp.
+    const QPixmap& For(QSize Box, double Density, Fit How);
+
+  private:
+    QPixmap Scaled(QSize Box, double Density, Fit How) const;
+
+    Picture TheFile;
+    QPixmap Made;
+    QSize MadeFor;
+    double MadeDensity = 0;
+};
+
+} // namespace orvane

@@ -1,0 +1,51 @@
+#include "view/shape_view.h"
+
+#include "toolkit/screen.h"
+#include "view/look.h"
+#include "view/screen_window.h"
+
+#include <QPainter>
+
+namespace orvane {
+
+ShapeView::ShapeView(Shape& Model, QWidget* Parent)
+    : QWidget(Parent), ControlView(Model), TheShape(Model)
+{
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void ShapeView::paintEvent(QPaintEvent*)
+{
+    QPainter Painter(this);
+    Painter.setRenderHint(QPainter::Antialiasing);
+    Painter.setPen(QPen(look::ColourOf(TheShape.BorderColor), 1));
+    Painter.setBrush(static_cast<ScreenWindow*>(window())->PanelGround());
+    Painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), look::PanelRadius,
+                            look::PanelRadius);
+}
+
+LineView::LineView(Line& Model, QWidget* Parent)
+    : QWidget(Parent), ControlView(Model), TheLine(Model)
+{
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+QRect LineView::Place() const
+{
+    const QPoint First(Pixels(TheLine.X1), Pixels(TheLine.Y1));
+    const QPoint Second(Pixels(TheLine.X2), Pixels(TheLine.Y2));
+    return QRect(First, Second).normalized().adjusted(-1, -1, 1, 1);
+}
+
+void LineView::paintEvent(QPaintEvent*)
+{
+    QPainter Painter(this);
+    const bool Straight = TheLine.X1() == TheLine.X2() || TheLine.Y1() == TheLine.Y2();
+    Painter.setRenderHint(QPainter::Antialiasing, !Straight);
+    Painter.setPen(QPen(look::ColourOf(TheLine.BorderColor), 1));
+    Painter.translate(-Place().topLeft());
+    Painter.drawLine(Pixels(TheLine.X1), Pixels(TheLine.Y1), Pixels(TheLine.X2),
+                     Pixels(TheLine.Y2));
+}
+
+} // namespace orvane

@@ -1,0 +1,79 @@
+#include "view/style.h"
+
+#include "view/look.h"
+
+#include <QPainter>
+#include <QStyleOption>
+#include <QWidget>
+
+namespace orvane {
+
+namespace {
+
+constexpr int ListFrame = 2; // room for the focus
+
+} // namespace
+
+void Style::drawPrimitive(PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter,
+                          const QWidget* Widget) const
+{
+    const bool Focused = Option->state.testFlag(State_HasFocus);
+    switch (Element) {
+    case PE_PanelButtonCommand:
+        look::PaintPlate(*Painter, Option->rect,
+                         {Option->state.testFlag(State_MouseOver),
+                          Option->state.testFlag(State_Sunken), Focused});
+        return;
+    case PE_Frame:
+    case PE_FrameLineEdit:
+        look::PaintField(*Painter, Option->rect,
+                         {Option->palette.color(QPalette::Base), Focused, false});
+        return;
+    case PE_FrameFocusRect: // the widgets show their focus themselves
+        return;
+    default:
+        QProxyStyle::drawPrimitive(Element, Option, Painter, Widget);
+    }
+}
+
+void Style::drawControl(ControlElement Element, const QStyleOption* Option, QPainter* Painter,
+                        const QWidget* Widget) const
+{
+    const auto* Button = qstyleoption_cast<const QStyleOptionButton*>(Option);
+    if (Element == CE_PushButtonLabel && Button != nullptr) {
+        QStyleOptionButton OnPlate(*Button);
+        OnPlate.palette.setColor(QPalette::ButtonText, look::Cream);
+        QProxyStyle::drawControl(Element, &OnPlate, Painter, Widget);
+        return;
+    }
+    QProxyStyle::drawControl(Element, Option, Painter, Widget);
+}
+
+int Style::pixelMetric(PixelMetric Metric, const QStyleOption* Option, const QWidget* Widget) const
+{
+    if (Metric == PM_DefaultFrameWidth && Widget != nullptr && Widget->inherits("QListView"))
+        return ListFrame;
+    if (Metric == PM_ScrollBarExtent)
+        return 13;
+    return QProxyStyle::pixelMetric(Metric, Option, Widget);
+}
+
+int Style::styleHint(StyleHint Hint, const QStyleOption* Option, const QWidget* Widget,
+                     QStyleHintReturn* Returned) const
+{
+    if (Hint == SH_DialogButtonBox_ButtonsHaveIcons)
+        return 0;
+    return QProxyStyle::styleHint(Hint, Option, Widget, Returned);
+}
+
+QRect Style::subControlRect(ComplexControl Control, const QStyleOptionComplex* Option,
+                            SubControl Part, const QWidget* Widget) const
+{
+    if (Control == CC_ComboBox && Part == SC_ComboBoxEditField)
+        return Option->rect.adjusted(2, 2, -look::ArrowWidth, -2);
+    if (Control == CC_ComboBox && Part == SC_ComboBoxArrow)
+        return Option->rect.adjusted(Option->rect.width() - look::ArrowWidth, 0, 0, 0);
+    return QProxyStyle::subControlRect(Control, Option, Part, Widget);
+}
+
+} // namespace orvane

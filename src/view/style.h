@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace orvane {
+
+// What the boxes of the toolkit (messages, prompts, the colour dialog) and the frames of lists need
+// to match the screens.
+class Style : public QProxyStyle
+{
+  public:
+    Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    void drawPrimitive(PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter,
+                       const QWidget* Widget) const override;
+    void drawControl(ControlElement Element, const QStyleOption* Option, QPainter* Painter,
+                     const QWidget* Widget) const override;
+    int pixelMetric(PixelMetric Metric, const QStyleOption* Option,
+                    const QWidget* Widget) const override;
+    int styleHint(StyleHint Hint, const QStyleOption* Option, const QWidget* Widget,
+                  QStyleHintReturn* Returned) const override;
+    QRect subControlRect(ComplexControl Control, const QStyleOptionComplex* Option, SubControl Part,
+                         const QWidget* Widget) const override;
+};
+
+} // namespace orvane

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "toolkit/text_box.h"
+#include "view/control_view.h"
+
+#include <QLineEdit>
+
+namespace orvane {
+
+class User;
+
+class TextBoxView : public QLineEdit, public ControlView
+{
+  public:
+    TextBoxView(TextBox& Model, User& TheUser, QWidget* Parent);
+
+    QWidget& Widget() override { return *this; }
+    void Follow(PropertyId What) override;
+    void FollowAll() override;
+    std::vector<QWidget*> TabStops() override { return {this}; }
+    void TakeName(const QString& Name) override { setAccessibleName(Name); }
+
+  protected:
+    void paintEvent(QPaintEvent* Event) override;
+    void resizeEvent(QResizeEvent* Event) override;
+    void focusOutEvent(QFocusEvent* Event) override;
+    void keyPressEvent(QKeyEvent* Event) override;
+    void inputMethodEvent(QInputMethodEvent* Event) override;
+    void contextMenuEvent(QContextMenuEvent* Event) override;
+    void mouseReleaseEvent(QMouseEvent* Event) override;
+    void dropEvent(QDropEvent* Event) override;
+
+  private:
+    bool HoldsNumber() const { return Box.Accepts != NumberKind::None; }
+    void Typed(const QString& Text);
+    void Insert(const QString& Pasted);
+    void ShowText();
+    void ShowState();
+    void ShowTip();
+
+    TextBox& Box;
+    User& TheUser;
+};
+
+} // namespace orvane
