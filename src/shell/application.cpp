@@ -20,9 +20,9 @@ void Application::TellNotices()
     for (const std::string& Notice : Notices)
         Text += (Text.empty() ? "" : "\n\n") + Notice;
     if (!Images.Missing().empty()) {
-        Text +=
-            std::string(Text.empty() ? "" : "\n\n") + "Des images sont introuvables ou illisibles "
-                                                      "; le programme fonctionne sans elles\u00A0:";
+        Text += std::string(Text.empty() ? "" : "\n\n") +
+                "Des images sont introuvables ou illisibles "
+                "; le programme fonctionne sans elles\u00A0:";
         for (const std::string& File : Images.Missing())
             Text += "\n" + std::filesystem::path(File).filename().string();
     }

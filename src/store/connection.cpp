@@ -2,7 +2,9 @@
 
 #include "base/text.h"
 #include "store/binding.h"
+#include "store/file_stamp.h"
 #include "store/functions.h"
+#include "store/query_shape.h"
 #include "store/schema.h"
 #include "store/sqlite_error.h"
 #include "store/translation.h"
@@ -12,7 +14,6 @@
 #include <functional>
 #include <map>
 #include <optional>
-#include <sys/stat.h>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -21,46 +22,6 @@ namespace orvane {
 namespace {
 
 constexpr int BusyMilliseconds = 250;
-
-// What tells one state of a file from another.
-struct Stamp
-{
-    ino_t File = 0;
-    off_t Size = 0;
-    std::int64_t Changed = 0; // nanoseconds
-
-    friend bool operator==(const Stamp&, const Stamp&) = default;
-};
-
-std::optional<Stamp> StampOf(const std::filesystem::path& File)
-{
-    struct stat Status = {};
-    if (::stat(File.c_str(), &Status) != 0)
-        return std::nullopt;
-    return Stamp{Status.st_ino, Status.st_size,
-                 std::int64_t{Status.st_mtim.tv_sec} * 1'000'000'000 + Status.st_mtim.tv_nsec};
-}
-
-// A query's shape: its words, with each literal as the question marks that it takes. Two texts of
-// one shape share a prepared statement.
-std::string ShapeOf(Tokens Query, std::vector<Value>& Parameters)
-{
-    std::string Shape;
-    for (std::size_t At = 0; At < Query.size(); ++At) {
-        Shape += ' ';
-        if (Query[At].Kind != TokenKind::Text && Query[At].Kind != TokenKind::Number) {
-            Shape += Query[At].Content;
-            continue;
-        }
-        Literal Given = LiteralAt(Query, At);
-        Shape += Query[At].Kind == TokenKind::Number      ? "#"
-                 : Given.TheForm == Literal::Form::Folded ? "~"
-                                                          : "";
-        Shape.append(Given.Values.size(), '?');
-        std::move(Given.Values.begin(), Given.Values.end(), std::back_inserter(Parameters));
-    }
-    return Shape;
-}
 
 Value ValueAt(SQLite::Statement& Statement, int At)
 {
@@ -78,8 +39,10 @@ Value ValueAt(SQLite::Statement& Statement, int At)
 std::string DistinctKey(const std::vector<Value>& Row)
 {
     std::string Key;
-    for (const Value& Cell : Row)
-        Key += FoldedCase(Cell.ToText()) + '\n';
+    for (const Value& Cell : Row) {
+        const std::string Text = FoldedCase(Cell.ToText());
+        Key += (Cell.IsNull() ? "-" : "+") + std::to_string(Text.size()) + ':' + Text;
+    }
     return Key;
 }
 
@@ -96,16 +59,6 @@ struct Prepared
     Translation Query;
     std::shared_ptr<const std::vector<std::string>> Columns;
 };
-
-// Values that a query looks for, as a message shows them.
-std::vector<std::string> LookedFor(Tokens Query)
-{
-    std::vector<std::string> Values;
-    for (const Token& Each : Query)
-        if (Each.Kind == TokenKind::Text || Each.Kind == TokenKind::Number)
-            Values.push_back(Each.Content);
-    return Values;
-}
 
 } // namespace
 
@@ -166,7 +119,7 @@ struct Connection::Inside
     SQLite::Database Base;
     orvane::Schema Schema;
     std::unordered_map<std::string, std::unique_ptr<Prepared>> Statements;
-    std::map<std::filesystem::path, std::optional<Stamp>> Stamps;
+    std::map<std::filesystem::path, std::optional<FileStamp>> Stamps;
     bool Reading = false;
 };
 
@@ -290,8 +243,10 @@ std::string Connection::LinkConnect(const std::string& Name)
 void Connection::SetLinkConnect(const std::string& Name, const std::string& Connect)
 {
     Translated(In->File, [&] {
+        In->Schema.LinkConnect(Name); // fails for an unknown name
         In->Write([&] {
-            In->Run("UPDATE LinkedTables SET Connect = ? WHERE Nom = ?", {Connect, Name});
+            In->Run("UPDATE LinkedTables SET Connect = ? WHERE fold_case(Nom) = ?",
+                    {Connect, FoldedCase(Name)});
         });
     });
 }
@@ -315,15 +270,15 @@ void Connection::Rest()
 {
     EndReading();
     In->Stamps.clear();
-    In->Stamps[In->File] = StampOf(In->File);
+    In->Stamps[In->File] = FileStampOf(In->File);
     for (const auto& Linked : In->Schema.LinkedFiles())
-        In->Stamps[Linked] = StampOf(Linked);
+        In->Stamps[Linked] = FileStampOf(Linked);
 }
 
 bool Connection::IsFresh() const
 {
     for (const auto& [File, Known] : In->Stamps)
-        if (!Known || StampOf(File) != Known)
+        if (!Known || FileStampOf(File) != Known)
             return false;
     return true;
 }

@@ -55,6 +55,13 @@ struct DatabaseMaker::Inside
     {
     }
 
+    ~Inside()
+    {
+        std::error_code Error;
+        if (!Finished)
+            std::filesystem::remove(Unfinished(File), Error);
+    }
+
     std::filesystem::path File;
     SQLite::Database Base;
     SQLite::Transaction Transaction;
@@ -90,15 +97,7 @@ DatabaseMaker::DatabaseMaker(std::filesystem::path File, const DatabaseDefinitio
     });
 }
 
-DatabaseMaker::~DatabaseMaker()
-{
-    if (!In || In->Finished)
-        return;
-    const auto File = Unfinished(In->File);
-    In = nullptr;
-    std::error_code Error;
-    std::filesystem::remove(File, Error);
-}
+DatabaseMaker::~DatabaseMaker() = default;
 
 void DatabaseMaker::AddTable(const TableDefinition& Table)
 {

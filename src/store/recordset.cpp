@@ -34,10 +34,12 @@ void Recordset::MoveFirst()
                       "no row in " + Rows.Source);
     }
     At = 0;
+    DropChanges();
 }
 
 void Recordset::MoveNext()
 {
+    DropChanges();
     if (!Eof())
         ++At;
 }
@@ -134,6 +136,12 @@ void Recordset::Begin(Mode Wanted)
     TheMode = Wanted;
 }
 
+void Recordset::DropChanges()
+{
+    Pending.clear();
+    TheMode = Mode::Reading;
+}
+
 void Recordset::Put(std::string_view Name, Value Cell)
 {
     Pending.emplace_back((*Rows.Columns)[ColumnAt(Name)], std::move(Cell));
@@ -143,7 +151,8 @@ std::string Recordset::Subject() const
 {
     std::string Result;
     for (const std::string& Each : Rows.Looked)
-        Result += (Result.empty() ? "" : ", ") + Each;
+        if (!Each.empty())
+            Result += (Result.empty() ? "" : ", ") + Each;
     return Result.empty() ? Rows.Source : Result + " (" + Rows.Source + ")";
 }
 

@@ -34,7 +34,8 @@ class Recordset
     std::int16_t Whole(std::string_view Name) const;
 
     // Changing: Edit or AddNew, then Set for each column, then Update, which stores the row at
-    // once. A refused value leaves the stored row as it was.
+    // once. Moving away before Update drops the change. A refused value leaves the stored row as it
+    // was.
     void Edit();
     void AddNew();
     void Set(std::string_view Name, std::string Text);
@@ -48,6 +49,7 @@ class Recordset
     const Value& Cell(std::string_view Name) const;
     std::size_t ColumnAt(std::string_view Name) const;
     void Begin(Mode Wanted);
+    void DropChanges();
     void Put(std::string_view Name, Value Cell);
 
     // What this row is about, for a message: what the query looked for, or where.

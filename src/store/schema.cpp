@@ -51,7 +51,8 @@ Schema::Converted(const std::string& Table, const std::vector<std::pair<std::str
 std::string Schema::LinkConnect(const std::string& Name)
 {
     const auto Row = HasTable("LinkedTables")
-                         ? FirstRow("SELECT Connect FROM LinkedTables WHERE Nom = ?", Name)
+                         ? FirstRow("SELECT Connect FROM LinkedTables WHERE fold_case(Nom) = ?",
+                                    FoldedCase(Name))
                          : std::vector<std::string>{};
     if (Row.empty())
         throw Failure(FailureKind::DatabaseIncomplete, DisplayName(File) + " : " + Name);
@@ -77,6 +78,14 @@ void Schema::Refresh()
 
 Source Schema::Load(const std::string& Name)
 {
+    if (!Loading.insert(FoldedCase(Name)).second) // a saved query that rests on itself
+        throw Failure(FailureKind::DatabaseIncomplete, DisplayName(File) + " : " + Name);
+    struct Leave
+    {
+        std::set<std::string>& Names;
+        std::string Name;
+        ~Leave() { Names.erase(Name); }
+    } const Done{Loading, FoldedCase(Name)};
     const auto Known =
         FirstRow("SELECT name, type FROM main.sqlite_schema WHERE type IN ('table', 'view') "
                  "AND fold_case(name) = ?",

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <map>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -52,6 +53,7 @@ class Schema
     const std::filesystem::path& File;
     std::map<std::string, Source> Sources;                 // by folded name
     std::map<std::string, std::vector<ColumnKind>> Kinds;  // by folded table name
+    std::set<std::string> Loading;                         // folded names, while they are read
     std::map<std::filesystem::path, std::string> Attached; // file and its name in SQL
 };
 

@@ -123,7 +123,11 @@ bool Token::Is(std::string_view Keyword) const
 
 std::vector<Token> Tokenize(std::string_view Sql)
 {
-    return Scanner(Sql).Run();
+    std::vector<Token> Tokens = Scanner(Sql).Run();
+    while (!Tokens.empty() && Tokens.back().Kind == TokenKind::Symbol &&
+           Tokens.back().Content == ";")
+        Tokens.pop_back();
+    return Tokens;
 }
 
 } // namespace orvane

@@ -24,7 +24,8 @@ struct Token
     bool Is(std::string_view Keyword) const;
 };
 
-// Failure (Kind::Store) for a text or bracket that doesn't end.
+// Without the semicolon that may end a query. Failure (Kind::Store) for a text or bracket that
+// doesn't end.
 std::vector<Token> Tokenize(std::string_view Sql);
 
 } // namespace orvane

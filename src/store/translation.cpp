@@ -161,6 +161,8 @@ class JoinTranslator
 Translation TranslateSelect(Tokens Query, const SourceFinder& Find)
 {
     const Clauses Parts = SplitClauses(Query);
+    if (Parts.From + 2 != Parts.Where) // joins are for saved queries
+        ThrowUnreadable(Query);
     const Source& From = Find(Query[Parts.From + 1].Content);
     const ColumnResolver Resolve = [&](const std::string& Name) {
         return QuotedName(From.Columns[ColumnAt(From, Name)]);
