@@ -166,7 +166,8 @@ RowSet Connection::Select(std::string_view Sql)
             Row.reserve(static_cast<std::size_t>(Count));
             for (int i = 0; i < Count; ++i)
                 Row.push_back(ValueAt(Statement, i));
-            if (Ready.Query.Distinct && !Seen.insert(DistinctKey(Row)).second)
+            const bool LikeTheLast = !Result.Rows.empty() && Row == Result.Rows.back();
+            if (Ready.Query.Distinct && (LikeTheLast || !Seen.insert(DistinctKey(Row)).second))
                 continue;
             Result.Rows.push_back(std::move(Row));
             if (!Result.Table.empty())

@@ -1,0 +1,48 @@
+#include "large_catalogue.h"
+
+#include "store/catalogue.h"
+#include "store/sql_text.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+namespace orvane::bench {
+
+namespace {
+
+// Every column but Num; the name takes the copy's number.
+void Multiply(const std::filesystem::path& File, int Times)
+{
+    std::string Names;
+    std::string Values;
+    for (const TableDefinition& Table : RoyaumeDefinition().Tables)
+        if (Table.Name == "Classique_ListeObjets")
+            for (const ColumnDefinition& Column : Table.Columns) {
+                if (Column.Type == ColumnType::Key)
+                    continue;
+                Names += (Names.empty() ? "" : ", ") + QuotedName(Column.Name);
+                Values += (Values.empty() ? "" : ", ") + QuotedName(Column.Name) +
+                          (Column.Name == "Nom" ? " || ' ' || Copie" : "");
+            }
+    SQLite::Database Base(File.string(), SQLite::OPEN_READWRITE);
+    Base.exec("INSERT INTO Classique_ListeObjets (" + Names +
+              ") WITH RECURSIVE Copies(Copie) AS (SELECT 2 UNION ALL SELECT Copie + 1 FROM Copies "
+              "WHERE Copie < " +
+              std::to_string(Times) + ") SELECT " + Values +
+              " FROM Copies CROSS JOIN Classique_ListeObjets");
+}
+
+} // namespace
+
+void CopyCatalogue(const std::filesystem::path& From, const std::filesystem::path& To, int Times)
+{
+    std::filesystem::create_directories(To);
+    for (const auto& Entry : std::filesystem::directory_iterator(From))
+        if (Entry.path().extension() == ".mdb")
+            std::filesystem::copy_file(Entry.path(), To / Entry.path().filename(),
+                                       std::filesystem::copy_options::overwrite_existing);
+    for (const std::string& Royaume : Royaumes())
+        if (Times > 1)
+            Multiply(To / ("Artisanat_" + Royaume + ".mdb"), Times);
+}
+
+} // namespace orvane::bench
