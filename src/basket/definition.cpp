@@ -8,8 +8,8 @@ void frm_Panier::Définir()
 {
     SizeScreen(*this, 900, 600);
     PlacePanel(shp_Commandes, {16, 16, 868, 66});
-    PlaceLabel(lbl_Commandes, "Liste des commandes :", {32, 36, 160, 26});
-    Place(cbo_Commandes, {196, 36, 330, 26});
+    PlaceLabel(lbl_Commandes, "Liste des commandes :", {32, 37, 160, 24});
+    Place(cbo_Commandes, {196, 37, 330, 24});
     cbo_Commandes.Sorted = true;
     PlaceButton(cmd_Enregistrer, "Nommer la commande",
                 "Donner un nom d’acheteur à la nouvelle commande", {544, 27, 200, 44});
@@ -30,13 +30,14 @@ void frm_Panier::Définir()
         PlaceHeading(Each.Title, Each.Words, {Each.X, 102, Each.Wide, 24});
         Each.Title.Align = Each.X == 32 ? Alignment::Left : Alignment::Centre;
         Place(Each.List, {Each.X, 130, Each.Wide, 330});
+        Each.List.Align = Each.Title.Align;
     }
     Place(lst_Num, {880, 130, 10, 330});
     lst_Num.Visible = false;
-    PlaceLabel(lbl_Total, "Total :", {480, 474, 106, 26}, Alignment::Right);
+    PlaceLabel(lbl_Total, "Total :", {480, 475, 106, 24}, Alignment::Right);
     lbl_Total.Bold = true;
-    Place(txt_TotalPanierCoûtant, {596, 474, 134, 26});
-    Place(txt_TotalPanierVente, {734, 474, 134, 26});
+    Place(txt_TotalPanierCoûtant, {596, 475, 134, 24});
+    Place(txt_TotalPanierVente, {734, 475, 134, 24});
 
     PlaceButton(cmd_SupprimerObjet, "Supprimer l’objet", "Retirer la ligne choisie de la commande",
                 {16, 532, 200, 48});

@@ -6,36 +6,46 @@ namespace orvane {
 
 namespace {
 
+constexpr int High = 24; // a box, and the label beside it
 constexpr int Step = 28; // from one row of boxes to the next
-constexpr int High = 23; // a box, and the label beside it
+
+// Columns, from the left edge of a group.
+constexpr int NameX = 16;
+constexpr int LevelX = 160;
+constexpr int MarginX = 304;
+constexpr int TrialX = 412;
+constexpr int BoxWide = 92;
+
+constexpr int LeftX = 16;
+constexpr int LeftWide = 532;
+constexpr int RightX = 560;
+constexpr int RightWide = 344;
+constexpr int ManualY = 124;
+constexpr int MagicY = 278;
+constexpr int SecondaryY = 376;
+constexpr int FirstRow = 30; // from the top of a group
 
 struct Row
 {
     Label* Name;
     const char* Words;
     RéglagesArtisanat Boxes;
-    int X; // of the group
     int Y;
 };
 
 void PlaceRow(const Row& Each)
 {
-    constexpr int NameWide = 116;
-    constexpr int BoxWide = 84;
-    constexpr int ToNextBox = 96;
-    if (Each.Name != nullptr)
-        PlaceLabel(*Each.Name, Each.Words, {Each.X + 16, Each.Y, NameWide, High});
-    int X = Each.X + 16 + NameWide;
-    for (TextBox* Box : {Each.Boxes.Niveau, Each.Boxes.Marge, Each.Boxes.Essai}) {
+    PlaceLabel(*Each.Name, Each.Words, {LeftX + NameX, Each.Y, LevelX - NameX, High});
+    const std::vector<std::pair<TextBox*, int>> Columns{
+        {Each.Boxes.Niveau, LevelX}, {Each.Boxes.Marge, MarginX}, {Each.Boxes.Essai, TrialX}};
+    for (const auto& [Box, X] : Columns)
         if (Box != nullptr)
-            Place(*Box, {X, Each.Y, BoxWide, High});
-        X += ToNextBox;
-    }
+            Place(*Box, {LeftX + X, Each.Y, BoxWide, High});
 }
 
 void PlaceColumnTitle(Label& Which, const char* Words, int X, int Y)
 {
-    PlaceLabel(Which, Words, {X, Y, 84, 18}, Alignment::Centre);
+    PlaceLabel(Which, Words, {X, Y, BoxWide, 20}, Alignment::Centre);
     Which.FontSize = 8;
 }
 
@@ -43,47 +53,48 @@ void PlaceColumnTitle(Label& Which, const char* Words, int X, int Y)
 
 void frm_Configuration::Définir()
 {
-    constexpr int LeftX = 16;
-    constexpr int RightX = 468;
-    SizeScreen(*this, 920, 560);
+    SizeScreen(*this, 920, 540);
     Place(img_Bannière, {160, 12, 600, 64});
 
-    PlacePanel(Shape7, {LeftX, 86, 436, 30});
-    PlacePanel(Shape8, {RightX, 86, 436, 30});
-    PlacePanel(Shape1, {LeftX, 124, 436, 186});  // manual crafts
-    PlacePanel(Shape2, {LeftX, 318, 436, 126});  // magic crafts
-    PlacePanel(Shape3, {RightX, 124, 436, 186}); // secondary crafts
-    PlacePanel(Shape4, {RightX, 318, 436, 126}); // legendary weapons
-    PlacePanel(Shape5, {LeftX, 452, 660, 92});   // skin and resolution
-    PlacePanel(Shape6, {684, 452, 220, 92});
+    PlacePanel(Shape1, {LeftX, 86, LeftWide, 30});
+    PlacePanel(Shape2, {LeftX, ManualY, LeftWide, 146});
+    PlacePanel(Shape3, {LeftX, MagicY, LeftWide, 90});
+    PlacePanel(Shape4, {LeftX, SecondaryY, LeftWide, 146});
+    PlacePanel(Shape5, {RightX, 86, RightWide, 110});
+    PlacePanel(Shape6, {RightX, 208, RightWide, 160});
+    PlacePanel(Shape7, {RightX, 376, RightWide, 146});
+    Place(Shape8, {RightX + 40, 404, 264, 90}); // around the one button
+    Shape8.BorderColor = Shape7.BorderColor();
 
-    PlaceHeading(Label11, "Niveau des Artisans", {LeftX + 14, 89, 400, 24});
-    PlaceHeading(Label15, "Marges à appliquer (en %)", {RightX + 14, 89, 400, 24});
-    PlaceHeading(Label12, "Artisanats manuels", {LeftX + 14, 130, 190, 24});
-    PlaceHeading(Label13, "Artisanats magiques", {LeftX + 14, 324, 190, 24});
-    PlaceHeading(Label14, "Artisanats secondaires", {RightX + 14, 130, 190, 24});
+    PlaceHeading(Label11, "Niveau des Artisans", {LeftX + 128, 90, 156, High});
+    PlaceHeading(Label15, "Marges à appliquer (en %)", {LeftX + MarginX, 90, 220, High});
+    PlaceHeading(Label12, "Artisanats manuels", {LeftX + 14, ManualY + 4, 240, High});
+    PlaceHeading(Label13, "Artisanats magiques", {LeftX + 14, MagicY + 4, 240, High});
+    PlaceHeading(Label14, "Artisanats secondaires", {LeftX + 14, SecondaryY + 4, 240, High});
     PlaceHeading(Label24, "Marges à appliquer (en %), armes légendaires",
-                 {RightX + 14, 324, 400, 24});
-    PlaceHeading(Label20, "Changer l'habillage du logiciel", {LeftX + 14, 456, 400, 24});
+                 {RightX + 14, 90, RightWide - 20, High});
+    PlaceHeading(Label20, "Changer l'habillage du logiciel", {RightX + 14, 212, 300, High});
 
-    PlaceColumnTitle(Label16, "Premier jet", LeftX + 228, 152);
-    PlaceColumnTitle(Label17, "Essai", LeftX + 324, 152);
-    PlaceColumnTitle(Label19, "Premier jet", LeftX + 228, 346);
-    PlaceColumnTitle(Label18, "Essai", LeftX + 324, 346);
-    PlaceColumnTitle(Label27, "Premier jet", RightX + 228, 152);
-    PlaceColumnTitle(Label22, "Premier jet", RightX + 228, 362);
-    PlaceColumnTitle(Label23, "Essai", RightX + 324, 362);
+    PlaceColumnTitle(Label16, "Premier jet", LeftX + MarginX, ManualY + 8);
+    PlaceColumnTitle(Label17, "Essai", LeftX + TrialX, ManualY + 8);
+    PlaceColumnTitle(Label19, "Premier jet", LeftX + MarginX, MagicY + 8);
+    PlaceColumnTitle(Label18, "Essai", LeftX + TrialX, MagicY + 8);
+    PlaceColumnTitle(Label27, "Premier jet", LeftX + MarginX, SecondaryY + 8);
+    PlaceColumnTitle(Label22, "Premier jet", RightX + 64, 124);
+    PlaceColumnTitle(Label23, "Essai", RightX + 188, 124);
+    Place(txt_MargeLégendaires, {RightX + 64, 148, BoxWide, High});
+    Place(txt_EssaiLégendaires, {RightX + 188, 148, BoxWide, High});
     DéfinirRéglages();
 
-    PlaceLabel(Label21, "Liste des Skins", {LeftX + 16, 482, 200, 20});
-    Place(cbo_Skin, {LeftX + 16, 506, 300, 24});
-    PlaceLabel(Label25, "Résolution", {LeftX + 340, 482, 200, 20});
-    Place(cbo_Résolution, {LeftX + 340, 506, 300, 24});
+    PlaceLabel(Label21, "Liste des Skins", {RightX + 16, 240, 200, High});
+    Place(cbo_Skin, {RightX + 16, 264, RightWide - 32, High});
+    PlaceLabel(Label25, "Résolution", {RightX + 16, 298, 200, High});
+    Place(cbo_Résolution, {RightX + 16, 322, RightWide - 32, High});
     cbo_Skin.Sorted = true;
     cbo_Résolution.Sorted = true;
 
     PlaceButton(cmd_Validation, "Valider", "Enregistrer les réglages du royaume et fermer",
-                {708, 474, 172, 48});
+                {RightX + 60, 420, 224, 58});
     PlaceButton(cmd_Couleur, "Couleur", "Choisir une couleur et lire son numéro",
                 {16, 16, 120, 26});
     PlaceButton(cmd_Récup, "Récup données Résolution", "Capturer la géométrie d’une feuille",
@@ -96,30 +107,29 @@ void frm_Configuration::Définir()
 
 void frm_Configuration::DéfinirRéglages()
 {
-    constexpr int LeftX = 16;
-    constexpr int RightX = 468;
     const auto Boxes = Réglages();
+    const auto Line = [](int GroupY, int Row) { return GroupY + FirstRow + Row * Step; };
     const std::vector<Row> Rows{
-        {&LabelMétier[4], "Armurerie :", Boxes[0], LeftX, 172},
-        {&LabelMétier[2], "Couture :", Boxes[1], LeftX, 172 + Step},
-        {&LabelMétier[5], "Empennage :", Boxes[2], LeftX, 172 + 2 * Step},
-        {&LabelMétier[6], "Forge :", Boxes[3], LeftX, 172 + 3 * Step},
-        {&LabelMétier[1], "Alchimie :", Boxes[4], LeftX, 366},
-        {&LabelMétier[3], "Arcanes :", Boxes[5], LeftX, 366 + Step},
-        {&LabelMétier[9], "Maroquinerie :", Boxes[6], RightX, 172},
-        {&LabelMétier[7], "Menuiserie :", Boxes[7], RightX, 172 + Step},
-        {&LabelMétier[8], "Métallurgie :", Boxes[8], RightX, 172 + 2 * Step},
-        {&LabelMétier[10], "Tissage :", Boxes[9], RightX, 172 + 3 * Step},
-        {nullptr, "", Boxes[10], RightX, 382},
+        {&LabelMétier[4], "Armurerie :", Boxes[0], Line(ManualY, 0)},
+        {&LabelMétier[2], "Couture :", Boxes[1], Line(ManualY, 1)},
+        {&LabelMétier[5], "Empennage :", Boxes[2], Line(ManualY, 2)},
+        {&LabelMétier[6], "Forge :", Boxes[3], Line(ManualY, 3)},
+        {&LabelMétier[1], "Alchimie :", Boxes[4], Line(MagicY, 0)},
+        {&LabelMétier[3], "Arcanes :", Boxes[5], Line(MagicY, 1)},
+        {&LabelMétier[9], "Maroquinerie :", Boxes[6], Line(SecondaryY, 0)},
+        {&LabelMétier[7], "Menuiserie :", Boxes[7], Line(SecondaryY, 1)},
+        {&LabelMétier[8], "Métallurgie :", Boxes[8], Line(SecondaryY, 2)},
+        {&LabelMétier[10], "Tissage :", Boxes[9], Line(SecondaryY, 3)},
     };
-    for (const Row& Each : Rows) {
+    for (const Row& Each : Rows)
         PlaceRow(Each);
-        if (Each.Boxes.Niveau != nullptr)
-            Each.Boxes.Niveau->StartWith("1");
-        for (TextBox* Marge : {Each.Boxes.Marge, Each.Boxes.Essai})
-            if (Marge != nullptr)
-                Marge->StartWith("0");
-        for (TextBox* Box : {Each.Boxes.Niveau, Each.Boxes.Marge, Each.Boxes.Essai})
+    for (const RéglagesArtisanat& Craft : Boxes) {
+        if (Craft.Niveau != nullptr)
+            Craft.Niveau->StartWith("1");
+        for (TextBox* Margin : {Craft.Marge, Craft.Essai})
+            if (Margin != nullptr)
+                Margin->StartWith("0");
+        for (TextBox* Box : {Craft.Niveau, Craft.Marge, Craft.Essai})
             if (Box != nullptr)
                 Box->OpenFor(NumberKind::Entier16);
     }

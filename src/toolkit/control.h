@@ -9,6 +9,8 @@ namespace orvane {
 
 class Screen;
 
+enum class Alignment { Left, Centre, Right };
+
 enum class ControlKind {
     Line,
     Shape,

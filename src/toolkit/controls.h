@@ -10,8 +10,6 @@
 // own.
 namespace orvane {
 
-enum class Alignment { Left, Centre, Right };
-
 class Label : public Control
 {
   public:

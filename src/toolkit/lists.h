@@ -34,6 +34,7 @@ class ListControl : public Control
     };
 
     IndexProperty ListIndex{*this};
+    Alignment Align = Alignment::Left;
     bool Sorted = false; // entries keep French alphabetical order, whatever the order of adding
     std::function<void()> OnClick;
 

@@ -92,10 +92,12 @@ void User::Event(const std::function<void()>& Action)
 void User::On(Control& Which, const std::function<void()>& Action)
 {
     Event([&] {
-        if (!Which.Visible || !Which.Owner().IsVisible())
+        const auto Reachable = [&] { return Which.Visible && Which.Owner().IsVisible(); };
+        if (!Reachable())
             return;
         TheForms.Activate(Which.Owner());
-        Action();
+        if (Reachable()) // the activation may have hidden it
+            Action();
     });
 }
 

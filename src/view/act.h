@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtLogging>
+#include <QDebug>
 
 #include <exception>
 

@@ -11,7 +11,10 @@
 namespace orvane {
 
 ButtonView::ButtonView(Button& Model, User& TheUser, QWidget* Parent)
-    : QAbstractButton(Parent), ControlView(Model), TheModel(Model), TheUser(TheUser)
+    : QAbstractButton(Parent),
+      ControlView(Model),
+      TheModel(Model),
+      TheUser(TheUser)
 {
     setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::StrongFocus);

@@ -14,7 +14,11 @@
 namespace orvane {
 
 ComboBoxView::ComboBoxView(ComboBox& Model, User& TheUser, QWidget* Parent)
-    : QComboBox(Parent), ControlView(Model), Box(Model), TheUser(TheUser), TheOffers(Model)
+    : QComboBox(Parent),
+      ControlView(Model),
+      Box(Model),
+      TheUser(TheUser),
+      TheOffers(Model)
 {
     setEditable(true);
     setCompleter(nullptr);

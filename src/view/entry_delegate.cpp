@@ -13,7 +13,7 @@ void EntryDelegate::paint(QPainter* Painter, const QStyleOptionViewItem& Option,
                           const QModelIndex& Index) const
 {
     const bool Chosen = Option.state.testFlag(QStyle::State_Selected);
-    const bool Active = Option.state.testFlag(QStyle::State_Active);
+    const bool Active = Where == Keyboard::Elsewhere || Option.state.testFlag(QStyle::State_Active);
     QColor Words = Option.palette.color(QPalette::Text);
     if (Chosen) {
         Painter->fillRect(Option.rect, Active ? look::Choice : look::QuietChoice);
@@ -34,7 +34,7 @@ QSize EntryDelegate::sizeHint(const QStyleOptionViewItem& Option, const QModelIn
 {
     const QString Text = Index.data(Qt::DisplayRole).toString();
     return {Option.fontMetrics.horizontalAdvance(Text) + 2 * look::RowPadding,
-            Option.fontMetrics.height() + look::RowPadding};
+            Option.fontMetrics.height() + look::RowPadding + 1};
 }
 
 bool EntryDelegate::helpEvent(QHelpEvent* Event, QAbstractItemView* View,

@@ -8,13 +8,19 @@ namespace orvane {
 class EntryDelegate : public QStyledItemDelegate
 {
   public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    enum class Keyboard { InList, Elsewhere };
+
+    // A list whose keyboard is elsewhere shows its choice as if it had the focus.
+    EntryDelegate(Keyboard Where, QObject* Parent) : QStyledItemDelegate(Parent), Where(Where) {}
 
     void paint(QPainter* Painter, const QStyleOptionViewItem& Option,
                const QModelIndex& Index) const override;
     QSize sizeHint(const QStyleOptionViewItem& Option, const QModelIndex& Index) const override;
     bool helpEvent(QHelpEvent* Event, QAbstractItemView* View, const QStyleOptionViewItem& Option,
                    const QModelIndex& Index) override;
+
+  private:
+    Keyboard Where;
 };
 
 } // namespace orvane

@@ -8,7 +8,8 @@
 
 namespace orvane {
 
-// Entries of a list for a view, read where they are: all of them, or a choice in an order of its own.
+// Entries of a list for a view, read where they are: all of them, or a choice in an order of its
+// own.
 class EntryModel : public QAbstractListModel
 {
   public:

@@ -13,11 +13,13 @@
 namespace orvane {
 
 EntryPopup::EntryPopup(QWidget& Owner, const ListControl& List)
-    : QListView(Owner.window()), Owner(Owner), Model(List, this)
+    : QListView(Owner.window()),
+      Owner(Owner),
+      Model(List, this)
 {
     hide();
     setModel(&Model);
-    setItemDelegate(new EntryDelegate(this));
+    setItemDelegate(new EntryDelegate(EntryDelegate::Keyboard::Elsewhere, this));
     setFocusPolicy(Qt::NoFocus);
     setMouseTracking(true);
     setUniformItemSizes(true);

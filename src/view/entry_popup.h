@@ -17,7 +17,7 @@ class EntryPopup : public QListView
 
     std::function<void(int Entry)> OnPick;
 
-    void OpenAll(int Entry);                // every entry, that one highlighted
+    void OpenAll(int Entry);                 // every entry, that one highlighted
     void OpenSome(std::vector<int> Entries); // nothing highlighted
 
     void Highlight(int Entry); // -1 for none

@@ -10,11 +10,14 @@ namespace orvane {
 namespace {
 
 constexpr double SmallestShare = 0.82; // of the model's size, before a caption is cut short
+constexpr int RightGap = 4;            // to what stands at the right
 
 } // namespace
 
 LabelView::LabelView(Label& Model, QWidget* Parent)
-    : QLabel(Parent), ControlView(Model), TheLabel(Model)
+    : QLabel(Parent),
+      ControlView(Model),
+      TheLabel(Model)
 {
     setTextFormat(Qt::PlainText);
 }
@@ -39,6 +42,11 @@ void LabelView::FollowAll()
     Fit();
 }
 
+int LabelView::Room() const
+{
+    return TheLabel.Align == Alignment::Right ? width() - RightGap : width();
+}
+
 bool LabelView::Wraps() const
 {
     return text().contains(u'\n') || height() >= 2 * fontMetrics().lineSpacing() - 2;
@@ -51,7 +59,7 @@ void LabelView::Fit()
         setText(Caption);
     QFont Font = look::Font(TheLabel.FontSize, TheLabel.Bold);
     setFont(Font);
-    const auto TooLong = [&] { return fontMetrics().horizontalAdvance(Caption) > width(); };
+    const auto TooLong = [&] { return fontMetrics().horizontalAdvance(Caption) > Room(); };
     for (double Share = 0.94; !Wraps() && TooLong() && Share >= SmallestShare; Share -= 0.06) {
         Font.setPointSizeF(TheLabel.FontSize * Share);
         setFont(Font);
@@ -77,9 +85,9 @@ void LabelView::paintEvent(QPaintEvent*)
         Flags |= Qt::TextWordWrap | Qt::AlignTop;
     } else {
         Flags |= Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip;
-        Caption = fontMetrics().elidedText(Caption, Qt::ElideRight, width());
+        Caption = fontMetrics().elidedText(Caption, Qt::ElideRight, Room());
     }
-    Painter.drawText(rect(), Flags, Caption);
+    Painter.drawText(QRect(0, 0, Room(), height()), Flags, Caption);
 }
 
 } // namespace orvane

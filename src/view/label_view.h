@@ -24,6 +24,7 @@ class LabelView : public QLabel, public ControlView
 
   private:
     void Fit();
+    int Room() const;
     bool Wraps() const;
 
     Label& TheLabel;

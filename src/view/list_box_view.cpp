@@ -17,10 +17,14 @@
 namespace orvane {
 
 ListBoxView::ListBoxView(ListBox& Model, User& TheUser, QWidget* Parent)
-    : QListView(Parent), ControlView(Model), TheBox(Model), TheUser(TheUser), Entries(Model, this)
+    : QListView(Parent),
+      ControlView(Model),
+      TheBox(Model),
+      TheUser(TheUser),
+      Entries(Model, this)
 {
     setModel(&Entries);
-    setItemDelegate(new EntryDelegate(this));
+    setItemDelegate(new EntryDelegate(EntryDelegate::Keyboard::InList, this));
     setUniformItemSizes(true);
     setVerticalScrollMode(ScrollPerItem);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -1,16 +1,12 @@
 #include "view/look.h"
 
-#include "view/style.h"
-
-#include <QApplication>
 #include <QFontDatabase>
 #include <QImage>
 #include <QLinearGradient>
 #include <QPainter>
-#include <QPainterPath>
+#include <QPalette>
 #include <QPixmap>
 #include <QRandomGenerator>
-#include <QToolTip>
 
 namespace orvane::look {
 
@@ -26,25 +22,6 @@ const QString& Family()
         return QStringLiteral("DejaVu Sans");
     }();
     return Chosen;
-}
-
-QPalette ParchmentPalette()
-{
-    QPalette Result(Ground);
-    Result.setColor(QPalette::Window, Ground);
-    Result.setColor(QPalette::WindowText, Ink);
-    Result.setColor(QPalette::Base, Qt::white);
-    Result.setColor(QPalette::AlternateBase, Panel);
-    Result.setColor(QPalette::Text, Ink);
-    Result.setColor(QPalette::Button, QColor(0xE6, 0xD8, 0xB8));
-    Result.setColor(QPalette::ButtonText, Ink);
-    Result.setColor(QPalette::Highlight, Choice);
-    Result.setColor(QPalette::HighlightedText, Cream);
-    Result.setColor(QPalette::ToolTipBase, QColor(0xFF, 0xFA, 0xEC));
-    Result.setColor(QPalette::ToolTipText, Ink);
-    Result.setColor(QPalette::PlaceholderText, MutedInk);
-    Result.setColor(QPalette::Link, Focus);
-    return Result;
 }
 
 // A faint grain, the same at each run.
@@ -68,12 +45,23 @@ QRectF Inside(const QRectF& Box, double By)
 
 } // namespace
 
-void Apply(QApplication& Application)
+QPalette Palette()
 {
-    QApplication::setStyle(new Style);
-    QApplication::setPalette(ParchmentPalette());
-    QToolTip::setPalette(ParchmentPalette());
-    Application.setFont(Font(DialogPoints));
+    QPalette Result(Ground);
+    Result.setColor(QPalette::Window, Ground);
+    Result.setColor(QPalette::WindowText, Ink);
+    Result.setColor(QPalette::Base, Qt::white);
+    Result.setColor(QPalette::AlternateBase, Panel);
+    Result.setColor(QPalette::Text, Ink);
+    Result.setColor(QPalette::Button, QColor(0xE6, 0xD8, 0xB8));
+    Result.setColor(QPalette::ButtonText, Ink);
+    Result.setColor(QPalette::Highlight, Choice);
+    Result.setColor(QPalette::HighlightedText, Cream);
+    Result.setColor(QPalette::ToolTipBase, QColor(0xFF, 0xFA, 0xEC));
+    Result.setColor(QPalette::ToolTipText, Ink);
+    Result.setColor(QPalette::PlaceholderText, MutedInk);
+    Result.setColor(QPalette::Link, Focus);
+    return Result;
 }
 
 QFont Font(double Points, bool Bold)
@@ -151,6 +139,27 @@ void PaintGround(QPainter& Painter, const QRectF& Window)
     Painter.drawTiledPixmap(Window, Grain());
     Painter.setPen(QPen(GroundEdge, 1));
     Painter.drawRect(Inside(Window, 4.5));
+}
+
+QPixmap Notice(double Density)
+{
+    constexpr double Side = 40;
+    QPixmap Result(QSizeF(Side, Side).toSize() * Density);
+    Result.setDevicePixelRatio(Density);
+    Result.fill(Qt::transparent);
+    QPainter Painter(&Result);
+    Painter.setRenderHint(QPainter::Antialiasing);
+    QLinearGradient Fill(0, 0, 0, Side);
+    Fill.setColorAt(0, PlateTop);
+    Fill.setColorAt(1, PlateBottom);
+    Painter.setPen(QPen(PlateBorder, 1));
+    Painter.setBrush(Fill);
+    Painter.drawEllipse(QRectF(1, 1, Side - 2, Side - 2));
+    Painter.setPen(Qt::NoPen);
+    Painter.setBrush(Cream);
+    Painter.drawEllipse(QPointF(Side / 2, 12), 2.6, 2.6);
+    Painter.drawRoundedRect(QRectF(Side / 2 - 2.2, 17.5, 4.4, 13), 2.2, 2.2);
+    return Result;
 }
 
 void PaintArrow(QPainter& Painter, const QRectF& Box, const QColor& Colour)

@@ -6,8 +6,9 @@
 #include <QFont>
 #include <QRectF>
 
-class QApplication;
 class QPainter;
+class QPalette;
+class QPixmap;
 
 // The one place for colours, type and measures: an inked parchment.
 namespace orvane::look {
@@ -42,9 +43,7 @@ inline constexpr int ComboHeight = 23;
 inline constexpr int PopupRows = 14;
 inline constexpr double DialogPoints = 10;
 
-// Palette, style and font of everything that no screen's definition decides.
-void Apply(QApplication& Application);
-
+QPalette Palette();
 QFont Font(double Points, bool Bold = false);
 
 // The model's colour; its plain black becomes ink.
@@ -72,6 +71,9 @@ void PaintFocusRing(QPainter& Painter, const QRectF& Box, double Radius);
 
 // A window's own ground, for screens without a background picture.
 void PaintGround(QPainter& Painter, const QRectF& Window);
+
+// What stands beside the words of a message.
+QPixmap Notice(double Density);
 
 void PaintArrow(QPainter& Painter, const QRectF& Box, const QColor& Colour);
 

@@ -7,7 +7,8 @@ namespace orvane {
 // A pasted text as one line in composed letters.
 QString OneLine(const QString& Pasted);
 
-// A pasted number as the number texts spell it: no blanks, and a comma where a lone point was meant.
+// A pasted number as the number texts spell it: no blanks, and a comma where a lone point was
+// meant.
 QString NumberText(const QString& Pasted);
 
 } // namespace orvane

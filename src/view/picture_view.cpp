@@ -12,7 +12,10 @@
 namespace orvane {
 
 PictureView::PictureView(PictureControl& Model, User& TheUser, QWidget* Parent)
-    : QAbstractButton(Parent), ControlView(Model), TheModel(Model), TheUser(TheUser)
+    : QAbstractButton(Parent),
+      ControlView(Model),
+      TheModel(Model),
+      TheUser(TheUser)
 {
     setAttribute(Qt::WA_Hover);
     connect(this, &QAbstractButton::clicked, this,

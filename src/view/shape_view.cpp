@@ -6,10 +6,14 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace orvane {
 
 ShapeView::ShapeView(Shape& Model, QWidget* Parent)
-    : QWidget(Parent), ControlView(Model), TheShape(Model)
+    : QWidget(Parent),
+      ControlView(Model),
+      TheShape(Model)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
@@ -25,16 +29,18 @@ void ShapeView::paintEvent(QPaintEvent*)
 }
 
 LineView::LineView(Line& Model, QWidget* Parent)
-    : QWidget(Parent), ControlView(Model), TheLine(Model)
+    : QWidget(Parent),
+      ControlView(Model),
+      TheLine(Model)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
 QRect LineView::Place() const
 {
-    const QPoint First(Pixels(TheLine.X1), Pixels(TheLine.Y1));
-    const QPoint Second(Pixels(TheLine.X2), Pixels(TheLine.Y2));
-    return QRect(First, Second).normalized().adjusted(-1, -1, 1, 1);
+    const auto [Left, Right] = std::minmax({Pixels(TheLine.X1), Pixels(TheLine.X2)});
+    const auto [Top, Bottom] = std::minmax({Pixels(TheLine.Y1), Pixels(TheLine.Y2)});
+    return QRect(QPoint(Left, Top), QPoint(Right, Bottom)).adjusted(-1, -1, 1, 1);
 }
 
 void LineView::paintEvent(QPaintEvent*)

@@ -2,8 +2,10 @@
 
 #include "view/look.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QStyleOption>
+#include <QToolTip>
 #include <QWidget>
 
 namespace orvane {
@@ -13,6 +15,18 @@ namespace {
 constexpr int ListFrame = 2; // room for the focus
 
 } // namespace
+
+void Style::polish(QApplication* Application)
+{
+    QProxyStyle::polish(Application);
+    QApplication::setFont(look::Font(look::DialogPoints));
+    QToolTip::setPalette(look::Palette());
+}
+
+void Style::polish(QPalette& Colours)
+{
+    Colours = look::Palette(); // whatever the desktop's theme says
+}
 
 void Style::drawPrimitive(PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter,
                           const QWidget* Widget) const
@@ -24,6 +38,11 @@ void Style::drawPrimitive(PrimitiveElement Element, const QStyleOption* Option, 
                          {Option->state.testFlag(State_MouseOver),
                           Option->state.testFlag(State_Sunken), Focused});
         return;
+    case PE_PanelLineEdit: // a field without a frame is painted by its owner
+        if (const auto* Frame = qstyleoption_cast<const QStyleOptionFrame*>(Option);
+            Frame == nullptr || Frame->lineWidth <= 0)
+            return;
+        [[fallthrough]];
     case PE_Frame:
     case PE_FrameLineEdit:
         look::PaintField(*Painter, Option->rect,
@@ -55,6 +74,8 @@ int Style::pixelMetric(PixelMetric Metric, const QStyleOption* Option, const QWi
         return ListFrame;
     if (Metric == PM_ScrollBarExtent)
         return 13;
+    if (Metric == PM_ButtonMargin)
+        return 16;
     return QProxyStyle::pixelMetric(Metric, Option, Widget);
 }
 
@@ -70,7 +91,7 @@ QRect Style::subControlRect(ComplexControl Control, const QStyleOptionComplex* O
                             SubControl Part, const QWidget* Widget) const
 {
     if (Control == CC_ComboBox && Part == SC_ComboBoxEditField)
-        return Option->rect.adjusted(2, 2, -look::ArrowWidth, -2);
+        return Option->rect.adjusted(3, 2, -look::ArrowWidth, -2);
     if (Control == CC_ComboBox && Part == SC_ComboBoxArrow)
         return Option->rect.adjusted(Option->rect.width() - look::ArrowWidth, 0, 0, 0);
     return QProxyStyle::subControlRect(Control, Option, Part, Widget);

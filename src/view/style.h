@@ -4,12 +4,16 @@
 
 namespace orvane {
 
-// What the boxes of the toolkit (messages, prompts, the colour dialog) and the frames of lists need
-// to match the screens.
+// Colours, font and frames of everything that no screen's definition decides: the boxes of the
+// toolkit (messages, prompts, the colour dialog), tips, frames of lists.
 class Style : public QProxyStyle
 {
   public:
     Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    void polish(QApplication* Application) override;
+    using QProxyStyle::polish;
+    void polish(QPalette& Colours) override;
 
     void drawPrimitive(PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter,
                        const QWidget* Widget) const override;

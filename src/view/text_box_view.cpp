@@ -37,9 +37,13 @@ Qt::Alignment SideOf(Alignment Given)
 } // namespace
 
 TextBoxView::TextBoxView(TextBox& Model, User& TheUser, QWidget* Parent)
-    : QLineEdit(Parent), ControlView(Model), Box(Model), TheUser(TheUser)
+    : QLineEdit(Parent),
+      ControlView(Model),
+      Box(Model),
+      TheUser(TheUser)
 {
     setFrame(false);
+    setTextMargins(look::FieldPadding - 1, 0, look::FieldPadding - 1, 0);
     setAlignment(SideOf(Model.Align));
     connect(this, &QLineEdit::textEdited, this, [this](const QString& Text) { Typed(Text); });
 }
@@ -107,7 +111,8 @@ void TextBoxView::ShowState()
     Font.setItalic(Box.Stale);
     setFont(Font);
     QPalette Colours = palette();
-    Colours.setColor(QPalette::Base, Box.Marked ? look::WrongGround : look::ColourOf(Box.BackColor));
+    Colours.setColor(QPalette::Base,
+                     Box.Marked ? look::WrongGround : look::ColourOf(Box.BackColor));
     Colours.setColor(QPalette::Text, Box.Stale ? look::MutedInk : look::InkOf(Box.ForeColor));
     setPalette(Colours);
     ShowTip();
@@ -122,7 +127,7 @@ void TextBoxView::ShowTip()
     else if (Box.Stale)
         Tip = QStringLiteral("Ce chiffre date d’avant une saisie à corriger.");
     setAccessibleDescription(Tip);
-    if (Tip.isEmpty() && fontMetrics().horizontalAdvance(text()) > width() - 3 * look::FieldPadding)
+    if (Tip.isEmpty() && fontMetrics().horizontalAdvance(text()) > width() - 4 * look::FieldPadding)
         Tip = text();
     setToolTip(Tip);
 }

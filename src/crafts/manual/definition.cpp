@@ -7,9 +7,9 @@ namespace orvane {
 
 namespace {
 
-constexpr int MiddleX = 192;
-constexpr int MiddleWide = 496;
-constexpr int RightX = 700;
+constexpr int MiddleX = 214;
+constexpr int MiddleWide = 480;
+constexpr int RightX = 704;
 constexpr int RightWide = 296;
 constexpr int High = 24;
 
@@ -24,11 +24,11 @@ void PlaceRow(Label& Name, const char* Words, TextBox& Value, Box At, int BoxWid
 void frm_ArtisanatsManuels::Définir()
 {
     SizeScreen(*this, 1008, 700);
-    Place(img_Bannière, {MiddleX - 4, 10, 600, 64});
-    Place(Bar_Menus, {12, 10, 168, 680});
-    PlacePanel(shp_Artisanat, {800, 10, 196, 64});
-    Place(pct_Artisanat, {814, 26, 32, 32});
-    PlaceTitle(lbl_Artisanat, "", {854, 24, 140, 36});
+    Place(img_Bannière, {MiddleX - 4, 10, 590, 64});
+    Place(Bar_Menus, {12, 10, 190, 680});
+    PlacePanel(shp_Artisanat, {812, 10, 188, 64});
+    Place(pct_Artisanat, {824, 26, 32, 32});
+    PlaceTitle(lbl_Artisanat, "", {864, 24, 132, 36});
     DéfinirChoix();
     DéfinirObjet();
     DéfinirMatériaux();
@@ -65,13 +65,13 @@ void frm_ArtisanatsManuels::DéfinirChoix()
           Row{lbl15, "Produit détaillé :", cbo_ProduitDétaillé, 150},
           Row{lbl16, "Objet :", cbo_Objet, 182}, Row{lbl_Degré, "Degré :", cbo_Degré, 216}}) {
         PlaceLabel(Each.Name, Each.Words, {MiddleX + 14, Each.Y, 112, High});
-        Place(Each.List, {MiddleX + 128, Each.Y, 354, 25});
+        Place(Each.List, {MiddleX + 128, Each.Y, 338, 25});
     }
     for (ComboBox* Walk : {&cbo_Produit, &cbo_ProduitDétaillé, &cbo_Objet})
         Walk->Sorted = true;
     cbo_Degré.Width = 3135;
-    PlaceLabel(lbl_TypeDégats, "Type :", {MiddleX + 222, 216, 52, High});
-    Place(cbo_TypeDégats, {MiddleX + 276, 216, 206, 25});
+    PlaceLabel(lbl_TypeDégats, "Type :", {MiddleX + 218, 216, 48, High});
+    Place(cbo_TypeDégats, {MiddleX + 268, 216, 198, 25});
     for (Control* Degree :
          {static_cast<Control*>(&lbl_Degré), static_cast<Control*>(&cbo_Degré),
           static_cast<Control*>(&lbl_TypeDégats), static_cast<Control*>(&cbo_TypeDégats)})
@@ -110,21 +110,23 @@ void frm_ArtisanatsManuels::DéfinirMatériaux()
     PlaceHeading(lbl21, "Matériaux", {MiddleX + 14, 266, 300, High});
     for (int i = 1; i <= 6; ++i) {
         const int Y = 292 + (i - 1) * 29;
-        Place(txt_Matériaux[i], {MiddleX + 14, Y, 272, High});
+        Place(txt_Matériaux[i], {MiddleX + 14, Y, 256, High});
         txt_Matériaux[i].Align = Alignment::Left;
-        PlaceLabel(lbl_MatX[i], "x", {MiddleX + 288, Y, 14, High}, Alignment::Centre);
-        Place(txt_MatériauxQté[i], {MiddleX + 304, Y, 44, High});
-        PlaceLabel(lbl_Mat[i], "=", {MiddleX + 350, Y, 14, High}, Alignment::Centre);
-        Place(txt_PrixMat[i], {MiddleX + 366, Y, 116, High});
+        PlaceLabel(lbl_MatX[i], "x", {MiddleX + 272, Y, 14, High}, Alignment::Centre);
+        Place(txt_MatériauxQté[i], {MiddleX + 288, Y, 44, High});
+        PlaceLabel(lbl_Mat[i], "=", {MiddleX + 334, Y, 14, High}, Alignment::Centre);
+        Place(txt_PrixMat[i], {MiddleX + 350, Y, 116, High});
         txt_MatériauxQté[i].StartWith("0");
         txt_PrixMat[i].StartWith("0");
         txt_PrixMat[i].Accepts = NumberKind::Montant;
     }
-    PlaceRow(lbl23, "Prix coûtant :", txt_PrixCoûtant, {MiddleX + 178, 474, 188, 0}, 116);
-    PlaceRow(lbl22, "Prix de revente à un PNJ :", txt_PrixRevente, {MiddleX + 178, 504, 188, 0},
+    PlaceRow(lbl23, "Prix coûtant :", txt_PrixCoûtant, {MiddleX + 150, 474, 200, 0}, 116);
+    PlaceRow(lbl22, "Prix de revente à un PNJ :", txt_PrixRevente, {MiddleX + 150, 504, 200, 0},
              116);
-    for (Label* Total : {&lbl23, &lbl22})
+    for (Label* Total : {&lbl23, &lbl22}) {
         Total->Align = Alignment::Right;
+        Total->Width = Total->Width - 8 * TwipsPerPixel;
+    }
     txt_PrixCoûtant.StartWith("0");
     txt_PrixRevente.StartWith("0");
 }
@@ -135,8 +137,8 @@ void frm_ArtisanatsManuels::DéfinirVente()
     PlaceHeading(lbl_InfosVente, "Informations de vente", {MiddleX + 14, 556, 300, High});
     PlaceRow(lbl411, "Nb d'objets :", txt_NbObjet, {MiddleX + 14, 594, 140, 0}, 66);
     PlaceRow(lbl44, "Nb d'essais suppl. :", txt_NbEssais, {MiddleX + 14, 634, 140, 0}, 66);
-    PlaceRow(lbl48, "Prix coûtant :", txt_PrixCoûtantTotal, {MiddleX + 242, 594, 108, 0}, 132);
-    PlaceRow(lbl42, "Prix de vente :", txt_PrixVente, {MiddleX + 242, 634, 108, 0}, 132);
+    PlaceRow(lbl48, "Prix coûtant :", txt_PrixCoûtantTotal, {MiddleX + 236, 594, 100, 0}, 130);
+    PlaceRow(lbl42, "Prix de vente :", txt_PrixVente, {MiddleX + 236, 634, 100, 0}, 130);
     txt_NbObjet.StartWith("1");
     txt_NbEssais.StartWith("0");
     txt_PrixCoûtantTotal.StartWith("0");

@@ -1,0 +1,116 @@
+#include "view/desktop.h"
+
+#include "toolkit/user.h"
+#include "view/act.h"
+#include "view/screen_window.h"
+
+#include <QApplication>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace orvane {
+
+namespace {
+
+constexpr int FocusPatience = 700; // milliseconds
+
+} // namespace
+
+Desktop::Desktop(Forms& TheForms, User& TheUser) : TheForms(TheForms), TheUser(TheUser)
+{
+    QApplication::setQuitOnLastWindowClosed(false);
+    qApp->installEventFilter(this);
+    TheForms.Observe(this);
+}
+
+Desktop::~Desktop()
+{
+    TheForms.Observe(nullptr);
+}
+
+ScreenWindow* Desktop::WindowOf(const Screen& Which) const
+{
+    const auto Known = Windows.find(&Which);
+    return Known == Windows.end() ? nullptr : Known->second.get();
+}
+
+ScreenWindow& Desktop::Built(Screen& Which)
+{
+    std::unique_ptr<ScreenWindow>& Window = Windows[&Which];
+    if (Window == nullptr) {
+        Window = std::make_unique<ScreenWindow>(Which, TheUser);
+        Window->OnFocused = [this, Made = Window.get()] { Focused(*Made); };
+    }
+    return *Window;
+}
+
+void Desktop::Shown(Screen& Which)
+{
+    ScreenWindow& Window = Built(Which);
+    if (!Window.isVisible())
+        Place(Window);
+    if (Window.isMinimized())
+        Window.showNormal();
+    else
+        Window.show();
+    LastShown = &Window;
+    if (QApplication::activeWindow() != &Window)
+        Expect(Window);
+    Window.raise();
+    Window.activateWindow();
+}
+
+void Desktop::Hidden(Screen& Which)
+{
+    ScreenWindow* Window = WindowOf(Which);
+    if (Window == nullptr)
+        return;
+    if (Expected == Window)
+        Expected = nullptr;
+    Window->hide();
+}
+
+// In the middle of the window before it, as if the screens took turns in one place.
+void Desktop::Place(ScreenWindow& Window) const
+{
+    if (LastShown == nullptr || LastShown == &Window)
+        return;
+    QRect Frame = Window.frameGeometry();
+    Frame.moveCenter(LastShown->frameGeometry().center());
+    const QRect Room = Window.screen()->availableGeometry();
+    Window.move(std::max(Room.left(), std::min(Frame.left(), Room.right() + 1 - Frame.width())),
+                std::max(Room.top(), std::min(Frame.top(), Room.bottom() + 1 - Frame.height())));
+}
+
+void Desktop::Expect(const ScreenWindow& Window)
+{
+    Expected = &Window;
+    SinceExpected.start();
+}
+
+void Desktop::Focused(ScreenWindow& Window)
+{
+    if (Expected == &Window)
+        Expected = nullptr;
+    if (Expected != nullptr && !SinceExpected.hasExpired(FocusPatience))
+        return;
+    Expected = nullptr;
+    if (TheForms.Active() != &Window.Model() && QApplication::activeModalWidget() == nullptr)
+        Act([&] { TheUser.Activate(Window.Model()); });
+}
+
+// A press anywhere in a window makes its screen the active one, before the press does its work.
+bool Desktop::eventFilter(QObject* Target, QEvent* Event)
+{
+    if (Event->type() == QEvent::MouseButtonPress && Target->isWidgetType()) {
+        auto* Window = dynamic_cast<ScreenWindow*>(static_cast<QWidget*>(Target)->window());
+        if (Window != nullptr && TheForms.Active() != &Window->Model()) {
+            Expected = nullptr;
+            Act([&] { TheUser.Activate(Window->Model()); });
+        }
+    }
+    return QObject::eventFilter(Target, Event);
+}
+
+} // namespace orvane

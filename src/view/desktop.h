@@ -1,0 +1,48 @@
+#pragma once
+
+#include "toolkit/forms.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+
+#include <map>
+#include <memory>
+
+namespace orvane {
+
+class ScreenWindow;
+class User;
+
+// Keeps a window for each screen, built when the screen is first shown.
+class Desktop : public QObject, public FormsObserver
+{
+  public:
+    Desktop(Forms& TheForms, User& TheUser);
+    ~Desktop() override;
+
+    void Shown(Screen& Which) override;
+    void Hidden(Screen& Which) override;
+
+    ScreenWindow* WindowOf(const Screen& Which) const; // nothing before its first showing
+
+  protected:
+    bool eventFilter(QObject* Target, QEvent* Event) override;
+
+  private:
+    ScreenWindow& Built(Screen& Which);
+    void Place(ScreenWindow& Window) const;
+    void Expect(const ScreenWindow& Window);
+    void Focused(ScreenWindow& Window);
+
+    Forms& TheForms;
+    User& TheUser;
+    std::map<const Screen*, std::unique_ptr<ScreenWindow>> Windows;
+    const ScreenWindow* LastShown = nullptr;
+
+    // The window that the model has asked the desktop to focus. Until it is, the desktop may pass
+    // the focus to others by itself, which is nobody's wish.
+    const ScreenWindow* Expected = nullptr;
+    QElapsedTimer SinceExpected;
+};
+
+} // namespace orvane

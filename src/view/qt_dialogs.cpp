@@ -1,0 +1,94 @@
+#include "view/qt_dialogs.h"
+
+#include "view/look.h"
+#include "view/qt_text.h"
+#include "view/screen_window.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace orvane {
+
+namespace {
+
+constexpr QMargins Margins(18, 16, 18, 16);
+
+// Runs a box, then leaves the keyboard where it was.
+int Run(QDialog& Box)
+{
+    const QPointer<QWidget> Below = Box.parentWidget();
+    const int Result = Box.exec();
+    if (Below != nullptr && Below->isVisible())
+        Below->activateWindow();
+    return Result;
+}
+
+} // namespace
+
+QWidget* QtDialogs::ActiveWindow() const
+{
+    if (TheForms == nullptr)
+        return QApplication::activeWindow();
+    for (QWidget* Each : QApplication::topLevelWidgets()) {
+        const auto* Window = dynamic_cast<ScreenWindow*>(Each);
+        if (Window != nullptr && &Window->Model() == TheForms->Active() && Window->isVisible())
+            return Each;
+    }
+    return nullptr;
+}
+
+void QtDialogs::MsgBox(const std::string& Text)
+{
+    QMessageBox Box(QMessageBox::NoIcon, ToQt(ProgramTitle), ToQt(Text), QMessageBox::Ok,
+                    ActiveWindow());
+    Box.setTextFormat(Qt::PlainText);
+    Box.setIconPixmap(look::Notice(Box.devicePixelRatioF()));
+    Box.layout()->setContentsMargins(Margins);
+    Run(Box);
+}
+
+std::string QtDialogs::InputBox(const std::string& Prompt, const std::string& Title)
+{
+    constexpr int LeastWidth = 380;
+    QDialog Box(ActiveWindow());
+    Box.setWindowTitle(ToQt(Title));
+    auto* Field = new QLineEdit;
+    Field->setAccessibleName(ToQt(Prompt));
+    Field->setMinimumWidth(LeastWidth);
+    auto* Words = new QLabel(ToQt(Prompt));
+    Words->setTextFormat(Qt::PlainText);
+    Words->setWordWrap(true);
+    auto* Buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    QObject::connect(Buttons, &QDialogButtonBox::accepted, &Box, &QDialog::accept);
+    QObject::connect(Buttons, &QDialogButtonBox::rejected, &Box, &QDialog::reject);
+    auto* Column = new QVBoxLayout(&Box);
+    Column->setSizeConstraint(QLayout::SetFixedSize);
+    Column->setSpacing(12);
+    Column->setContentsMargins(Margins);
+    Column->addWidget(Words);
+    Column->addWidget(Field);
+    Column->addWidget(Buttons);
+    Field->setFocus();
+    return Run(Box) == QDialog::Accepted ? FromQt(Field->text()) : std::string();
+}
+
+std::optional<Colour> QtDialogs::ShowColor()
+{
+    QColorDialog Box(look::ColourOf(LastColour), ActiveWindow());
+    Box.setOption(QColorDialog::DontUseNativeDialog);
+    Box.setWindowTitle(QStringLiteral("Choisir une couleur"));
+    if (Run(Box) != QDialog::Accepted)
+        return std::nullopt;
+    const QColor Chosen = Box.selectedColor();
+    LastColour = RGB(Chosen.red(), Chosen.green(), Chosen.blue());
+    return LastColour;
+}
+
+} // namespace orvane
