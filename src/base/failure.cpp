@@ -1,5 +1,7 @@
 #include "base/failure.h"
 
+#include "base/typography.h"
+
 #include <array>
 #include <utility>
 
@@ -39,17 +41,6 @@ constexpr std::array Phrases{
     Phrase{FailureKind::NoPicture, "L’image « ", " » est introuvable ou illisible."},
     Phrase{FailureKind::Program, "Erreur interne du programme : « ", " »."},
 };
-
-// No-break spaces inside the guillemets and before the colon, which the source writes plainly.
-std::string Typeset(std::string Text)
-{
-    constexpr std::array<std::pair<const char*, const char*>, 3> Pairs{
-        {{"« ", "«\u00A0"}, {" »", "\u00A0»"}, {" :", "\u00A0:"}}};
-    for (const auto& [Plain, Fine] : Pairs)
-        for (std::size_t At = 0; (At = Text.find(Plain, At)) != std::string::npos;)
-            Text.replace(At, std::string(Plain).size(), Fine);
-    return Text;
-}
 
 } // namespace
 

@@ -145,7 +145,11 @@ std::string FoldedForSearch(std::string_view Text)
     std::string Result;
     for (int32_t At = 0; At < Wide.length(); At = Wide.moveIndex32(At, 1)) {
         const UChar32 Letter = Wide.char32At(At);
-        if (u_charType(Letter) != U_NON_SPACING_MARK)
+        if (Letter == 0x153) // œ and æ are typed as two letters
+            Result += "oe";
+        else if (Letter == 0xE6)
+            Result += "ae";
+        else if (u_charType(Letter) != U_NON_SPACING_MARK)
             Append(Result, Letter);
     }
     return Result;

@@ -1,5 +1,6 @@
 #include "basket/affichage.h"
 
+#include "base/typography.h"
 #include "basket/frm_panier.h"
 #include "shell/queries.h"
 
@@ -28,7 +29,7 @@ void AjouterLigne(Application& App, const LigneCommande& Ligne)
 {
     if (Ligne.PrixCoûtant.Stale || Ligne.PrixVente.Stale) {
         App.MsgBox(
-            "Les prix affichés ne sont pas à jour\u00A0: corrigez d’abord les cases marquées.");
+            Typeset("Les prix affichés ne sont pas à jour : corrigez d’abord les cases marquées."));
         return;
     }
     Variables& Globals = App.Globals;

@@ -1,6 +1,7 @@
 #include "settings/frm_configuration.h"
 
 #include "base/number_text.h"
+#include "base/typography.h"
 #include "shell/queries.h"
 
 namespace orvane {
@@ -73,7 +74,7 @@ bool frm_Configuration::ToutEstValable()
                     Faute = "Les cases marquées doivent contenir un nombre entier.";
             }
     if (!Faute.empty())
-        App.MsgBox(Faute + "\nRien n’a été enregistré.");
+        App.MsgBox(Typeset(Faute + "\nRien n’a été enregistré."));
     return Faute.empty();
 }
 

@@ -1,5 +1,7 @@
 #include "shell/application.h"
 
+#include "base/typography.h"
+
 namespace orvane {
 
 Application::Application(std::filesystem::path Folder, Dialogs& TheDialogs)

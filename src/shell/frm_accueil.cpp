@@ -1,5 +1,6 @@
 #include "shell/frm_accueil.h"
 
+#include "base/typography.h"
 #include "basket/affichage.h"
 #include "settings/frm_configuration.h"
 #include "shell/navigation.h"
@@ -89,8 +90,8 @@ void frm_Accueil::RestaurerRoyaume()
     auto Choisi = std::ranges::find(Tous, Dernier, &Écu::Royaume);
     if (Choisi == Tous.end()) {
         Choisi = Tous.begin();
-        App.Notice("Le royaume « " + Dernier + " » n’existe pas\u00A0: " + Choisi->Royaume +
-                   " est choisi à sa place.");
+        App.Notice(Typeset("Le royaume « " + Dernier + " » n’existe pas : " + Choisi->Royaume +
+                           " est choisi à sa place."));
     }
     Globals.RoyaumeCourant = Choisi->Royaume;
     MontrerÉcu(*Choisi, true);
@@ -108,8 +109,8 @@ std::string frm_Accueil::RestaurerChoix(const std::string& Liste, const std::str
     std::string Choix = PremierEnregistrement(Globals).Text("Nom");
     Globals.Enregistrements.Empty();
     if (Box.FindItem(Choix) < 0) {
-        App.Notice("« " + Choix + " » n’existe plus\u00A0: « " + Premier +
-                   " » est choisi à sa place.");
+        App.Notice(Typeset("« " + Choix + " » n’existe plus : « " + Premier +
+                           " » est choisi à sa place."));
         Choix = Premier;
     }
     Box.Text = Choix;

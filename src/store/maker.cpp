@@ -118,6 +118,8 @@ void DatabaseMaker::AddTable(const TableDefinition& Table)
 void DatabaseMaker::Insert(const TableDefinition& Table, const std::vector<std::string>& Columns,
                            const std::vector<Value>& Row)
 {
+    if (Row.size() != Columns.size())
+        throw Failure(FailureKind::Store, Table.Name, "a row with another number of cells");
     Translated(In->File, [&] {
         std::string Names;
         std::string Marks;

@@ -58,7 +58,7 @@ class Scanner
         if (First == '"' || First == '\'')
             return {TokenKind::Text, Delimited(First)};
         if (First == '[')
-            return {TokenKind::Word, Delimited(']')};
+            return {TokenKind::Word, Bracketed()};
         if (IsDigit(First))
             return {TokenKind::Number,
                     While([](char Letter) { return IsDigit(Letter) || Letter == '.'; })};
@@ -69,6 +69,17 @@ class Scanner
         const std::string Symbol(Sql.substr(At, Pair ? 2 : 1));
         At += Symbol.size();
         return {TokenKind::Symbol, Symbol};
+    }
+
+    // [Table] or [Table].[Column].
+    std::string Bracketed()
+    {
+        std::string Name = Delimited(']');
+        while (Sql.substr(At, 2) == ".[") {
+            ++At;
+            Name += "." + Delimited(']');
+        }
+        return Name;
     }
 
     template <class Predicate>

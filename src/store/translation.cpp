@@ -202,6 +202,8 @@ std::string TranslateDelete(Tokens Query, const SourceFinder& Find)
 Source TranslateSavedQuery(const std::string& Name, Tokens Query, const SourceFinder& Find)
 {
     const Clauses Parts = SplitClauses(Query);
+    if (Parts.Distinct || Parts.OrderBy < Query.size()) // its rows have an order of their own
+        ThrowUnreadable(Query);
     JoinTranslator Joins(Query.subspan(Parts.From + 1, Parts.Where - Parts.From - 1), Find);
     const std::string From = Joins.Run();
     Source Result{Name, {}, {}, {}, false};

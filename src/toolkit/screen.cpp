@@ -32,11 +32,17 @@ Screen::~Screen() = default;
 
 Control& Screen::Find(std::string_view Name) const
 {
+    Control* Found = FindOrNull(Name);
+    if (Found == nullptr)
+        throw Failure(FailureKind::Program, TheName + "." + std::string(Name));
+    return *Found;
+}
+
+Control* Screen::FindOrNull(std::string_view Name) const
+{
     const auto Found = std::ranges::find_if(
         TheControls, [&](const Control* Each) { return Each->Name() == Name; });
-    if (Found == TheControls.end())
-        throw Failure(FailureKind::Program, TheName + "." + std::string(Name));
-    return **Found;
+    return Found == TheControls.end() ? nullptr : *Found;
 }
 
 void Screen::Show()

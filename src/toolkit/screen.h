@@ -40,6 +40,7 @@ class Screen : private PropertyOwner
 
     // The control of that name. Failure (Kind::Program) when there is none.
     Control& Find(std::string_view Name) const;
+    Control* FindOrNull(std::string_view Name) const;
 
     Property<std::string> Caption{*this, PropertyId::Caption};
     Property<int> Width{*this, PropertyId::Width};

@@ -52,19 +52,26 @@ bool LabelView::Wraps() const
     return text().contains(u'\n') || height() >= 2 * fontMetrics().lineSpacing() - 2;
 }
 
+bool LabelView::Fits() const
+{
+    if (!Wraps())
+        return fontMetrics().horizontalAdvance(text()) <= Room();
+    const QRect Needed = fontMetrics().boundingRect(QRect(0, 0, Room(), height()),
+                                                    Qt::TextWordWrap | Qt::AlignLeft, text());
+    return Needed.height() <= height() && Needed.width() <= Room();
+}
+
 void LabelView::Fit()
 {
-    const QString Caption = ToQt(TheLabel.Caption);
-    if (text() != Caption)
-        setText(Caption);
+    if (text() != ToQt(TheLabel.Caption))
+        setText(ToQt(TheLabel.Caption));
     QFont Font = look::Font(TheLabel.FontSize, TheLabel.Bold);
     setFont(Font);
-    const auto TooLong = [&] { return fontMetrics().horizontalAdvance(Caption) > Room(); };
-    for (double Share = 0.94; !Wraps() && TooLong() && Share >= SmallestShare; Share -= 0.06) {
+    for (double Share = 0.94; !Fits() && Share >= SmallestShare; Share -= 0.06) {
         Font.setPointSizeF(TheLabel.FontSize * Share);
         setFont(Font);
     }
-    setToolTip(!Wraps() && TooLong() && TheLabel.Tip().empty() ? Caption : ToQt(TheLabel.Tip));
+    setToolTip(!Fits() && TheLabel.Tip().empty() ? text() : ToQt(TheLabel.Tip));
 }
 
 void LabelView::resizeEvent(QResizeEvent* Event)
@@ -82,7 +89,8 @@ void LabelView::paintEvent(QPaintEvent*)
                                                      : Qt::AlignHCenter;
     QString Caption = text();
     if (Wraps()) {
-        Flags |= Qt::TextWordWrap | Qt::AlignTop;
+        Flags |= Qt::TextWordWrap |
+                 (height() < 3 * fontMetrics().lineSpacing() ? Qt::AlignVCenter : Qt::AlignTop);
     } else {
         Flags |= Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip;
         Caption = fontMetrics().elidedText(Caption, Qt::ElideRight, Room());

@@ -26,6 +26,7 @@ class LabelView : public QLabel, public ControlView
     void Fit();
     int Room() const;
     bool Wraps() const;
+    bool Fits() const;
 
     Label& TheLabel;
 };

@@ -11,13 +11,22 @@ namespace {
 
 constexpr int Slack = 75; // boxes that touch or overlap a little
 
+bool TrimTail(std::string& Text)
+{
+    for (const std::string_view Tail : {" ", ":", "\u00A0", "\u202F"})
+        if (Text.ends_with(Tail)) {
+            Text.resize(Text.size() - Tail.size());
+            return true;
+        }
+    return false;
+}
+
 // "Prix coûtant :" without its colon; a sign such as "x" or "=" names nothing.
 std::string NameOf(const Label& Which)
 {
     std::string Result = Which.Caption;
-    for (const std::string Tail : {" ", ":", "\u00A0", "\u202F"})
-        while (Result.ends_with(Tail))
-            Result.resize(Result.size() - Tail.size());
+    while (TrimTail(Result)) {
+    }
     return CharacterCount(Result) < 2 ? std::string() : Result;
 }
 

@@ -1,0 +1,106 @@
+#include "skins/layout.h"
+
+#include "base/failure.h"
+#include "base/number_text.h"
+#include "shell/queries.h"
+#include "skins/skin_assets.h"
+
+namespace orvane {
+
+namespace {
+
+bool Vaut(const Recordset& Ligne, std::string_view Drapeau)
+{
+    return Ligne.TextOrEmpty(Drapeau) == "O";
+}
+
+int Twips(const Recordset& Ligne, std::string_view Colonne)
+{
+    return static_cast<int>(Ligne.Number(Colonne));
+}
+
+// A line's four ends travel in the four geometry columns, in this crossing of names.
+void Placer(Control& Contrôle, const Recordset& Ligne)
+{
+    if (auto* Trait = dynamic_cast<Line*>(&Contrôle)) {
+        Trait->X1 = Twips(Ligne, "Left");
+        Trait->X2 = Twips(Ligne, "Top");
+        Trait->Y1 = Twips(Ligne, "Width");
+        Trait->Y2 = Twips(Ligne, "Height");
+    } else {
+        Contrôle.Left = Twips(Ligne, "Left");
+        Contrôle.Top = Twips(Ligne, "Top");
+    }
+}
+
+void Colorer(Control& Contrôle, Colour Couleur)
+{
+    if (Contrôle.Kind() == ControlKind::Label)
+        Contrôle.ForeColor = Couleur;
+    else if (auto* Cadre = dynamic_cast<Shape*>(&Contrôle))
+        Cadre->BorderColor = Couleur;
+}
+
+void Appliquer(Control& Contrôle, const Recordset& Ligne)
+{
+    if (Vaut(Ligne, "ChangeLeftTop"))
+        Placer(Contrôle, Ligne);
+    if (Vaut(Ligne, "ChangeWidth"))
+        Contrôle.Width = Twips(Ligne, "Width");
+    if (Vaut(Ligne, "ChangeHeight"))
+        Contrôle.Height = Twips(Ligne, "Height");
+    if (Vaut(Ligne, "ChangeFontSize"))
+        Contrôle.FontSize = Ligne.Number("FontSize");
+    if (Vaut(Ligne, "ChangeColor"))
+        Colorer(Contrôle, Colour{static_cast<std::int32_t>(Ligne.Number("Color"))});
+}
+
+std::string TableDe(Application& App, const Screen& Feuille, const std::string& Résolution)
+{
+    Variables& Globals = App.Globals;
+    const Ouverture Base(App, Globals.BaseDonnées2, Globals.CheminBaseSkin);
+    Globals.TexteSQL = "SELECT * FROM RésolutionCommune WHERE Nom=" + Quoted(Feuille.Name());
+    Recordset& Ligne = OuvrirEnregistrements2(Globals);
+    Ligne.MoveFirst();
+    const std::string Table =
+        Feuille.Name() + "_" + (Vaut(Ligne, "Commun") ? "Commun" : SansEspaces(Résolution));
+    Globals.Enregistrements2.Empty();
+    return Table;
+}
+
+} // namespace
+
+void AppliquerRésolution(Application& App, std::int16_t IndexFeuille, const std::string& Résolution)
+{
+    Variables& Globals = App.Globals;
+    Screen& Feuille = App.Feuilles[IndexFeuille];
+    const std::string Table = TableDe(App, Feuille, Résolution);
+    const Database Base = App.Bases.Open(Globals.CheminBaseSkin);
+    const auto Lignes = [&](const std::string& Nom) {
+        Globals.TexteSQL =
+            "SELECT * FROM [" + Table + "] WHERE NomControl=" + Quoted(Nom) + " ORDER BY Num";
+        return Base.OpenRecordset(Globals.TexteSQL);
+    };
+    Recordset Propre = Lignes(Feuille.Name());
+    Propre.MoveFirst();
+    if (Vaut(Propre, "ChangeWidth"))
+        Feuille.Width = Twips(Propre, "Width");
+    if (Vaut(Propre, "ChangeHeight"))
+        Feuille.Height = Twips(Propre, "Height");
+    for (Control* Contrôle : Feuille.Controls())
+        if (const Recordset Trouvées = Lignes(Contrôle->Name()); Trouvées.RecordCount() > 0)
+            Appliquer(*Contrôle, Trouvées);
+}
+
+void AppliquerRésolutionPartout(Application& App, const std::string& Résolution)
+{
+    const std::int16_t Dernière = Entier16(App.Feuilles.Count() - 1);
+    for (std::int16_t IndexFeuille = 0; IndexFeuille <= Dernière; ++IndexFeuille)
+        try {
+            AppliquerRésolution(App, IndexFeuille, Résolution);
+        } catch (const Failure& Impossible) {
+            App.Notice(Impossible.Sentence());
+        }
+}
+
+} // namespace orvane

@@ -1,0 +1,167 @@
+#include "skins/skin_assets.h"
+
+#include "base/failure.h"
+#include "base/text.h"
+#include "shell/queries.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <vector>
+
+namespace orvane {
+
+namespace {
+
+struct ImageBouton
+{
+    const char* Bouton;
+    const char* Fichier;
+};
+
+// What a skin holds for one screen, below its image folder. "<Royaume>" stands for the realm of the
+// moment.
+struct ImagesFeuille
+{
+    const char* Feuille;
+    const char* Fond;
+    std::vector<ImageBouton> Boutons;
+};
+
+const std::vector<ImagesFeuille>& Images()
+{
+    static const std::vector<ImagesFeuille> Table{
+        {"frm_Accueil",
+         "Accueil/Fond.jpg",
+         {{"cmd_ArtisanatsManuels", "Accueil/BoutonArtisanatsManuels.jpg"},
+          {"cmd_ArtisanatsMagiques", "Accueil/BoutonArtisanatsMagiques.jpg"},
+          {"cmd_ArtisanatsSecondaires", "Accueil/BoutonArtisanatsSecondaires.jpg"},
+          {"cmd_Configuration", "Accueil/BoutonConfiguration.jpg"},
+          {"cmd_Quitter", "Accueil/BoutonQuitter.jpg"},
+          {"cmd_News", "Accueil/BoutonNews.jpg"}}},
+        {"frm_Configuration",
+         "Configuration/Fond.jpg",
+         {{"cmd_Validation", "Configuration/BoutonValidation.jpg"},
+          {"cmd_Couleur", "Configuration/BoutonCouleur.jpg"}}},
+        {"frm_ArtisanatsManuels",
+         "ArtisanatsManuels/Fond.jpg",
+         {{"cmd_AjouterPanier", "ArtisanatsManuels/BoutonAjouterPanier.jpg"},
+          {"cmd_Retour", "ArtisanatsManuels/BoutonRetour.jpg"}}},
+        {"frm_Archerie",
+         "Archerie/Fond.jpg",
+         {{"cmd_AjouterPanier", "Archerie/BoutonAjouterPanier.jpg"},
+          {"cmd_Retour", "Archerie/BoutonRetour.jpg"}}},
+        {"frm_ArtisanatsMagiques",
+         "ArtisanatsMagiques/Fond.jpg",
+         {{"cmd_AjouterPanier", "ArtisanatsMagiques/BoutonAjouterPanier.jpg"},
+          {"cmd_Retour", "ArtisanatsMagiques/BoutonRetour.jpg"}}},
+        {"frm_ArtisanatsSecondaires",
+         "ArtisanatsSecondaires/Fond.jpg",
+         {{"cmd_Retour", "ArtisanatsSecondaires/BoutonRetour.jpg"},
+          {"cmd_AjouterPanier", "ArtisanatsSecondaires/BoutonAjouterPanier.jpg"}}},
+        {"frm_Panier",
+         "Panier/Fond.jpg",
+         {{"cmd_SupprimerCommande", "Panier/BoutonSupprimerCommande.jpg"},
+          {"cmd_SupprimerObjet", "Panier/BoutonSupprimerObjet.jpg"},
+          {"cmd_Enregistrer", "Panier/BoutonEnregistrer.jpg"},
+          {"cmd_Retour", "Panier/BoutonRetour.jpg"}}},
+        {"frm_Statut",
+         "Statut/<Royaume>.jpg",
+         {{"cmd_Retour", "Statut/BoutonRetour<Royaume>.jpg"}}},
+        {"frm_ArmesLégendaires",
+         "ArmesLégendaires/Fond.jpg",
+         {{"cmd_AjouterPanier", "ArmesLégendaires/BoutonAjouterPanier.jpg"},
+          {"cmd_Retour", "ArmesLégendaires/BoutonRetour.jpg"}}},
+        {"frm_News",
+         "News/Fond.jpg",
+         {{"cmd_Retour", "News/BoutonRetour.jpg"}, {"cmd_Détails", "News/BoutonDétails.jpg"}}},
+    };
+    return Table;
+}
+
+std::string AvecRoyaume(std::string Fichier, const std::string& Royaume)
+{
+    constexpr std::string_view Marque = "<Royaume>";
+    if (const auto At = Fichier.find(Marque); At != std::string::npos)
+        Fichier.replace(At, Marque.size(), Royaume);
+    return Fichier;
+}
+
+void Habiller(Application& App, const ImagesFeuille& Fichiers)
+{
+    const Variables& Globals = App.Globals;
+    const auto Charger = [&](const char* Fichier) {
+        return App.Images.LoadOr(Globals.CheminImages +
+                                 AvecRoyaume(Fichier, Globals.RoyaumeCourant));
+    };
+    Screen& Feuille = App.Feuilles.Touch(Fichiers.Feuille);
+    Feuille.Picture = Charger(Fichiers.Fond);
+    for (const ImageBouton& Each : Fichiers.Boutons)
+        if (auto* Bouton = dynamic_cast<Button*>(Feuille.FindOrNull(Each.Bouton)))
+            Bouton->Picture = Charger(Each.Fichier);
+}
+
+} // namespace
+
+bool SkinExiste(const Application& App, const std::string& Skin)
+{
+    std::error_code Error;
+    return !Skin.empty() &&
+           std::filesystem::exists(App.Chemin("/Skins/" + Skin + "/" + Skin + ".mdb"), Error);
+}
+
+std::string SansEspaces(std::string Résolution)
+{
+    std::erase(Résolution, ' ');
+    return Résolution;
+}
+
+void ChargerSkin(Application& App, const std::string& Skin, const std::string& Résolution)
+{
+    Variables& Globals = App.Globals;
+    Globals.CheminSkin = App.Chemin("/Skins/" + Skin + "/");
+    Globals.CheminBaseSkin = Globals.CheminSkin + "/" + Skin + ".mdb";
+    const Ouverture Base(App, Globals.BaseDonnées2, Globals.CheminBaseSkin);
+    for (const ImagesFeuille& Each : Images()) {
+        try {
+            ChoisirDossierImages(App, Each.Feuille, Résolution);
+        } catch (const Failure& Inconnue) {
+            App.Feuilles.Touch(Each.Feuille);
+            App.Notice(Inconnue.Sentence());
+            continue;
+        }
+        Habiller(App, Each);
+        if (std::string_view(Each.Feuille) == "frm_Statut")
+            Globals.CheminStatut = Globals.CheminImages + "Statut/";
+    }
+}
+
+void ChoisirDossierImages(Application& App, const std::string& Feuille,
+                          const std::string& Résolution)
+{
+    Variables& Globals = App.Globals;
+    Globals.TexteSQL = "SELECT * FROM RésolutionCommune WHERE Nom=" + Quoted(Feuille);
+    Recordset& Ligne = OuvrirEnregistrements2(Globals);
+    Ligne.MoveFirst();
+    Globals.CheminImages =
+        Globals.CheminSkin +
+        (Ligne.TextOrEmpty("Commun") == "O" ? "Commun/" : SansEspaces(Résolution) + "/");
+    Globals.Enregistrements2.Empty();
+}
+
+void RelierAlchimie(Application& App, const std::string& Royaume)
+{
+    constexpr std::string_view Début = ";DATABASE=";
+    constexpr std::string_view Fin = "/Artisanat_Alchimie.mdb";
+    constexpr const char* Table = "Alchimie_ListeObjets";
+    const Database Base = App.Bases.Open(App.Chemin("/Artisanat_" + Royaume + ".mdb"));
+    const std::string Connect = Base.LinkConnect(Table);
+    const std::string Dossier =
+        Connect.size() < Début.size() + Fin.size()
+            ? std::string()
+            : Connect.substr(Début.size(), Connect.size() - Début.size() - Fin.size());
+    if (Dossier != App.Chemin(""))
+        Base.SetLinkConnect(Table, std::string(Début) + App.Chemin("") + std::string(Fin));
+    Base.RefreshLink(Table);
+}
+
+} // namespace orvane

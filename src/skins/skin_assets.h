@@ -1,0 +1,30 @@
+#pragma once
+
+#include "shell/application.h"
+
+#include <string>
+
+// Where a skin's files lie, and the pictures that dress the ten screens.
+namespace orvane {
+
+// Whether the skin's layout database is there.
+bool SkinExiste(const Application& App, const std::string& Skin);
+
+// The resolution's name as it stands in names of folders and tables: without its spaces.
+std::string SansEspaces(std::string Résolution);
+
+// Fixes the paths of the skin and loads background and button pictures of all ten screens afresh;
+// a screen's first touch here loads it. A picture that is missing leaves the plain look, a screen
+// that the skin doesn't know keeps what it has; both are told later.
+void ChargerSkin(Application& App, const std::string& Skin, const std::string& Résolution);
+
+// Sets CheminImages for one screen: the common folder or the resolution's. Needs BaseDonnées2 open
+// on the skin's database.
+void ChoisirDossierImages(Application& App, const std::string& Feuille,
+                          const std::string& Résolution);
+
+// Repairs the link of the alchemy objects in one realm's database, which goes stale when the
+// program's folder moves.
+void RelierAlchimie(Application& App, const std::string& Royaume);
+
+} // namespace orvane
