@@ -95,6 +95,30 @@ tools::References LinkedNames(const fs::path& Data)
     return Linked;
 }
 
+// A skin: which screens are common, and a layout table for each other file of its folder that is
+// named like one.
+void MakeSkin(const fs::path& From, const fs::path& Folder)
+{
+    const std::string Name = From.filename().string();
+    fs::create_directories(Folder / Name);
+    DatabaseMaker Maker(Folder / Name / (Name + ".mdb"), SkinDefinition());
+    tools::References None;
+    for (const TableDefinition& Table : SkinDefinition().Tables)
+        if (fs::exists(From / (Table.Name + ".tsv")))
+            Fill(Maker, Table, From / (Table.Name + ".tsv"), None);
+    std::vector<fs::path> Files;
+    for (const auto& Entry : fs::directory_iterator(From))
+        if (Entry.path().filename().string().starts_with("frm_"))
+            Files.push_back(Entry.path());
+    std::ranges::sort(Files);
+    for (const fs::path& File : Files) {
+        const TableDefinition Table = LayoutTable(File.stem().string());
+        Maker.AddTable(Table);
+        Fill(Maker, Table, File, None);
+    }
+    Maker.Finish();
+}
+
 void MakeAll(const fs::path& Data, const fs::path& Folder, bool Keep)
 {
     fs::create_directories(Folder);
@@ -110,6 +134,10 @@ void MakeAll(const fs::path& Data, const fs::path& Folder, bool Keep)
         Make(Folder / (Name + ".mdb"), RoyaumeDefinition(),
              {Data / Name, Data / "Artisanat_commun"}, LinkedNames(Data));
     }
+    if (fs::exists(Data / "skins"))
+        for (const auto& Entry : fs::directory_iterator(Data / "skins"))
+            if (Entry.is_directory())
+                MakeSkin(Entry.path(), Folder / "Skins");
 }
 
 } // namespace

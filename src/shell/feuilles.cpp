@@ -37,6 +37,15 @@ void Enregistrer(Application& App)
 
 } // namespace
 
+std::vector<std::string> NomsFeuilles()
+{
+    std::vector<std::string> Noms{frm_Accueil::ScreenName, frm_Configuration::ScreenName,
+                                  frm_ArtisanatsManuels::ScreenName, frm_Panier::ScreenName};
+    for (const ÀVenir& Each : FeuillesÀVenir)
+        Noms.emplace_back(Each.Nom);
+    return Noms;
+}
+
 void EnregistrerFeuilles(Application& App)
 {
     Enregistrer<frm_Accueil>(App);

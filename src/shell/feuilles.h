@@ -2,7 +2,13 @@
 
 #include "shell/application.h"
 
+#include <string>
+#include <vector>
+
 namespace orvane {
+
+// The names of the ten screens.
+std::vector<std::string> NomsFeuilles();
 
 // Makes the ten screens known by their names; each comes into being at its first touch.
 void EnregistrerFeuilles(Application& App);
