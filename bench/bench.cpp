@@ -7,6 +7,9 @@
 #include "raw_queries.h"
 #include "shell/feuilles.h"
 #include "shell/frm_accueil.h"
+#include "skins/layout.h"
+#include "skins/skin_assets.h"
+#include "store/sql_text.h"
 
 #include <benchmark/benchmark.h>
 #include <iostream>
@@ -31,9 +34,8 @@ class SilentDialogs : public Dialogs
 // A run of the program that has walked down to the degrees of one object.
 struct Walk
 {
-    explicit Walk(const fs::path& Folder)
-        : App(Folder, Boxes),
-          Raw((Folder / "Artisanat_Valdren.mdb").string())
+    Walk(const fs::path& Folder, const std::string& RawFile)
+        : App(Folder, Boxes), Raw((Folder / RawFile).string())
     {
         EnregistrerFeuilles(App);
         Démarrer(App);
@@ -86,11 +88,34 @@ void AddDegree(Walk& On)
     On.Raw.Add(ObjetParNom, {Screen.cbo_Objet.Text()});
 }
 
+constexpr const char* Skin = "Parchemin";
+constexpr const char* Résolution = "1024 x 768";
+
+// The queries of a layout pass: one for each control of each screen, and one for the screen.
+void AddLayout(Walk& On)
+{
+    Database Base = On.App.Bases.Open(On.App.Globals.CheminBaseSkin);
+    for (int i = 0; i < On.App.Feuilles.Count(); ++i) {
+        const Screen& Which = On.App.Feuilles[i];
+        Recordset Shared = Base.OpenRecordset("SELECT Commun FROM RésolutionCommune WHERE Nom=" +
+                                              Quoted(Which.Name()));
+        const std::string Table =
+            Which.Name() + "_" +
+            (Shared.TextOrEmpty("Commun") == "O" ? "Commun" : SansEspaces(Résolution));
+        const std::string Sql =
+            "SELECT * FROM \"" + Table + "\" WHERE NomControl = ? COLLATE NOCASE ORDER BY Num";
+        On.Raw.Add(Sql, {Which.Name()});
+        for (const Control* Each : Which.Controls())
+            On.Raw.Add(Sql, {Each->Name()});
+    }
+}
+
 // Measures Action and the raw queries that Queries add, under one name.
 template <class Action>
-void Compare(const std::string& Name, const fs::path& Folder, Action Do, void (*Queries)(Walk&))
+void Compare(const std::string& Name, const fs::path& Folder, Action Do, void (*Queries)(Walk&),
+             const std::string& RawFile = "Artisanat_Valdren.mdb")
 {
-    const auto On = std::make_shared<Walk>(Folder);
+    const auto On = std::make_shared<Walk>(Folder, RawFile);
     Queries(*On);
     const auto Settings = [](benchmark::internal::Benchmark* Each) {
         Each->Repetitions(Repetitions)
@@ -128,6 +153,10 @@ void CompareAll(const std::string& Label, const fs::path& Folder)
             On.App.Door.Type(On.Manuels().txt_NbObjet, Turn == 0 ? "3" : "4");
         },
         AddDegree);
+    Compare(
+        "layout of ten screens, " + Label, Folder,
+        [](Walk& On, int) { AppliquerRésolutionPartout(On.App, Résolution); }, AddLayout,
+        std::string("Skins/") + Skin + "/" + Skin + ".mdb");
 }
 
 } // namespace

@@ -36,10 +36,13 @@ void Multiply(const std::filesystem::path& File, int Times)
 void CopyCatalogue(const std::filesystem::path& From, const std::filesystem::path& To, int Times)
 {
     std::filesystem::create_directories(To);
-    for (const auto& Entry : std::filesystem::directory_iterator(From))
-        if (Entry.path().extension() == ".mdb")
-            std::filesystem::copy_file(Entry.path(), To / Entry.path().filename(),
+    for (const auto& Entry : std::filesystem::recursive_directory_iterator(From))
+        if (Entry.path().extension() == ".mdb") {
+            const auto Copy = To / std::filesystem::relative(Entry.path(), From);
+            std::filesystem::create_directories(Copy.parent_path());
+            std::filesystem::copy_file(Entry.path(), Copy,
                                        std::filesystem::copy_options::overwrite_existing);
+        }
     for (const std::string& Royaume : Royaumes())
         if (Times > 1)
             Multiply(To / ("Artisanat_" + Royaume + ".mdb"), Times);

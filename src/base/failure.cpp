@@ -32,8 +32,7 @@ constexpr std::array Phrases{
            " »."},
     Phrase{FailureKind::Store, "La base de données « ", " » a refusé l’opération."},
     Phrase{FailureKind::NoRow, "Aucune donnée pour « ", " »."},
-    Phrase{FailureKind::ChoiceMissing, "Il faut d’abord faire le choix précédent dans la liste « ",
-           " »."},
+    Phrase{FailureKind::ChoiceMissing, "Il faut d’abord faire le choix précédent, puis reprendre « ", " »."},
     Phrase{FailureKind::NullValue, "Aucune donnée pour « ", " »."},
     Phrase{FailureKind::RefusedNumber, "« ", " » n’est pas un nombre : rien n’a été enregistré."},
     Phrase{FailureKind::WrongText, "« ", " » n’est pas un nombre."},
@@ -54,6 +53,8 @@ Failure::Failure(FailureKind Kind, std::string Subject, std::string Cause)
 
 std::string Failure::Sentence() const
 {
+    if (TheKind == FailureKind::ChoiceMissing && TheSubject.empty())
+        return "Il faut d’abord faire le choix précédent.";
     for (const Phrase& Candidate : Phrases)
         if (Candidate.Kind == TheKind)
             return Typeset(Candidate.Before) + TheSubject + Typeset(Candidate.After);

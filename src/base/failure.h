@@ -15,10 +15,11 @@ enum class FailureKind {
     DatabaseIncomplete, // a table, query or column that isn't there
     Store,              // any other failure of the store
     NoRow,              // a look-up without the row that a rule needs
-    ChoiceMissing,      // the same, because the choice that it goes by is still empty
-    NullValue,          // a null where a value is needed
-    RefusedNumber,      // a text that is no number, written to a number column
-    WrongText,          // a box that holds no number where a calculation needs one
+    ChoiceMissing, // the same, because the choice that it goes by is still empty; Subject is what
+                   // was picked below it
+    NullValue,     // a null where a value is needed
+    RefusedNumber, // a text that is no number, written to a number column
+    WrongText,     // a box that holds no number where a calculation needs one
     Overflow,
     NoPicture,
     Program, // the program's own fault, such as an unknown control

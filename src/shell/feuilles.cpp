@@ -1,6 +1,7 @@
 #include "shell/feuilles.h"
 
 #include "basket/frm_panier.h"
+#include "crafts/archery/frm_archerie.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "settings/frm_configuration.h"
 #include "shell/frm_accueil.h"
@@ -20,7 +21,6 @@ struct ÀVenir
 };
 
 constexpr std::array FeuillesÀVenir{
-    ÀVenir{"frm_Archerie", "Archerie", Retour::Cacher},
     ÀVenir{"frm_ArmesLégendaires", "Armes Légendaires", Retour::Cacher},
     ÀVenir{"frm_ArtisanatsMagiques", "Artisanats magiques", Retour::CacherPuisAccueil},
     ÀVenir{"frm_ArtisanatsSecondaires", "Artisanats Secondaires", Retour::CacherPuisAccueil},
@@ -40,7 +40,8 @@ void Enregistrer(Application& App)
 std::vector<std::string> NomsFeuilles()
 {
     std::vector<std::string> Noms{frm_Accueil::ScreenName, frm_Configuration::ScreenName,
-                                  frm_ArtisanatsManuels::ScreenName, frm_Panier::ScreenName};
+                                  frm_ArtisanatsManuels::ScreenName, frm_Archerie::ScreenName,
+                                  frm_Panier::ScreenName};
     for (const ÀVenir& Each : FeuillesÀVenir)
         Noms.emplace_back(Each.Nom);
     return Noms;
@@ -51,6 +52,7 @@ void EnregistrerFeuilles(Application& App)
     Enregistrer<frm_Accueil>(App);
     Enregistrer<frm_Configuration>(App);
     Enregistrer<frm_ArtisanatsManuels>(App);
+    Enregistrer<frm_Archerie>(App);
     Enregistrer<frm_Panier>(App);
     for (const ÀVenir& Each : FeuillesÀVenir)
         App.Feuilles.Register(Each.Nom, [&App, &Each] {

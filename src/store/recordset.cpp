@@ -30,8 +30,9 @@ void Recordset::MoveFirst()
 {
     if (Rows.Rows.empty()) {
         const bool ChoiceMissing = std::ranges::find(Rows.Looked, "") != Rows.Looked.end();
-        throw Failure(ChoiceMissing ? FailureKind::ChoiceMissing : FailureKind::NoRow, Subject(),
-                      "no row in " + Rows.Source);
+        if (ChoiceMissing)
+            throw Failure(FailureKind::ChoiceMissing, LookedFor(), "no row in " + Rows.Source);
+        throw Failure(FailureKind::NoRow, Subject(), "no row in " + Rows.Source);
     }
     At = 0;
     DropChanges();
@@ -147,13 +148,19 @@ void Recordset::Put(std::string_view Name, Value Cell)
     Pending.emplace_back((*Rows.Columns)[ColumnAt(Name)], std::move(Cell));
 }
 
-std::string Recordset::Subject() const
+std::string Recordset::LookedFor() const
 {
     std::string Result;
     for (const std::string& Each : Rows.Looked)
         if (!Each.empty())
             Result += (Result.empty() ? "" : ", ") + Each;
-    return Result.empty() ? Rows.Source : Result + " (" + Rows.Source + ")";
+    return Result;
+}
+
+std::string Recordset::Subject() const
+{
+    const std::string Values = LookedFor();
+    return Values.empty() ? Rows.Source : Values + " (" + Rows.Source + ")";
 }
 
 } // namespace orvane

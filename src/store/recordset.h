@@ -52,8 +52,9 @@ class Recordset
     void DropChanges();
     void Put(std::string_view Name, Value Cell);
 
-    // What this row is about, for a message: what the query looked for, or where.
+    // What this row is about, for a message: what the query looked for, and where.
     std::string Subject() const;
+    std::string LookedFor() const;
 
     std::shared_ptr<Connection> Base;
     RowSet Rows;

@@ -141,6 +141,15 @@ void PaintGround(QPainter& Painter, const QRectF& Window)
     Painter.drawRect(Inside(Window, 4.5));
 }
 
+QColor Veil(const QPixmap& Background)
+{
+    constexpr int Dark = 110;
+    const QImage Average =
+        Background.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).toImage();
+    const bool IsDark = qGray(Average.pixel(0, 0)) < Dark;
+    return IsDark ? QColor(255, 255, 255, 20) : QColor(255, 252, 244, 120);
+}
+
 QPixmap Notice(double Density)
 {
     constexpr double Side = 40;

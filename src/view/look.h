@@ -72,6 +72,10 @@ void PaintFocusRing(QPainter& Painter, const QRectF& Box, double Radius);
 // A window's own ground, for screens without a background picture.
 void PaintGround(QPainter& Painter, const QRectF& Window);
 
+// The ground of panels on a background picture: lighter, as much as captions made for that picture
+// can bear.
+QColor Veil(const QPixmap& Background);
+
 // What stands beside the words of a message.
 QPixmap Notice(double Density);
 

@@ -134,13 +134,11 @@ const QPixmap& ScreenWindow::Background()
 QColor ScreenWindow::PanelGround()
 {
     const QPixmap& Picture = Background();
-    if (Picture.isNull())
-        return look::Panel;
-    constexpr int Dark = 110;
-    const QColor Average = Picture.toImage()
-                               .scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                               .pixelColor(0, 0);
-    return qGray(Average.rgb()) < Dark ? QColor(255, 255, 255, 20) : QColor(255, 252, 244, 120);
+    if (PanelGroundOf != Picture.cacheKey()) {
+        PanelGroundOf = Picture.cacheKey();
+        ThePanelGround = Picture.isNull() ? look::Panel : look::Veil(Picture);
+    }
+    return ThePanelGround;
 }
 
 bool ScreenWindow::event(QEvent* Event)

@@ -46,6 +46,8 @@ class ScreenWindow : public QWidget, public ScreenObserver
     Screen& TheScreen;
     User& TheUser;
     PictureSource Source;
+    QColor ThePanelGround;
+    qint64 PanelGroundOf = -1; // the background that it was found for
     bool ArrangementIsOld = false;
     std::unordered_map<const Control*, ControlView*> Views;
 };

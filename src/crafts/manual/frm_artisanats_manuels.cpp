@@ -1,5 +1,7 @@
 #include "crafts/manual/frm_artisanats_manuels.h"
 
+#include "crafts/common/counts.h"
+#include "crafts/common/object_pictures.h"
 #include "settings/frm_configuration.h"
 #include "shell/navigation.h"
 
@@ -63,12 +65,10 @@ void frm_ArtisanatsManuels::Relier()
     cbo_Objet.OnClick = [this] { cbo_Objet_Click(); };
     cbo_Degré.OnClick = [this] { cbo_Degré_Click(); };
     txt_Sup.OnChange = [this] { txt_Sup_Change(); };
-    txt_Image.OnChange = [this] { txt_Image_Change(); };
-    txt_Icône.OnChange = [this] {
-        MontrerIcône(txt_Icône, img_Icône, Globals.RoyaumeCourant + "/Icônes");
-    };
+    txt_Image.OnChange = [this] { MontrerImageObjet(this->App, txt_Image, img_Objet); };
+    txt_Icône.OnChange = [this] { MontrerIcôneRoyaume(this->App, txt_Icône, img_Icône); };
     txt_IconeObjetSup.OnChange = [this] {
-        MontrerIcône(txt_IconeObjetSup, img_ObjetSup, "Commun");
+        MontrerIcôneCommune(this->App, txt_IconeObjetSup, img_ObjetSup);
     };
     for (int i = 3; i <= 6; ++i) // rows 1 and 2 are always shown
         txt_MatériauxBruts[i].OnChange = [this, i] { txt_MatériauxBruts_Change(i); };
@@ -76,18 +76,18 @@ void frm_ArtisanatsManuels::Relier()
     txt_Vit.OnChange = [this] { MontrerStatistique(txt_Vit, lbl_Vit); };
     txt_AF.OnChange = [this] { MontrerStatistique(txt_AF, lbl_AF); };
     txt_BonusSpécial.OnChange = [this] { MontrerStatistique(txt_BonusSpécial, lbl_BonusSpécial); };
-    const auto Recalculer = [this](TextBox& Box, bool ZéroVautUn, const char* Réparation) {
-        Box.OnChange = [this, &Box, ZéroVautUn, Réparation] {
-            if (Box.Text == "" || (ZéroVautUn && Box.Text == "0"))
-                Box.Text = Réparation; // runs this handler again inside itself
-            CalculerPrixVente();
-        };
-    };
-    Recalculer(txt_NbObjet, true, "1");
-    Recalculer(txt_NbEssais, false, "0");
-    Recalculer(txt_ObjetSUpPrixCoûtant, false, "0");
+    const auto Calculer = [this] { CalculerPrixVente(); };
+    RecalculerAuChangement(txt_NbObjet, {"0", ""}, "1", Calculer);
+    RecalculerAuChangement(txt_NbEssais, {""}, "0", Calculer);
+    RecalculerAuChangement(txt_ObjetSUpPrixCoûtant, {""}, "0", Calculer);
     for (TextBox& Prix : txt_PrixMat)
-        Recalculer(Prix, false, "0");
+        RecalculerAuChangement(Prix, {""}, "0", Calculer);
+    cbo_TypeDégats.OnClick = [this] { cbo_TypeDégats_Click(); };
+    txt_ObjetSup.OnChange = [this] { txt_ObjetSup_Change(); };
+    for (int i : {3, 4})
+        txt_MatSup[i].OnChange = [this, i] { txt_MatSup_Change(i); };
+    for (int i = 1; i <= 4; ++i)
+        txt_PrixMatSuptUnitaire[i].OnChange = [this, i] { txt_PrixMatSuptUnitaire_Change(i); };
     cmd_AjouterPanier.OnClick = [this] { cmd_AjouterPanier_Click(); };
     cmd_Retour.OnClick = [this] { WayBack(); };
 }

@@ -140,8 +140,6 @@ class frm_ArtisanatsManuels : public Feuille
     void LireObjet();
     void PréparerTypeDégats();
     void txt_Sup_Change();
-    void txt_Image_Change();
-    void MontrerIcône(const TextBox& Fichier, Image& Icône, const std::string& Dossier);
 
     // Degree
     void cbo_Degré_Click();
@@ -155,6 +153,15 @@ class frm_ArtisanatsManuels : public Feuille
     void CalculerPrixMatériaux();
     void CalculerPrixVente();
     void ActualiserVerrouPrix(TextBox& Prix, TextBox& Nom);
+
+    // Extra object
+    void cbo_TypeDégats_Click();
+    void LireObjetSup();
+    void CalculerPrixObjetSup();
+    void txt_ObjetSup_Change();
+    void MontrerMatSup(int i, bool Montré);
+    void txt_MatSup_Change(int i);
+    void txt_PrixMatSuptUnitaire_Change(int i);
 
     void cmd_AjouterPanier_Click();
 

@@ -191,23 +191,4 @@ void frm_ArtisanatsManuels::txt_Sup_Change()
     RemplirListe(Globals, cbo_Degré, ColonneDegré);
 }
 
-void frm_ArtisanatsManuels::txt_Image_Change()
-{
-    const orvane::Picture PasImage = App.Images.LoadOr(App.Chemin("/Objets/Commun/PasImage.gif"));
-    img_Objet.Picture = txt_Image.Text == ""
-                            ? PasImage
-                            : App.Images.LoadOr(App.Chemin("/Objets/" + Globals.RoyaumeCourant +
-                                                           "/" + txt_Image.Text()),
-                                                PasImage);
-}
-
-void frm_ArtisanatsManuels::MontrerIcône(const TextBox& Fichier, Image& Icône,
-                                         const std::string& Dossier)
-{
-    Icône.Picture =
-        Fichier.Text == ""
-            ? orvane::Picture()
-            : App.Images.LoadOr(App.Chemin("/Objets/" + Dossier + "/" + Fichier.Text()));
-}
-
 } // namespace orvane

@@ -1,0 +1,60 @@
+#include "crafts/archery/frm_archerie.h"
+#include "toolkit/placing.h"
+
+// Where the controls of frm_Archerie stand and what they say until a skin moves them.
+namespace orvane {
+
+void frm_Archerie::Définir()
+{
+    constexpr int High = 24;
+    SizeScreen(*this, 680, 560);
+    PlacePanel(shp_Choix, {16, 16, 430, 110});
+    PlaceHeading(lbl11, "Type de projectiles", {30, 20, 300, High});
+    Place(cbo_Type, {30, 48, 402, High});
+    PlaceLabel(lbl13, "Carquois :", {30, 86, 90, High});
+    Place(cbo_Objet, {122, 86, 310, High});
+    cbo_Type.Sorted = true;
+    cbo_Objet.Sorted = true;
+
+    PlacePanel(shp_Niveau, {458, 16, 206, 110});
+    PlaceHeading(lbl12, "Niveau", {472, 20, 100, High});
+    PlaceTitle(lbl_Niveau, "", {472, 48, 70, 34});
+    Place(img_Niveau, {552, 54, 24, 24});
+    Place(img_Icône, {472, 84, 32, 32});
+    Place(Image1, {594, 44, 60, 60});
+
+    PlacePanel(shp_Matériaux, {16, 138, 648, 142});
+    PlaceHeading(lbl21, "Matériaux", {30, 142, 300, High});
+    for (int i = 1; i <= 3; ++i) {
+        const int Y = 172 + (i - 1) * 32;
+        Place(txt_Matériaux[i], {30, Y, 370, High});
+        txt_Matériaux[i].Align = Alignment::Left;
+        PlaceLabel(lbl_MatX[i], "x", {402, Y, 16, High}, Alignment::Centre);
+        Place(txt_MatériauxQté[i], {420, Y, 60, High});
+        PlaceLabel(lbl_Mat[i], "=", {482, Y, 16, High}, Alignment::Centre);
+        Place(txt_PrixMat[i], {500, Y, 150, High});
+        for (TextBox* Box : {&txt_Matériaux[i], &txt_MatériauxQté[i], &txt_PrixMat[i]})
+            Box->Locked = false; // typed texts count only when a calculation reads them
+        txt_PrixMatUnitaire[i].Visible = false;
+    }
+
+    PlacePanel(shp_Vente, {16, 292, 648, 172});
+    PlaceLabel(lbl32, "Nb de carquois :", {30, 306, 150, High});
+    Place(txt_NbObjet, {184, 306, 80, High});
+    txt_NbObjet.StartWith("1");
+    txt_NbObjet.OpenFor(NumberKind::Entier16);
+    PlaceLabel(lbl33, "20 unités par carquois", {280, 306, 360, High});
+    PlaceLabel(lbl31, "Prix coûtant :", {30, 346, 150, High});
+    Place(txt_PrixCoûtant, {184, 346, 180, High});
+    PlaceLabel(lbl34, "Prix de vente : ", {30, 386, 150, High});
+    Place(txt_PrixVente, {184, 386, 180, High});
+    txt_PrixVente.StartWith("0");
+    PlaceLabel(lbl35, "Application globale de la marge", {30, 426, 360, High});
+    txt_Icône.Visible = false;
+
+    PlaceButton(cmd_AjouterPanier, "Ajouter au panier",
+                "Ajouter le carquois à la commande en cours", {16, 490, 200, 48});
+    PlaceButton(cmd_Retour, "Retour", "Revenir aux artisanats manuels", {524, 490, 140, 48});
+}
+
+} // namespace orvane

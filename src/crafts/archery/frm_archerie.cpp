@@ -1,0 +1,108 @@
+#include "crafts/archery/frm_archerie.h"
+
+#include "base/failure.h"
+#include "basket/affichage.h"
+#include "crafts/common/counts.h"
+#include "crafts/common/object_pictures.h"
+#include "settings/affichage.h"
+#include "shell/queries.h"
+#include "toolkit/calculation.h"
+
+namespace orvane {
+
+frm_Archerie::frm_Archerie(Application& App) : Feuille(App, ScreenName, "Archerie")
+{
+    Définir();
+    cbo_Type.OnClick = [this] { cbo_Type_Click(); };
+    cbo_Objet.OnClick = [this] { cbo_Objet_Click(); };
+    txt_Icône.OnChange = [this] { MontrerIcôneRoyaume(this->App, txt_Icône, img_Icône); };
+    RecalculerAuChangement(txt_NbObjet, {"0", ""}, "1", [this] { CalculerPrixCarquois(); });
+    cmd_AjouterPanier.OnClick = [this] { cmd_AjouterPanier_Click(); };
+    cmd_Retour.OnClick = [this] { Hide(); };
+}
+
+void frm_Archerie::Load()
+{
+    constexpr int ImageEmpennage = 6;
+    Image1.Picture = App.Feuilles.Get<frm_Configuration>().imglst_CraftGrand.Picture(ImageEmpennage);
+}
+
+// The last quiver and its prices stay.
+void frm_Archerie::Activate()
+{
+    cbo_Type.Clear();
+    {
+        const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+        Globals.TexteSQL = "SELECT Nom FROM ArcherieType";
+        RemplirListe(Globals, cbo_Type, "Nom");
+    }
+    auto& Configuration = App.Feuilles.Get<frm_Configuration>();
+    LireRéglage(Configuration.txt_NiveauEmpennage, NiveauCraft);
+    LireRéglage(Configuration.txt_MargeEmpennage, Marge);
+}
+
+void frm_Archerie::cbo_Type_Click()
+{
+    cbo_Objet.Clear();
+    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    Globals.TexteSQL =
+        "SELECT Archerie.Nom FROM R_Archerie WHERE ArcherieType.Nom=" + Quoted(cbo_Type.Text());
+    RemplirListe(Globals, cbo_Objet, "Nom");
+}
+
+void frm_Archerie::cbo_Objet_Click()
+{
+    LireCarquois();
+    for (int i = 1; i <= 3; ++i)
+        Calculate({&txt_PrixMat[i]}, [&] {
+            txt_PrixMat[i].Text = T(M(txt_PrixMatUnitaire[i]) * M(txt_MatériauxQté[i]));
+        });
+    CalculerPrixCarquois();
+    ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
+}
+
+void frm_Archerie::LireCarquois()
+{
+    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    Globals.TexteSQL =
+        "SELECT * FROM R_Archerie WHERE (ArcherieType.Nom=" + Quoted(cbo_Type.Text()) +
+        " AND Archerie.Nom=" + Quoted(cbo_Objet.Text()) + ")";
+    const Recordset& Carquois = PremierEnregistrement(Globals);
+    lbl_Niveau.Caption = Carquois.Text("NiveauCraft");
+    for (int i = 1; i <= 3; ++i) {
+        const std::string Matériau =
+            i == 1 ? "Matériaux_Classique" : "Matériaux_Classique_" + std::to_string(i - 1);
+        txt_Matériaux[i].Text = Carquois.Text(Matériau + ".Nom");
+        txt_MatériauxQté[i].Text = Carquois.Text("Qté" + std::to_string(i));
+        txt_PrixMatUnitaire[i].Text = Carquois.Text(Matériau + ".Prix");
+    }
+    txt_Icône.Text = Carquois.Text("Icône");
+    Globals.Enregistrements.Empty();
+}
+
+// Each line is rounded before the count multiplies. Before the first quiver there is nothing to
+// calculate.
+void frm_Archerie::CalculerPrixCarquois()
+{
+    if (txt_PrixMat[1].Text == "" && txt_PrixMat[2].Text == "" && txt_PrixMat[3].Text == "")
+        return;
+    Calculate({&txt_PrixCoûtant, &txt_PrixVente}, [&] {
+        const Montant Coût =
+            I(txt_NbObjet) * (M(txt_PrixMat[1]) + M(txt_PrixMat[2]) + M(txt_PrixMat[3]));
+        const double Vente = D(Coût) * (Marge / 100.0 + 1);
+        txt_PrixCoûtant.Text = T(Coût);
+        txt_PrixVente.Text = T(Vente);
+    });
+}
+
+void frm_Archerie::cmd_AjouterPanier_Click()
+{
+    if (cbo_Objet.Text() == "") {
+        App.MsgBox("Aucun carquois sélectionné.");
+        return;
+    }
+    AjouterLigne(App, {"Carquois de " + cbo_Type.Text + " - " + cbo_Objet.Text, txt_NbObjet,
+                       txt_PrixCoûtant, txt_PrixVente});
+}
+
+} // namespace orvane

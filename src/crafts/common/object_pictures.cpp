@@ -1,0 +1,34 @@
+#include "crafts/common/object_pictures.h"
+
+namespace orvane {
+
+namespace {
+
+void Montrer(Application& App, const std::string& Dossier, const TextBox& Fichier,
+             PictureControl& Où, const Picture& Sinon = {})
+{
+    Où.Picture =
+        Fichier.Text == ""
+            ? Sinon
+            : App.Images.LoadOr(App.Chemin("/Objets/" + Dossier + "/" + Fichier.Text()), Sinon);
+}
+
+} // namespace
+
+void MontrerIcôneRoyaume(Application& App, const TextBox& Fichier, PictureControl& Icône)
+{
+    Montrer(App, App.Globals.RoyaumeCourant + "/Icônes", Fichier, Icône);
+}
+
+void MontrerIcôneCommune(Application& App, const TextBox& Fichier, PictureControl& Icône)
+{
+    Montrer(App, "Commun", Fichier, Icône);
+}
+
+void MontrerImageObjet(Application& App, const TextBox& Fichier, PictureControl& Image)
+{
+    Montrer(App, App.Globals.RoyaumeCourant, Fichier, Image,
+            App.Images.LoadOr(App.Chemin("/Objets/Commun/PasImage.gif")));
+}
+
+} // namespace orvane

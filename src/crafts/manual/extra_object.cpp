@@ -1,0 +1,177 @@
+#include "base/text.h"
+#include "crafts/manual/frm_artisanats_manuels.h"
+#include "settings/affichage.h"
+#include "shell/queries.h"
+#include "toolkit/calculation.h"
+
+#include <array>
+
+// The alchemical object that a durable or superior object needs in a damage type: its name, its
+// materials, its price in the cost, and what the type does to the level.
+namespace orvane {
+
+namespace {
+
+constexpr const char* Aucun = "(aucun)";
+constexpr std::string_view BarresDeMétal = "Barres de métal";
+
+struct TypeDégats
+{
+    const char* Type;
+    const char* Suffixe;
+    const char* Niveau;        // last two digits of the level
+    const char* NiveauDurable; // the same for a durable object
+};
+
+constexpr std::array TypesDégats{
+    TypeDégats{"de feu", " de feu d'arme", "30", "40"},
+    TypeDégats{"de glace", " de glace d'arme", "40", "50"},
+    TypeDégats{"conducteur", " d'énergie d'arme", "50", "60"},
+    TypeDégats{"conductrice", " d'énergie d'arme", "50", "60"},
+};
+
+struct SuffixeDegré
+{
+    const char* Degré;
+    const char* Suffixe;
+};
+
+constexpr std::array SuffixesDegrés{
+    SuffixeDegré{"en dyr", " de néthérium"},
+    SuffixeDegré{"en arcania", " d'arcanium"},
+};
+
+const TypeDégats* ChercherType(const std::string& Type)
+{
+    for (const TypeDégats& Each : TypesDégats)
+        if (Type == Each.Type)
+            return &Each;
+    return nullptr;
+}
+
+const SuffixeDegré* ChercherDegré(const std::string& Degré)
+{
+    for (const SuffixeDegré& Each : SuffixesDegrés)
+        if (Degré == Each.Degré)
+            return &Each;
+    return nullptr;
+}
+
+// Name of a column of one of the repeated joins: "Matériaux.Nom", "Matériaux_1.Nom"...
+std::string ColonneMatériau(int i, const char* Colonne)
+{
+    return (i == 1 ? "Matériaux" : "Matériaux_" + std::to_string(i - 1)) + "." + Colonne;
+}
+
+} // namespace
+
+void frm_ArtisanatsManuels::cbo_TypeDégats_Click()
+{
+    const TypeDégats* Type = ChercherType(cbo_TypeDégats.Text);
+    if (Type != nullptr)
+        txt_ObjetSup.Text = txt_ObjetSupBis.Text() + Type->Suffixe;
+    const SuffixeDegré* Degré = ChercherDegré(cbo_Degré.Text);
+    if (Degré == nullptr) {
+        App.MsgBox("Il faut d'abord sélectionner un degré.");
+        txt_ObjetSup.Text = txt_ObjetSupBis.Text();
+        cbo_TypeDégats.Text = "";
+        return;
+    }
+    txt_ObjetSup.Text = txt_ObjetSup.Text() + Degré->Suffixe;
+    LireObjetSup();
+    if (txt_ObjetSup.Text != "")
+        ChangerCouleurCraft(App, lbl_ObjetSupNiveauCraft.Caption, NiveauAlchimie,
+                            img_ObjetSupNiveau);
+    if (Type != nullptr) {
+        const bool Durable = ContainsIgnoringCase(cbo_Objet.Text(), "durable");
+        lbl_Niveau.Caption = WithoutLastCharacters(lbl_Niveau.Caption(), 2) +
+                             (Durable ? Type->NiveauDurable : Type->Niveau);
+    }
+    ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
+    CalculerPrixObjetSup();
+}
+
+// One row of the alchemy objects, found by the name just built.
+void frm_ArtisanatsManuels::LireObjetSup()
+{
+    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
+    Globals.TexteSQL =
+        "SELECT * FROM R_AlchimieObjet WHERE (ListeObjets.Nom=" + Quoted(txt_ObjetSup.Text()) + ")";
+    const Recordset Objet = PremierEnregistrement(Globals); // its own copy: the writes below nest
+    lbl_ObjetSupNiveauCraft.Caption = Objet.Text("NiveauCraft");
+    txt_IconeObjetSup.Text = Objet.TextOrEmpty("Icône");
+    for (int i = 1; i <= 4; ++i) {
+        txt_MatSup[i].Text = Objet.Text(ColonneMatériau(i, "Nom"));
+        txt_MatSupQté[i].Text = i == 1 ? "1" : Objet.Text("Qté" + std::to_string(i));
+        txt_PrixMatSuptUnitaire[i].Text = Objet.Text(ColonneMatériau(i, "Prix"));
+    }
+    if (FirstCharacters(txt_MatSup[1].Text(), CharacterCount(BarresDeMétal)) != BarresDeMétal)
+        return;
+    Globals.TexteSQL = "SELECT Nom, " + Globals.RoyaumeCourant +
+                       " FROM Matériaux WHERE Nom=" + Quoted(txt_MatSup[1].Text());
+    const std::string Terminaison = PremierEnregistrement(Globals).Text(Globals.RoyaumeCourant);
+    txt_MatSup[1].Text = WithoutLastCharacters(txt_MatSup[1].Text(), 1) + Terminaison;
+    Globals.Enregistrements.Empty();
+}
+
+// Here quantities are whole numbers; the handler of a unit price takes them as amounts.
+void frm_ArtisanatsManuels::CalculerPrixObjetSup()
+{
+    for (int i = 1; i <= 4; ++i)
+        Calculate({&txt_PrixMatSup[i]}, [&] {
+            txt_PrixMatSup[i].Text = T(I(txt_MatSupQté[i]) * M(txt_PrixMatSuptUnitaire[i]));
+        });
+    Calculate({}, [&] {
+        Montant Somme;
+        for (TextBox& Prix : txt_PrixMatSup)
+            Somme = Somme + M(Prix);
+        txt_ObjetSUpPrixCoûtant.Text = T(I(txt_NbObjetSup) * Somme);
+    });
+}
+
+// The whole panel follows the name: empty or not.
+void frm_ArtisanatsManuels::txt_ObjetSup_Change()
+{
+    const bool Montré = txt_ObjetSup.Text != "";
+    const auto Montrer = [&](std::initializer_list<Control*> Contrôles) {
+        for (Control* Each : Contrôles)
+            Each->Visible = Montré;
+    };
+    Montrer({&shp_ObjetSup, &lbl_ObjetSup, &txt_ObjetSup});
+    for (int i = 1; i <= 4; ++i)
+        MontrerMatSup(i, Montré);
+    txt_IconeObjetSup.Text = "";
+    Montrer({&lbl_ObjetSupNiveau, &lbl_ObjetSupNiveauCraft, &img_ObjetSupNiveau, &img_ObjetSup,
+             &lbl_ObjetSUpPrixCoûtant, &txt_ObjetSUpPrixCoûtant, &txt_NbObjetSup, &lbl_NbObjetSup});
+    for (int i : {3, 4}) // hides again the rows without a material
+        if (txt_MatSup[i].Text == Aucun) {
+            txt_MatSup[i].Text = "";
+            txt_MatSup[i].Text = Aucun;
+        }
+}
+
+void frm_ArtisanatsManuels::MontrerMatSup(int i, bool Montré)
+{
+    for (Control* Each : std::array<Control*, 5>{&txt_MatSup[i], &lbl_MatSupX[i], &txt_MatSupQté[i],
+                                                 &lbl_MatSup[i], &txt_PrixMatSup[i]})
+        Each->Visible = Montré;
+}
+
+void frm_ArtisanatsManuels::txt_MatSup_Change(int i)
+{
+    if (txt_ObjetSup.Text != "")
+        MontrerMatSup(i, txt_MatSup[i].Text != Aucun);
+}
+
+void frm_ArtisanatsManuels::txt_PrixMatSuptUnitaire_Change(int i)
+{
+    if (txt_PrixMatSuptUnitaire[i].Text == "" && txt_MatSupQté[i].Text == "") {
+        txt_PrixMatSup[i].Text = "0";
+        return;
+    }
+    Calculate({&txt_PrixMatSup[i]}, [&] {
+        txt_PrixMatSup[i].Text = T(M(txt_PrixMatSuptUnitaire[i]) * M(txt_MatSupQté[i]));
+    });
+}
+
+} // namespace orvane
