@@ -2,6 +2,7 @@
 
 #include "pictures/drawing.h"
 #include "pictures/effects.h"
+#include "pictures/skins.h"
 #include "pictures/writers.h"
 
 #include <QDir>
@@ -10,32 +11,30 @@
 #include <QMap>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <cstdio>
 #include <exception>
+#include <iterator>
 
 namespace {
 
 using namespace orvane::pictures;
 
-struct Output
-{
-    QString Place;
-    std::vector<QImage> Sizes; // more than one in an icon only
-};
+using Sizes = std::vector<Picture>; // of one file: more than one in an icon only
 
-QByteArray Encoded(const QString& Path, const Output& Out)
+QByteArray Encoded(const Picture& P, const std::vector<QImage>& Images)
 {
-    const QString Suffix = QFileInfo(Path).suffix();
-    const QImage& Image = Out.Sizes.front();
+    const QString Suffix = QFileInfo(P.Output).suffix();
+    const QImage& Image = Images.front();
     if (Suffix == QLatin1String("gif"))
         return GifBytes(OnParchment(Image));
     if (Suffix == QLatin1String("ico"))
-        return IconBytes(Out.Sizes);
+        return IconBytes(Images);
     if (Suffix == QLatin1String("png"))
-        return QtBytes(Image, "PNG");
+        return PngBytes(Image);
     if (Suffix == QLatin1String("jpg"))
-        return QtBytes(OnParchment(Image).convertToFormat(QImage::Format_RGB32), "JPEG");
-    throw SourceError(QStringLiteral("%1 : format inconnu « .%2 »").arg(Out.Place, Suffix));
+        return JpegBytes(OnParchment(Image).convertToFormat(QImage::Format_RGB32), P.Quality);
+    throw SourceError(QStringLiteral("%1 : format inconnu « .%2 »").arg(P.Place, Suffix));
 }
 
 void WriteFile(const QString& Path, const QByteArray& Bytes)
@@ -49,18 +48,29 @@ void WriteFile(const QString& Path, const QByteArray& Bytes)
             QStringLiteral("%1 : impossible d’écrire : %2").arg(Path, File.errorString()));
 }
 
+std::vector<Picture> AllPictures(const QString& Sources)
+{
+    const std::vector<Palette> Palettes = ReadPalettes(Sources);
+    std::vector<Picture> Result = ReadManifest(Sources, Palettes);
+    std::ranges::copy(ReadSkins(Sources, Palettes), std::back_inserter(Result));
+    RefuseTwice(Result);
+    return Result;
+}
+
 // Everything is rendered before anything is written: a bad drawing leaves the folder as it was.
 qsizetype MakePictures(const QString& Sources, const QString& Target)
 {
-    QMap<QString, Output> Outputs;
-    for (const Picture& P : ReadManifest(Sources, ReadPalettes(Sources))) {
-        Output& Out = Outputs[P.Output];
-        Out.Place = P.Place;
-        Out.Sizes.push_back(RenderDrawing(Sources, P));
-    }
+    QMap<QString, Sizes> Outputs;
+    for (const Picture& P : AllPictures(Sources))
+        Outputs[P.Output].push_back(P);
+    const Drawings Renderer(Sources);
     QMap<QString, QByteArray> Files;
-    for (auto It = Outputs.cbegin(); It != Outputs.cend(); ++It)
-        Files.insert(It.key(), Encoded(It.key(), It.value()));
+    for (auto It = Outputs.cbegin(); It != Outputs.cend(); ++It) {
+        std::vector<QImage> Images;
+        for (const Picture& P : It.value())
+            Images.push_back(Renderer.Render(P));
+        Files.insert(It.key(), Encoded(It.value().front(), Images));
+    }
     for (auto It = Files.cbegin(); It != Files.cend(); ++It)
         WriteFile(QDir(Target).filePath(It.key()), It.value());
     return Files.size();

@@ -1,6 +1,7 @@
 #include "pictures/drawing.h"
 
 #include "pictures/effects.h"
+#include "pictures/lettering.h"
 
 #include <QColor>
 #include <QDir>
@@ -118,7 +119,11 @@ bool IsBlank(const QImage& Image)
 
 } // namespace
 
-QByteArray ExpandDrawing(const QString& Folder, const Picture& P)
+Drawings::Drawings(const QString& Folder) : Folder(Folder), Grains(Folder) {}
+
+// "{inclure:x.svg}" stands for the inside of the <svg> element of x.svg; a file comes in once, at
+// its first mention.
+QString Drawings::Expanded(const Picture& P) const
 {
     static const QRegularExpression Inclusion(QStringLiteral("\\{inclure:([\\w./-]+)\\}"));
     QSet<QString> Included;
@@ -131,18 +136,18 @@ QByteArray ExpandDrawing(const QString& Folder, const Picture& P)
         Included.insert(Name);
         Text.replace(Match.capturedStart(), Match.capturedLength(), Inside);
     }
-    return Text.toUtf8();
+    return Text;
 }
 
-QImage RenderDrawing(const QString& Folder, const Picture& P)
+QImage Drawings::Plain(const Picture& P) const
 {
-    const QByteArray Svg = ExpandDrawing(Folder, P);
-    if (Svg.contains("<text")) // its look would depend on the fonts of the machine
+    const QString Svg = Expanded(P);
+    if (Svg.contains(QLatin1String("<text"))) // its look would depend on the machine's fonts
         throw Fault(P, QStringLiteral("un dessin ne contient pas de <text> : convertir en tracés"));
-    RefuseOddColours(P, QString::fromUtf8(Svg));
+    RefuseOddColours(P, Svg);
     const WarningTrap Trap;
     QSvgRenderer Renderer;
-    if (!Renderer.load(Svg))
+    if (!Renderer.load(Grains.PutInto(Svg, P).toUtf8()))
         throw Fault(P, QStringLiteral("ce n’est pas un dessin SVG valable. ") + Trap.First());
     RefuseStretching(P, Renderer.viewBoxF());
 
@@ -157,6 +162,27 @@ QImage RenderDrawing(const QString& Folder, const Picture& P)
         throw Fault(P, Trap.First());
     if (IsBlank(Image))
         throw Fault(P, QStringLiteral("l’image est vide"));
+    return Image;
+}
+
+QImage Drawings::Written(const Picture& P, QImage Plate) const
+{
+    QImage Glyph;
+    if (!P.Written.Glyph.isEmpty()) {
+        Picture Drawn = P;
+        Drawn.Source = P.Written.Glyph;
+        Drawn.Size = GlyphSize(P);
+        Glyph = Plain(Drawn);
+    }
+    WriteOn(Plate, Glyph, P);
+    return Plate;
+}
+
+QImage Drawings::Render(const Picture& P) const
+{
+    const QImage Image = Plain(P);
+    if (!P.Written.Words.isEmpty())
+        return Written(P, Image);
     return P.Ombre ? WithShadowAndHalo(Image) : Image;
 }
 

@@ -1,16 +1,28 @@
 #pragma once
 
 #include "pictures/manifest.h"
+#include "pictures/texture.h"
 
 #include <QImage>
 
 namespace orvane::pictures {
 
-// The drawing's text with its palette words and inclusions replaced. "{inclure:x.svg}" stands for
-// the inside of the <svg> element of x.svg; a file comes in once, at its first mention.
-QByteArray ExpandDrawing(const QString& Folder, const Picture& P);
+// The drawings of one folder.
+class Drawings
+{
+  public:
+    explicit Drawings(const QString& Folder);
 
-// The picture with its alpha channel. Throws SourceError when the drawing is unsound.
-QImage RenderDrawing(const QString& Folder, const Picture& P);
+    // The picture with its alpha channel. Throws SourceError when the drawing is unsound.
+    QImage Render(const Picture& P) const;
+
+  private:
+    QString Expanded(const Picture& P) const;
+    QImage Plain(const Picture& P) const;
+    QImage Written(const Picture& P, QImage Plate) const;
+
+    QString Folder;
+    Textures Grains;
+};
 
 } // namespace orvane::pictures

@@ -47,29 +47,6 @@ Variant VariantOf(const TableRow& Row, const std::vector<Palette>& Palettes)
     return Result;
 }
 
-int SideOf(const TableRow& Row, const QString& Column)
-{
-    bool IsNumber = false;
-    const int Side = Row.Cells[Column].toInt(&IsNumber);
-    if (!IsNumber || Side < 1 || Side > LargestSide)
-        throw SourceError(
-            QStringLiteral("%1 : taille « %2 » refusée").arg(Row.Place, Row.Cells[Column]));
-    return Side;
-}
-
-QString ForPalette(QString Text, const Palette& Colours)
-{
-    return Text.replace(QLatin1String("{Royaume}"), Colours.Name)
-        .replace(QLatin1String("{royaume}"), Colours.Words["royaume"]);
-}
-
-void RefuseOutsidePath(const TableRow& Row, const QString& Path)
-{
-    if (QDir::isAbsolutePath(Path) || QDir::cleanPath(Path).startsWith(QLatin1String("..")))
-        throw SourceError(
-            QStringLiteral("%1 : le chemin « %2 » sort du dossier").arg(Row.Place, Path));
-}
-
 std::vector<Picture> PicturesOf(const TableRow& Row, const std::vector<Palette>& Palettes)
 {
     std::vector<Picture> Result;
@@ -95,6 +72,31 @@ std::vector<Picture> PicturesOf(const TableRow& Row, const std::vector<Palette>&
     return Result;
 }
 
+} // namespace
+
+int SideOf(const TableRow& Row, const QString& Column)
+{
+    bool IsNumber = false;
+    const int Side = Row.Cells[Column].toInt(&IsNumber);
+    if (!IsNumber || Side < 1 || Side > LargestSide)
+        throw SourceError(
+            QStringLiteral("%1 : taille « %2 » refusée").arg(Row.Place, Row.Cells[Column]));
+    return Side;
+}
+
+QString ForPalette(QString Text, const Palette& Colours)
+{
+    return Text.replace(QLatin1String("{Royaume}"), Colours.Name)
+        .replace(QLatin1String("{royaume}"), Colours.Words["royaume"]);
+}
+
+void RefuseOutsidePath(const TableRow& Row, const QString& Path)
+{
+    if (QDir::isAbsolutePath(Path) || QDir::cleanPath(Path).startsWith(QLatin1String("..")))
+        throw SourceError(
+            QStringLiteral("%1 : le chemin « %2 » sort du dossier").arg(Row.Place, Path));
+}
+
 void RefuseTwice(const std::vector<Picture>& Pictures)
 {
     QSet<QString> Seen;
@@ -107,8 +109,6 @@ void RefuseTwice(const std::vector<Picture>& Pictures)
         Seen.insert(Key);
     }
 }
-
-} // namespace
 
 std::vector<Palette> ReadPalettes(const QString& Folder)
 {
@@ -127,7 +127,6 @@ std::vector<Picture> ReadManifest(const QString& Folder, const std::vector<Palet
                                  {"output", "source", "width", "height", "variant"});
     for (const TableRow& Row : Rows.Rows)
         std::ranges::copy(PicturesOf(Row, Palettes), std::back_inserter(Result));
-    RefuseTwice(Result);
     return Result;
 }
 

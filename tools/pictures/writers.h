@@ -13,7 +13,7 @@ QByteArray GifBytes(const QImage& Image);
 // A container with one PNG for each size.
 QByteArray IconBytes(std::vector<QImage> Sizes);
 
-// Any format of Qt's own writers, such as "PNG" and "JPEG".
-QByteArray QtBytes(const QImage& Image, const char* Format);
+QByteArray PngBytes(const QImage& Image);
+QByteArray JpegBytes(const QImage& Image, int Quality);
 
 } // namespace orvane::pictures

@@ -1,0 +1,209 @@
+#include "pictures/skins.h"
+
+#include <QDir>
+#include <QSet>
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
+namespace orvane::pictures {
+
+namespace {
+
+const QString CommonFolder = QStringLiteral("Commun"); // of screens that are alike at every size
+const QString NoneCell = QStringLiteral("-");
+
+constexpr int BackgroundQuality = 88;
+constexpr int ButtonQuality = 92;
+constexpr int ButtonDensity = 2; // pixels for one of the window's
+constexpr double EmblemSide = 100;
+
+struct Skin
+{
+    QString Name;
+    QString Drawings;
+    QString Family;
+    QStringList Common; // screens
+    QHash<QString, QString> Colours;
+};
+
+struct ImageFolder
+{
+    QString Name;
+    double Factor;
+};
+
+// The rows of the tables that say what a skin is made of.
+struct Sources
+{
+    std::vector<Palette> Palettes;
+    std::vector<Skin> Skins;
+    std::vector<ImageFolder> Folders;
+    Table Backgrounds;
+    Table Buttons;
+};
+
+Table ReadSkinTable(const QString& Folder, const QString& Name, const QStringList& Columns)
+{
+    return ReadTable(QDir(Folder).filePath("skins/" + Name), Columns);
+}
+
+double NumberOf(const TableRow& Row, const QString& Column)
+{
+    bool IsNumber = false;
+    const double Result = Row.Cells[Column].toDouble(&IsNumber);
+    if (!IsNumber || Result < 0)
+        throw SourceError(
+            QStringLiteral("%1 : « %2 » n’est pas un nombre").arg(Row.Place, Row.Cells[Column]));
+    return Result;
+}
+
+std::vector<Skin> SkinsOf(const QString& Folder)
+{
+    const Table Colours = ReadSkinTable(Folder, "palettes.tsv", {"palette"});
+    const Table Skins =
+        ReadSkinTable(Folder, "skins.tsv", {"skin", "palette", "drawings", "font", "common"});
+    std::vector<Skin> Result;
+    for (const TableRow& Row : Skins.Rows) {
+        const auto Same = [&](const TableRow& Each) {
+            return Each.Cells["palette"] == Row.Cells["palette"];
+        };
+        const auto Found = std::ranges::find_if(Colours.Rows, Same);
+        if (Found == Colours.Rows.end())
+            throw SourceError(QStringLiteral("%1 : palette inconnue « %2 »")
+                                  .arg(Row.Place, Row.Cells["palette"]));
+        RefuseOutsidePath(Row, Row.Cells["skin"]);
+        Result.push_back({Row.Cells["skin"], Row.Cells["drawings"], Row.Cells["font"],
+                          Row.Cells["common"].split(' ', Qt::SkipEmptyParts), Found->Cells});
+    }
+    return Result;
+}
+
+std::vector<ImageFolder> FoldersOf(const QString& Folder)
+{
+    std::vector<ImageFolder> Result;
+    for (const TableRow& Row : ReadSkinTable(Folder, "resolutions.tsv", {"folder", "factor"}).Rows)
+        Result.push_back({Row.Cells["folder"], NumberOf(Row, "factor")});
+    return Result;
+}
+
+void RefuseUnknownCommon(const Sources& From)
+{
+    QSet<QString> Screens{NoneCell};
+    for (const Table* Each : {&From.Backgrounds, &From.Buttons})
+        for (const TableRow& Row : Each->Rows)
+            Screens.insert(Row.Cells["screen"]);
+    for (const Skin& Each : From.Skins)
+        for (const QString& Screen : Each.Common)
+            if (!Screens.contains(Screen))
+                throw SourceError(QStringLiteral("skins.tsv : « %1 » : feuille inconnue « %2 »")
+                                      .arg(Each.Name, Screen));
+}
+
+// The words of a skin's drawings: the realm's, or those of none, then the skin's own.
+Palette WordsFor(const Skin& Look, const Palette& Realm, const TableRow& Row)
+{
+    Palette Result = Realm;
+    Result.Words.insert(Look.Colours);
+    Result.Words["largeur"] = Row.Cells["width"];
+    Result.Words["hauteur"] = Row.Cells["height"];
+    Result.Words["milieu-x"] = QString::number(SideOf(Row, "width") / 2.0);
+    Result.Words["milieu-y"] = QString::number(SideOf(Row, "height") / 2.0);
+    return Result;
+}
+
+QSize Scaled(const TableRow& Row, double Factor)
+{
+    const auto Side = [&](const QString& Column) {
+        return static_cast<int>(std::lround(SideOf(Row, Column) * Factor));
+    };
+    return {Side("width"), Side("height")};
+}
+
+std::vector<Palette> RealmsOf(const Sources& From, const TableRow& Row)
+{
+    const bool ForRealms = Row.Cells["file"].contains(QLatin1String("{Royaume}"));
+    std::vector<Palette> Result;
+    std::ranges::copy_if(From.Palettes, std::back_inserter(Result), [&](const Palette& P) {
+        return ForRealms ? P.IsRoyaume : P.Name == QLatin1String("Commun");
+    });
+    return Result;
+}
+
+Picture PictureOf(const Skin& Look, const ImageFolder& Images, const TableRow& Row,
+                  const Palette& Realm)
+{
+    Picture Result{Row.Place,
+                   ForPalette(QStringList{"Skins", Look.Name, Images.Name, Row.Cells["screen"],
+                                          Row.Cells["file"]}
+                                  .join('/'),
+                              Realm),
+                   "skins/" + Look.Drawings + '/' + Row.Cells["drawing"] + ".svg",
+                   Scaled(Row, Images.Factor), WordsFor(Look, Realm, Row)};
+    RefuseOutsidePath(Row, Result.Output);
+    RefuseOutsidePath(Row, Result.Source);
+    return Result;
+}
+
+// Where the background's drawing says {dessin-embleme}.
+QString EmblemOf(const TableRow& Row)
+{
+    if (Row.Cells["emblem"] == NoneCell)
+        return {};
+    return QStringLiteral("<g transform=\"translate(%1 %2) scale(%3)\">"
+                          "{inclure:skins/emblemes/%4.svg}</g>")
+        .arg(NumberOf(Row, "x"))
+        .arg(NumberOf(Row, "y"))
+        .arg(NumberOf(Row, "side") / EmblemSide)
+        .arg(Row.Cells["emblem"]);
+}
+
+Picture AsBackground(Picture P, const TableRow& Row, const Skin&)
+{
+    P.Colours.Words["dessin-embleme"] = EmblemOf(Row);
+    P.Quality = BackgroundQuality;
+    return P;
+}
+
+Picture AsButton(Picture P, const TableRow& Row, const Skin& Look)
+{
+    P.Size *= ButtonDensity;
+    P.Quality = ButtonQuality;
+    const QString Glyph = Row.Cells["glyph"];
+    P.Written = {Row.Cells["words"], Look.Family,
+                 Glyph == NoneCell ? QString() : "skins/glyphes/" + Glyph + ".svg",
+                 NumberOf(Row, "letters")};
+    return P;
+}
+
+template <typename Kind>
+void Append(std::vector<Picture>& Result, const Sources& From, const Table& Rows, Kind Finished)
+{
+    for (const Skin& Look : From.Skins)
+        for (const ImageFolder& Images : From.Folders)
+            for (const TableRow& Row : Rows.Rows) {
+                if (Look.Common.contains(Row.Cells["screen"]) != (Images.Name == CommonFolder))
+                    continue;
+                for (const Palette& Realm : RealmsOf(From, Row))
+                    Result.push_back(Finished(PictureOf(Look, Images, Row, Realm), Row, Look));
+            }
+}
+
+} // namespace
+
+std::vector<Picture> ReadSkins(const QString& Folder, const std::vector<Palette>& Palettes)
+{
+    const QStringList Shared{"screen", "file", "drawing", "width", "height"};
+    const Sources From{
+        Palettes, SkinsOf(Folder), FoldersOf(Folder),
+        ReadSkinTable(Folder, "backgrounds.tsv", Shared + QStringList{"emblem", "x", "y", "side"}),
+        ReadSkinTable(Folder, "buttons.tsv", Shared + QStringList{"letters", "glyph", "words"})};
+    RefuseUnknownCommon(From);
+    std::vector<Picture> Result;
+    Append(Result, From, From.Backgrounds, AsBackground);
+    Append(Result, From, From.Buttons, AsButton);
+    return Result;
+}
+
+} // namespace orvane::pictures
