@@ -29,7 +29,7 @@ void AjouterLigne(Application& App, const LigneCommande& Ligne)
 {
     if (Ligne.PrixCoûtant.Stale || Ligne.PrixVente.Stale) {
         App.MsgBox(
-            Typeset("Les prix affichés ne sont pas à jour : corrigez d’abord les cases marquées."));
+            Typeset("Les prix affichés ne sont pas à jour : corrigez d’abord les nombres saisis."));
         return;
     }
     Variables& Globals = App.Globals;

@@ -3,6 +3,8 @@
 #include "base/number_text.h"
 #include "base/typography.h"
 #include "shell/queries.h"
+#include "skins/capture.h"
+#include "skins/skin_assets.h"
 
 namespace orvane {
 
@@ -17,6 +19,7 @@ frm_Configuration::frm_Configuration(Application& App)
     pct_Logo.Picture = App.Images.LoadOr(App.Chemin("/Interface/Logo.png"));
     cmd_Validation.OnClick = [this] { cmd_Validation_Click(); };
     cmd_Couleur.OnClick = [this] { cmd_Couleur_Click(); };
+    cmd_Récup.OnClick = [&App] { RécupérerRésolution(App); };
 }
 
 std::array<RéglagesArtisanat, 11> frm_Configuration::Réglages()
@@ -51,6 +54,7 @@ void frm_Configuration::cmd_Validation_Click()
     EnregistrerChoix("DernièreRésolution", cbo_Résolution, "txt_Résolution");
     Globals.BaseDonnées.Empty();
     Hide();
+    App.TellNotices();
 }
 
 void frm_Configuration::cmd_Couleur_Click()
@@ -64,7 +68,7 @@ bool frm_Configuration::ToutEstValable()
     std::string Faute;
     if (cbo_Résolution.FindItem(cbo_Résolution.Text) < 0)
         Faute = "La résolution « " + cbo_Résolution.Text + " » n’existe pas.";
-    if (cbo_Skin.FindItem(cbo_Skin.Text) < 0)
+    if (cbo_Skin.FindItem(cbo_Skin.Text) < 0 || !SkinExiste(App, cbo_Skin.Text))
         Faute = "La skin « " + cbo_Skin.Text + " » n’existe pas.";
     for (const RéglagesArtisanat& Artisanat : Réglages())
         for (TextBox* Case : {Artisanat.Niveau, Artisanat.Marge, Artisanat.Essai})

@@ -23,8 +23,8 @@ void Application::TellNotices()
         Text += (Text.empty() ? "" : "\n\n") + Notice;
     if (!Images.Missing().empty()) {
         Text += std::string(Text.empty() ? "" : "\n\n") +
-                "Des images sont introuvables ou illisibles "
-                "; le programme fonctionne sans elles\u00A0:";
+                Typeset("Des images sont introuvables ou illisibles ; le programme fonctionne "
+                        "sans elles :");
         for (const std::string& File : Images.Missing())
             Text += "\n" + std::filesystem::path(File).filename().string();
     }

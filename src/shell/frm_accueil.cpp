@@ -5,6 +5,8 @@
 #include "settings/frm_configuration.h"
 #include "shell/navigation.h"
 #include "shell/queries.h"
+#include "skins/layout.h"
+#include "skins/skin_assets.h"
 #include "store/catalogue.h"
 
 #include <algorithm>
@@ -18,6 +20,8 @@ frm_Accueil::frm_Accueil(Application& App) : Feuille(App, ScreenName, "Orvane - 
         MontrerÉcu(Each, false);
         Each.Bouclier->OnClick = [this, Royaume = Each.Royaume] { ChoisirRoyaume(Royaume); };
     }
+    txt_Skin.OnChange = [this] { txt_Skin_Change(); };
+    txt_Résolution.OnChange = [this] { txt_Résolution_Change(); };
     cmd_ArtisanatsManuels.OnClick = [this] {
         OuvrirArtisanat("frm_ArtisanatsManuels",
                         {"frm_ArtisanatsManuels", "frm_Archerie", "frm_ArmesLégendaires"});
@@ -42,12 +46,17 @@ void frm_Accueil::Load()
         const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminConfig);
         RestaurerRoyaume();
         auto& Configuration = App.Feuilles.Get<frm_Configuration>();
-        txt_Skin.Text = RestaurerChoix("SkinsListe", "DernièreSkin", Configuration.cbo_Skin);
+        txt_Skin.Text =
+            RestaurerChoix("SkinsListe", "DernièreSkin", Configuration.cbo_Skin,
+                           [this](const std::string& Skin) { return SkinExiste(App, Skin); });
         txt_Résolution.Text =
-            RestaurerChoix("RésolutionsListe", "DernièreRésolution", Configuration.cbo_Résolution);
+            RestaurerChoix("RésolutionsListe", "DernièreRésolution", Configuration.cbo_Résolution,
+                           [](const std::string&) { return true; });
     }
     ChargerConfigRoyaume();
     RemplirCommandes(App);
+    for (const std::string& Royaume : Royaumes())
+        RelierAlchimie(App, Royaume);
 }
 
 void frm_Accueil::ChargerConfigRoyaume()
@@ -100,21 +109,41 @@ void frm_Accueil::RestaurerRoyaume()
 }
 
 std::string frm_Accueil::RestaurerChoix(const std::string& Liste, const std::string& Dernier,
-                                        ComboBox& Box)
+                                        ComboBox& Box,
+                                        const std::function<bool(const std::string&)>& Possible)
 {
     Globals.TexteSQL = "SELECT Nom FROM " + Liste + " ORDER BY Num";
-    const std::string Premier = PremierEnregistrement(Globals).Text("Nom");
-    RemplirListe(Globals, Box, "Nom");
+    std::string Premier; // that is possible
+    for (Recordset& Lignes = PremierEnregistrement(Globals); !Lignes.Eof(); Lignes.MoveNext()) {
+        Box.AddItem(Lignes.Text("Nom"));
+        if (Premier.empty() && Possible(Lignes.Text("Nom")))
+            Premier = Lignes.Text("Nom");
+    }
     Globals.TexteSQL = "SELECT Nom FROM " + Dernier;
     std::string Choix = PremierEnregistrement(Globals).Text("Nom");
     Globals.Enregistrements.Empty();
-    if (Box.FindItem(Choix) < 0) {
-        App.Notice(Typeset("« " + Choix + " » n’existe plus : « " + Premier +
-                           " » est choisi à sa place."));
+    if (Box.FindItem(Choix) < 0 || !Possible(Choix)) {
+        App.Notice(Typeset("« " + Choix + " » n’existe plus : " +
+                           (Premier.empty() ? "rien ne peut le remplacer."
+                                            : "« " + Premier + " » est choisi à sa place.")));
         Choix = Premier;
     }
     Box.Text = Choix;
     return Choix;
+}
+
+void frm_Accueil::txt_Skin_Change()
+{
+    if (txt_Résolution.Text != "")
+        ChargerSkin(App, txt_Skin.Text, txt_Résolution.Text);
+}
+
+void frm_Accueil::txt_Résolution_Change()
+{
+    if (txt_Skin.Text != "")
+        ChargerSkin(App, txt_Skin.Text, txt_Résolution.Text);
+    if (!Globals.CheminBaseSkin.empty()) // no skin at all: the definition's look stays
+        AppliquerRésolutionPartout(App, txt_Résolution.Text);
 }
 
 void frm_Accueil::ChoisirRoyaume(const std::string& Royaume)

@@ -3,6 +3,7 @@
 #include "shell/feuille.h"
 #include "store/store.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -56,11 +57,15 @@ class frm_Accueil : public Feuille
     std::vector<Écu> Écus();
     void MontrerÉcu(const Écu& Which, bool Choisi);
 
+    void txt_Skin_Change();
+    void txt_Résolution_Change();
+
     void RestaurerRoyaume();
 
     // Fills the list from Liste and writes the last choice, the row of Dernier, to its text. A last
-    // choice that is no longer in the list gives way to the first of the list, which is told later.
-    std::string RestaurerChoix(const std::string& Liste, const std::string& Dernier, ComboBox& Box);
+    // choice that isn't Possible any more gives way to the first that is, which is told later.
+    std::string RestaurerChoix(const std::string& Liste, const std::string& Dernier, ComboBox& Box,
+                               const std::function<bool(const std::string&)>& Possible);
 
     void ChoisirRoyaume(const std::string& Royaume);
     void OuvrirArtisanat(const std::string& Feuille, const std::vector<std::string>& AvecIcône);

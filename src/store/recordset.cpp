@@ -160,7 +160,10 @@ std::string Recordset::LookedFor() const
 std::string Recordset::Subject() const
 {
     const std::string Values = LookedFor();
-    return Values.empty() ? Rows.Source : Values + " (" + Rows.Source + ")";
+    if (Values.empty())
+        return Rows.Source;
+    const bool Telling = Values.find_first_not_of("0123456789, ") != std::string::npos;
+    return Telling ? Values : Values + " (" + Rows.Source + ")"; // numbers alone tell nothing
 }
 
 } // namespace orvane

@@ -14,6 +14,7 @@ namespace orvane {
 namespace {
 
 constexpr int Gap = 8;
+constexpr int IconSize = 16;
 constexpr int TitlePicture = 24;
 constexpr double HoverShare = 0.13;
 constexpr double PressedShare = 0.26;
@@ -40,7 +41,6 @@ MenuEntryView::MenuEntryView(const SideMenu::Item& Item, const SideMenu::Colours
     setText(ToQt(Item.Text).replace(u'&', QStringLiteral("&&")));
     setAccessibleName(ToQt(Item.Text));
     setAccessibleDescription(ToQt(Item.Tip));
-    setToolTip(ToQt(Item.Tip));
     setAttribute(Qt::WA_Hover);
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::ClickFocus);
@@ -50,7 +50,6 @@ MenuEntryView::MenuEntryView(const SideMenu::Item& Item, const SideMenu::Colours
 
 void MenuEntryView::paintEvent(QPaintEvent*)
 {
-    constexpr int IconSize = 16;
     QPainter Painter(this);
     if (isDown() || underMouse())
         Painter.fillRect(rect().adjusted(1, 0, -1, 0),
@@ -61,11 +60,24 @@ void MenuEntryView::paintEvent(QPaintEvent*)
         Painter.drawPixmap(
             QPointF(Gap + 2, (height() - Pixels.deviceIndependentSize().height()) / 2), Pixels);
     Painter.setPen(isDown() || underMouse() || hasFocus() ? Mixed(Words, look::Ink, 0.6) : Words);
-    const QRect Box = rect().adjusted(2 * Gap + IconSize + 2, 0, -Gap, 0);
+    const QRect Box = WordsBox();
     Painter.drawText(Box, Qt::AlignLeft | Qt::AlignVCenter,
                      fontMetrics().elidedText(accessibleName(), Qt::ElideRight, Box.width()));
     if (hasFocus())
         look::PaintFocusRing(Painter, QRectF(rect()).adjusted(2, 1, -2, -1), look::FieldRadius);
+}
+
+void MenuEntryView::resizeEvent(QResizeEvent* Event)
+{
+    QAbstractButton::resizeEvent(Event);
+    const bool Fits = fontMetrics().horizontalAdvance(accessibleName()) <= WordsBox().width();
+    const QString Tip = accessibleDescription();
+    setToolTip(Fits ? Tip : Tip.isEmpty() ? accessibleName() : accessibleName() + u'\n' + Tip);
+}
+
+QRect MenuEntryView::WordsBox() const
+{
+    return rect().adjusted(2 * Gap + IconSize + 2, 0, -Gap, 0);
 }
 
 void MenuEntryView::keyPressEvent(QKeyEvent* Event)

@@ -25,10 +25,13 @@ class MenuEntryView : public QAbstractButton
 
   protected:
     void paintEvent(QPaintEvent* Event) override;
+    void resizeEvent(QResizeEvent* Event) override;
     void keyPressEvent(QKeyEvent* Event) override;
     void focusInEvent(QFocusEvent* Event) override;
 
   private:
+    QRect WordsBox() const;
+
     std::string TheKey;
     QColor Ground;
     QColor Words;

@@ -2,9 +2,6 @@
 
 #include "support/petit_dossier.h"
 
-#include <string>
-#include <vector>
-
 namespace orvane {
 
 // A basket with the rows that a test puts into the file, opened from the manual crafts.
@@ -19,55 +16,50 @@ class PanierGarni : public PetitDossier
                                    "Royaume, Acheteur) VALUES (" +
                                        Rangée + ")");
         Lancer();
-        Ouvrir();
-    }
-
-    void Ouvrir()
-    {
-        if (Accueil().IsVisible())
-            OuvrirAtelier();
+        OuvrirAtelier();
         OuvrirPanier();
     }
 
-    void Fermer() { Door().Click(Panier().cmd_Retour); }
-
-    // Back to the home screen, another realm, and the basket again.
-    void ChangerDeRoyaume(Image& Écu)
+    void Rouvrir()
     {
-        Fermer();
-        Door().Click(Atelier().cmd_Retour);
-        Door().Click(Écu);
-        Ouvrir();
+        Door.Click(Panier().cmd_Retour);
+        OuvrirPanier();
     }
 
-    // The rows shown: "Nom Nb PrixCoûtant PrixVente", each divided from the next by |.
+    void ChangerDeRoyaume(Image& Écu)
+    {
+        Door.Click(Panier().cmd_Retour);
+        Door.Click(Atelier().cmd_Retour);
+        Door.Click(Écu);
+        OuvrirAtelier();
+        OuvrirPanier();
+    }
+
+    void AjouterUnBéret()
+    {
+        Door.Click(Panier().cmd_Retour);
+        Choisir("Couture/Tissu/Chapeaux/Béret/brut");
+        Door.Click(Atelier().cmd_AjouterPanier);
+    }
+
+    // The rows shown: "Nom Nb PrixCoûtant PrixVente | ..."
     std::string Montrées()
     {
-        std::vector<std::string> Textes;
-        for (std::size_t i = 0; i < Panier().lst_Objet.Items().size(); ++i)
-            Textes.push_back(Panier().lst_Objet.Items()[i] + " " + Panier().lst_Nb.Items()[i] +
-                             " " + Panier().lst_PrixCoûtant.Items()[i] + " " +
-                             Panier().lst_PrixVente.Items()[i]);
+        std::vector<std::string> Textes = Panier().lst_Objet.Items();
+        for (const ListBox* Each :
+             {&Panier().lst_Nb, &Panier().lst_PrixCoûtant, &Panier().lst_PrixVente})
+            for (std::size_t i = 0; i < Textes.size(); ++i)
+                Textes[i] += " " + Each->Items().at(i);
         EXPECT_EQ(Panier().lst_Num.Items().size(), Textes.size()) << "parallel lists";
         return Jointes(Textes);
     }
 
     std::string Commandes() { return Jointes(Panier().cbo_Commandes.Items()); }
 
-    std::string TotauxDuPanier()
+    std::string Sommes()
     {
         return Jointes(
             {Panier().txt_TotalPanierCoûtant.Text(), Panier().txt_TotalPanierVente.Text()});
-    }
-
-    // "Nom Acheteur" of all rows stored.
-    std::string Stockées()
-    {
-        std::vector<std::string> Textes;
-        for (const std::string& Each :
-             Rangées("Panier.mdb", "SELECT * FROM PanierGlobal", {"Nom", "Acheteur"}))
-            Textes.push_back(Each);
-        return Textes.empty() ? "" : Jointes(Textes);
     }
 };
 

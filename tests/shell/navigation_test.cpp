@@ -2,174 +2,126 @@
 
 namespace orvane {
 
-namespace {
-
 class Navigation : public EnMarche
 {
   protected:
-    PictureControl& Bouton(const std::string& Feuille, const std::string& Nom)
+    void Revenir(const std::string& Feuille, bool ParLeCadre)
     {
-        return dynamic_cast<PictureControl&>(App.Feuilles.Touch(Feuille).Find(Nom));
+        Screen& Quittée = App.Feuilles.Touch(Feuille);
+        if (ParLeCadre)
+            Door.Close(Quittée);
+        else
+            Door.Click(dynamic_cast<Button&>(Quittée.Find("cmd_Retour")));
     }
 
-    std::string Bannière(const std::string& Feuille)
+    // Banner and window icon.
+    std::string Habits(const std::string& Feuille)
     {
-        return Bouton(Feuille, "img_Bannière").Picture().File.filename().string();
-    }
-
-    std::string Icône(const std::string& Feuille)
-    {
-        return App.Feuilles.Touch(Feuille).Icon().File.filename().string();
+        const Screen& Habillée = App.Feuilles.Touch(Feuille);
+        const auto& Bannière = dynamic_cast<Image&>(Habillée.Find("img_Bannière"));
+        return Jointes({Bannière.Picture().File.stem(), Habillée.Icon().File.filename()});
     }
 };
 
-} // namespace
-
 TEST_F(Navigation, FromTheHomeScreenAndBack)
 {
-    struct Aller
-    {
-        Button& Bouton;
-        const char* Feuille;
-        const char* Après;
+    const std::pair<Button*, const char*> Allers[] = {
+        {&Accueil().cmd_ArtisanatsManuels, "frm_ArtisanatsManuels"},
+        {&Accueil().cmd_ArtisanatsMagiques, "frm_ArtisanatsMagiques"},
+        {&Accueil().cmd_ArtisanatsSecondaires, "frm_ArtisanatsSecondaires"},
+        {&Accueil().cmd_News, "frm_News"},
     };
-    const Aller Allers[] = {
-        {Accueil().cmd_ArtisanatsManuels, "frm_ArtisanatsManuels", "frm_ArtisanatsManuels"},
-        {Accueil().cmd_ArtisanatsMagiques, "frm_ArtisanatsMagiques", "frm_ArtisanatsMagiques"},
-        {Accueil().cmd_ArtisanatsSecondaires, "frm_ArtisanatsSecondaires",
-         "frm_ArtisanatsSecondaires"},
-        {Accueil().cmd_News, "frm_News", "frm_News"},
-    };
-    for (const Aller& Each : Allers) {
-        SCOPED_TRACE(Each.Feuille);
-        Door().Click(Each.Bouton);
-        EXPECT_EQ(Visibles(), Each.Après) << "shown, the home screen hidden";
-        Door().Click(Bouton(Each.Feuille, "cmd_Retour"));
-        EXPECT_EQ(Visibles(), "frm_Accueil") << "its way back";
-        Door().Click(Each.Bouton);
-        Door().Close(App.Feuilles.Touch(Each.Feuille));
-        EXPECT_EQ(Visibles(), "frm_Accueil") << "closing by the frame is the way back";
-    }
+    for (const auto& [Bouton, Feuille] : Allers)
+        for (const bool ParLeCadre : {false, true}) {
+            Door.Click(*Bouton);
+            EXPECT_EQ(Visibles(), Feuille) << "shown, the home screen hidden";
+            Revenir(Feuille, ParLeCadre);
+            EXPECT_EQ(Visibles(), "frm_Accueil") << Feuille;
+        }
+    Door.Click(Accueil().cmd_News);
+    App.Feuilles.Touch("frm_Statut").Show();
+    Revenir("frm_Statut", false);
+    EXPECT_EQ(Visibles(), "frm_News") << "what lay under it comes back";
 }
 
 TEST_F(Navigation, BannersAndIconsAreOfTheRealmInForceAtTheClick)
 {
-    Door().Click(Accueil().img_Corvane);
+    Door.Click(Accueil().img_Corvane);
     OuvrirAtelier();
-    EXPECT_EQ(Bannière("frm_ArtisanatsManuels"), "BannièreCorvane.gif");
-    for (const char* Feuille : {"frm_ArtisanatsManuels", "frm_Archerie", "frm_ArmesLégendaires"})
-        EXPECT_EQ(Icône(Feuille), "Corvane.ico") << Feuille;
-    EXPECT_EQ(Icône("frm_ArtisanatsMagiques"), "") << "another button's screen";
-    Door().Click(Atelier().cmd_Retour);
-
-    Door().Click(Accueil().img_Brenmoor);
-    EXPECT_EQ(Icône("frm_ArtisanatsManuels"), "Corvane.ico") << "not before the next click";
-    for (const std::string Quoi : {"Magiques", "Secondaires"}) {
-        Door().Click(Bouton("frm_Accueil", "cmd_Artisanats" + Quoi));
-        EXPECT_EQ(Bannière("frm_Artisanats" + Quoi), "BannièreBrenmoor.gif");
-        EXPECT_EQ(Icône("frm_Artisanats" + Quoi), "Brenmoor.ico");
-        Door().Click(Bouton("frm_Artisanats" + Quoi, "cmd_Retour"));
-    }
-    Door().Click(Accueil().cmd_Configuration);
-    EXPECT_EQ(Bannière("frm_Configuration"), "BannièreBrenmoor.gif");
-    EXPECT_EQ(Icône("frm_Configuration"), "") << "no icon";
+    EXPECT_EQ(Habits("frm_ArtisanatsManuels"), "BannièreCorvane | Corvane.ico");
+    EXPECT_EQ(App.Feuilles.Touch("frm_Archerie").Icon().File.filename(), "Corvane.ico");
+    EXPECT_EQ(App.Feuilles.Touch("frm_ArmesLégendaires").Icon().File.filename(), "Corvane.ico");
+    EXPECT_TRUE(App.Feuilles.Touch("frm_ArtisanatsMagiques").Icon().IsEmpty());
+    Revenir("frm_ArtisanatsManuels", false);
+    Door.Click(Accueil().img_Brenmoor);
+    Door.Click(Accueil().cmd_Configuration);
+    EXPECT_EQ(Habits("frm_Configuration"), "BannièreBrenmoor | ") << "no icon";
+    Door.Click(Accueil().cmd_ArtisanatsMagiques);
+    EXPECT_EQ(Habits("frm_ArtisanatsMagiques"), "BannièreBrenmoor | Brenmoor.ico");
+    Revenir("frm_ArtisanatsMagiques", false);
+    Door.Click(Accueil().cmd_ArtisanatsSecondaires);
+    EXPECT_EQ(Habits("frm_ArtisanatsSecondaires"), "BannièreBrenmoor | Brenmoor.ico");
+    EXPECT_EQ(Habits("frm_ArtisanatsManuels"), "BannièreCorvane | Corvane.ico") << "not yet";
 }
 
-TEST_F(Navigation, TheConfigurationLeavesTheHomeScreenUsable)
+TEST_F(Navigation, TheConfigurationStandsBesideTheOthersAndItsHidingActivatesTheOneBelow)
 {
-    Door().Click(Accueil().cmd_Configuration);
+    Door.Click(Accueil().cmd_Configuration);
     EXPECT_EQ(Visibles(), "frm_Accueil | frm_Configuration");
     OuvrirAtelier();
     EXPECT_EQ(Visibles(), "frm_Configuration | frm_ArtisanatsManuels");
-    Door().Close(Réglages());
-    EXPECT_EQ(Visibles(), "frm_ArtisanatsManuels");
-    Door().Click(Atelier().cmd_Retour);
-    EXPECT_EQ(Visibles(), "frm_Accueil");
-}
-
-TEST_F(Navigation, HidingTheConfigurationOverACraftScreenActivatesThatOne)
-{
-    OuvrirRéglagesEtAtelier();
-    Choisir("Forge", "Épées", "Épées courtes", "Glaive", "terne");
-    Door().Type(Réglages().txt_MargeCouture, "100");
+    Door.ClickItem(Atelier().Bar_Menus, "Forge");
+    Door.Type(Réglages().txt_MargeCouture, "100");
     EXPECT_EQ(Atelier().lbl_Artisanat.Caption(), "Forge") << "nothing is pushed to it";
-    Door().Click(Réglages().cmd_Validation);
+    Door.Click(Réglages().cmd_Validation);
     EXPECT_EQ(Visibles(), "frm_ArtisanatsManuels");
-    EXPECT_EQ(Atelier().lbl_Artisanat.Caption(), "Couture");
-    Choisir("Couture", "Tissu", "Robes", "Robe 0", "brut");
-    EXPECT_EQ(Totaux(), "10 | 10 | 20");
+    EXPECT_EQ(Atelier().lbl_Artisanat.Caption(), "Couture") << "activated";
 }
 
 TEST_F(Navigation, ScreensAboveTheManualCraftsLeaveItBehindThemAndResetItOnReturn)
 {
     struct Aller
     {
+        const char* Chemin;
         const char* Métier;
-        const char* Produit;
-        const char* Détail; // null: the product opens the screen
         const char* Feuille;
     };
     const Aller Allers[] = {
-        {"Empennage", "Munitions", "Flèches", "frm_Archerie"},
-        {"Empennage", "Munitions", "Carreaux", "frm_Archerie"},
-        {"Forge", "Armes légendaires", nullptr, "frm_ArmesLégendaires"},
-        {"Forge", nullptr, nullptr, "frm_Panier"},
+        {"Empennage/Munitions/Flèches", "Empennage", "frm_Archerie"},
+        {"Empennage/Munitions/Carreaux", "Empennage", "frm_Archerie"},
+        {"Forge/Armes légendaires", "Forge", "frm_ArmesLégendaires"},
+        {"Forge", "Forge", "frm_Panier"},
     };
     OuvrirAtelier();
-    for (const Aller& Each : Allers) {
-        SCOPED_TRACE(Each.Feuille);
+    for (const auto& [Chemin, Métier, Feuille] : Allers)
         for (const bool ParLeCadre : {false, true}) {
-            Door().ClickItem(Atelier().Bar_Menus, Each.Métier);
-            if (Each.Produit == nullptr)
+            SCOPED_TRACE(Feuille);
+            Choisir(Chemin);
+            if (Feuille == std::string("frm_Panier"))
                 OuvrirPanier();
-            else
-                Door().Pick(Atelier().cbo_Produit, Each.Produit);
-            if (Each.Détail != nullptr)
-                Door().Pick(Atelier().cbo_ProduitDétaillé, Each.Détail);
-            EXPECT_EQ(Visibles(), std::string("frm_ArtisanatsManuels | ") + Each.Feuille);
-            EXPECT_EQ(Atelier().lbl_Artisanat.Caption(), Each.Métier) << "the trade stays in hand";
+            EXPECT_EQ(Visibles(), std::string("frm_ArtisanatsManuels | ") + Feuille);
+            EXPECT_EQ(Atelier().lbl_Artisanat.Caption(), Métier) << "the trade stays in hand";
             EXPECT_EQ(Atelier().cbo_Objet.ListCount(), 0) << "no list below is filled";
-            if (ParLeCadre)
-                Door().Close(App.Feuilles.Touch(Each.Feuille));
-            else
-                Door().Click(Bouton(Each.Feuille, "cmd_Retour"));
+            Revenir(Feuille, ParLeCadre);
             EXPECT_EQ(Visibles(), "frm_ArtisanatsManuels");
-            EXPECT_EQ(Atelier().lbl_Artisanat.Caption(), "Couture") << "back to the default trade";
+            EXPECT_EQ(Atelier().lbl_Artisanat.Caption(), "Couture");
             EXPECT_EQ(Jointes(Atelier().cbo_Produit.Items()), "Cuir | Tissu");
             EXPECT_EQ(Atelier().cbo_Produit.Text(), "");
             EXPECT_EQ(Atelier().cbo_ProduitDétaillé.ListCount(), 0);
         }
-    }
 }
 
-TEST_F(Navigation, AClickOnAScreenBelowActivatesItFirst)
+TEST_F(Navigation, AScreenIsActivatedByAClickOnlyWhenItIsNotTheActiveOne)
 {
     OuvrirAtelier();
-    ChoisirBéret();
+    Choisir("Couture/Tissu/Chapeaux/Béret");
+    Atelier().Show();
+    Door.Activate(Atelier());
+    EXPECT_EQ(Atelier().cbo_Objet.Text(), "Béret");
     OuvrirPanier();
     Boîtes.ExpectMsgBox("Aucun objet sélectionné.");
-    Door().Click(Atelier().cmd_AjouterPanier);
+    Door.Click(Atelier().cmd_AjouterPanier); // activated first, and so reset
     EXPECT_EQ(Visibles(), "frm_Panier | frm_ArtisanatsManuels");
-    Door().Activate(Panier());
-    EXPECT_EQ(Visibles(), "frm_ArtisanatsManuels | frm_Panier");
-}
-
-TEST_F(Navigation, ShowingOrClickingTheActiveScreenDoesNotActivateItAgain)
-{
-    OuvrirAtelier();
-    ChoisirBéret();
-    Atelier().Show();
-    Door().Activate(Atelier());
-    EXPECT_EQ(Atelier().cbo_Objet.Text(), "Béret");
-}
-
-TEST_F(Navigation, TheStatusScreenGivesWayToWhatLiesUnderIt)
-{
-    Door().Click(Accueil().cmd_News);
-    App.Feuilles.Touch("frm_Statut").Show();
-    EXPECT_EQ(Visibles(), "frm_News | frm_Statut");
-    Door().Click(Bouton("frm_Statut", "cmd_Retour"));
-    EXPECT_EQ(Visibles(), "frm_News");
 }
 
 } // namespace orvane

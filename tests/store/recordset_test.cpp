@@ -59,12 +59,12 @@ TEST_F(RecordsetTest, NullsAndTextsThatAreNoNumbersFailWhereAValueIsNeeded)
 TEST_F(RecordsetTest, AMissingRowIsToldByWhatWasLookedFor)
 {
     const std::array<std::string, 2> Cases[] = {
-        {"Nom = \"Étain\"", "Aucune donnée pour «\u00A0Étain (T)\u00A0»."},
-        {"Nom = \"Étain\" AND Nb = 9", "Aucune donnée pour «\u00A0Étain, 9 (T)\u00A0»."},
+        {"Nom = \"Étain\"", "Aucune donnée pour «\u00A0Étain\u00A0»."},
+        {"Nom = \"Étain\" AND Nb = 9", "Aucune donnée pour «\u00A0Étain, 9\u00A0»."},
         {"Nom IS NULL", "Aucune donnée pour «\u00A0T\u00A0»."},
-        {"Nom = \"\"", "Il faut d’abord faire le choix précédent dans la liste «\u00A0T\u00A0»."},
+        {"Nom = \"\"", "Il faut d’abord faire le choix précédent."},
         {"Nom = \"Fer\" AND Nom = \"\"",
-         "Il faut d’abord faire le choix précédent dans la liste «\u00A0Fer (T)\u00A0»."}};
+         "Il faut d’abord faire le choix précédent, puis reprendre «\u00A0Fer\u00A0»."}};
     for (const auto& [Where, Sentence] : Cases)
         EXPECT_EQ(
             SentenceOf([&] { Base.OpenRecordset("SELECT * FROM T WHERE " + Where).MoveFirst(); }),

@@ -1,6 +1,5 @@
 #include "support/petit_dossier.h"
 
-#include "shell/feuilles.h"
 #include "store/catalogue.h"
 #include "store/maker.h"
 
@@ -175,6 +174,58 @@ void FaireImages(const TempFolder& Dossier)
     Dossier.Write("Objets/Valdren/Icônes/béret.gif", "GIF89a");
 }
 
+// A skin whose pictures only have to be there and whose layouts move nothing. frm_Configuration and
+// frm_Panier are common to the resolutions.
+void FaireSkin(const TempFolder& Dossier, const std::string& Skin)
+{
+    const std::vector<std::string> Images{"Accueil/Fond.jpg",
+                                          "Accueil/BoutonArtisanatsManuels.jpg",
+                                          "Accueil/BoutonArtisanatsMagiques.jpg",
+                                          "Accueil/BoutonArtisanatsSecondaires.jpg",
+                                          "Accueil/BoutonConfiguration.jpg",
+                                          "Accueil/BoutonQuitter.jpg",
+                                          "Accueil/BoutonNews.jpg",
+                                          "Configuration/Fond.jpg",
+                                          "Configuration/BoutonValidation.jpg",
+                                          "Configuration/BoutonCouleur.jpg",
+                                          "Panier/Fond.jpg",
+                                          "Panier/BoutonSupprimerCommande.jpg",
+                                          "Panier/BoutonSupprimerObjet.jpg",
+                                          "Panier/BoutonEnregistrer.jpg",
+                                          "Panier/BoutonRetour.jpg",
+                                          "News/Fond.jpg",
+                                          "News/BoutonRetour.jpg",
+                                          "News/BoutonDétails.jpg"};
+    fs::create_directories(Dossier / "Skins" / Skin);
+    DatabaseMaker Maker(Dossier / "Skins" / Skin / (Skin + ".mdb"), SkinDefinition());
+    for (const std::string& Feuille : NomsFeuilles()) {
+        const bool Commun = Feuille == "frm_Configuration" || Feuille == "frm_Panier";
+        Maker.Insert(SkinDefinition().Tables[0], {"Nom", "Commun"},
+                     {Feuille, std::string(Commun ? "O" : "N")});
+        for (const std::string& Sous : Commun ? std::vector<std::string>{"Commun"}
+                                              : std::vector<std::string>{"1024x768", "800x600"}) {
+            const TableDefinition Table = LayoutTable(Feuille + "_" + Sous);
+            Maker.AddTable(Table);
+            Maker.Insert(Table, {"Num", "NomControl"}, {std::int64_t{1}, Feuille});
+        }
+    }
+    Maker.Finish();
+    for (const std::string Sous : {"Commun", "1024x768", "800x600"}) {
+        const std::string Racine = "Skins/" + Skin + "/" + Sous + "/";
+        for (const std::string& Image : Images)
+            Dossier.Write(Racine + Image, "jpg");
+        for (const std::string Atelier : {"ArtisanatsManuels", "Archerie", "ArtisanatsMagiques",
+                                          "ArtisanatsSecondaires", "ArmesLégendaires"})
+            for (const std::string Image :
+                 {"/Fond.jpg", "/BoutonAjouterPanier.jpg", "/BoutonRetour.jpg"})
+                Dossier.Write(Racine + Atelier + Image, "jpg");
+        for (const std::string& Royaume : Royaumes()) {
+            Dossier.Write(Racine + "Statut/" + Royaume + ".jpg", "jpg");
+            Dossier.Write(Racine + "Statut/BoutonRetour" + Royaume + ".jpg", "jpg");
+        }
+    }
+}
+
 // Made once, copied for each test.
 const fs::path& Modèle()
 {
@@ -186,6 +237,8 @@ const fs::path& Modèle()
         for (int Royaume = 0; Royaume < 3; ++Royaume)
             FaireRoyaume(Dossier.Path(), Royaume);
         FaireImages(Dossier);
+        FaireSkin(Dossier, "Velours");
+        FaireSkin(Dossier, "Ardoise");
         return true;
     }();
     static_cast<void>(Fait);
@@ -194,6 +247,22 @@ const fs::path& Modèle()
 
 } // namespace
 
+std::string Jointes(const std::vector<std::string>& Textes)
+{
+    std::string Résultat;
+    for (std::size_t i = 0; i < Textes.size(); ++i)
+        Résultat += (i == 0 ? "" : " | ") + Textes[i];
+    return Résultat;
+}
+
+void BoîtesDuDossier::MsgBox(const std::string& Text)
+{
+    if (Début.empty())
+        return ScriptedDialogs::MsgBox(Text);
+    EXPECT_TRUE(Text.starts_with(Début)) << "the box's text: " << Text;
+    Début.clear();
+}
+
 PetitDossier::PetitDossier() : App(Dossier.Path(), Boîtes)
 {
     fs::copy(Modèle(), Dossier.Path(), fs::copy_options::recursive);
@@ -201,30 +270,22 @@ PetitDossier::PetitDossier() : App(Dossier.Path(), Boîtes)
     EnregistrerFeuilles(App);
 }
 
-void PetitDossier::Lancer()
-{
-    Démarrer(App);
-}
-
 void PetitDossier::OuvrirRéglagesEtAtelier()
 {
-    Door().Click(Accueil().cmd_Configuration);
+    Door.Click(Accueil().cmd_Configuration);
     OuvrirAtelier();
 }
 
-void PetitDossier::Choisir(const std::string& Métier, const std::string& Produit,
-                           const std::string& Détail, const std::string& Objet,
-                           const std::string& Degré)
+void PetitDossier::Choisir(const std::string& Chemin)
 {
-    Door().ClickItem(Atelier().Bar_Menus, Métier);
-    Door().Pick(Atelier().cbo_Produit, Produit);
-    Door().Pick(Atelier().cbo_ProduitDétaillé, Détail);
-    Door().Pick(Atelier().cbo_Objet, Objet);
-    ASSERT_EQ(Atelier().cbo_Objet.Text(), Objet) << "the walk down the lists";
-    if (Degré.empty())
-        return;
-    Door().Pick(Atelier().cbo_Degré, Degré);
-    ASSERT_EQ(Atelier().cbo_Degré.Text(), Degré) << "the walk down the lists";
+    const auto Noms = Couper(Chemin, '/');
+    Door.ClickItem(Atelier().Bar_Menus, Noms.at(0));
+    ComboBox* const Listes[] = {&Atelier().cbo_Produit, &Atelier().cbo_ProduitDétaillé,
+                                &Atelier().cbo_Objet, &Atelier().cbo_Degré};
+    for (std::size_t i = 1; i < Noms.size(); ++i) {
+        Door.Pick(*Listes[i - 1], Noms[i]);
+        ASSERT_EQ(Listes[i - 1]->Text(), Noms[i]) << "the walk down the lists";
+    }
 }
 
 std::string PetitDossier::Lignes()
@@ -243,8 +304,9 @@ std::string PetitDossier::Totaux()
 
 bool PetitDossier::TotauxPérimés()
 {
-    return Atelier().txt_PrixCoûtant.Stale && Atelier().txt_PrixCoûtantTotal.Stale &&
-           Atelier().txt_PrixVente.Stale;
+    EXPECT_EQ(Atelier().txt_PrixCoûtant.Stale(), Atelier().txt_PrixVente.Stale());
+    EXPECT_EQ(Atelier().txt_PrixCoûtantTotal.Stale(), Atelier().txt_PrixVente.Stale());
+    return Atelier().txt_PrixVente.Stale;
 }
 
 std::string PetitDossier::Visibles()
@@ -257,26 +319,17 @@ std::string PetitDossier::Visibles()
     return Jointes(Noms);
 }
 
-std::string PetitDossier::Cellule(const std::string& Fichier, const std::string& Requête)
+std::string PetitDossier::Lire(const std::string& Fichier, const std::string& Requête,
+                               const std::string& Colonnes)
 {
     Store Bases;
     const Database Base = Bases.Open(Dossier / Fichier);
-    const std::string Colonne = Couper(Requête, ' ').at(1);
-    return Base.OpenRecordset(Requête).TextOrEmpty(Colonne);
-}
-
-std::vector<std::string> PetitDossier::Rangées(const std::string& Fichier,
-                                               const std::string& Requête,
-                                               const std::vector<std::string>& Colonnes)
-{
-    Store Bases;
-    const Database Base = Bases.Open(Dossier / Fichier);
-    std::vector<std::string> Résultat;
+    std::string Résultat;
     for (Recordset Lues = Base.OpenRecordset(Requête); !Lues.Eof(); Lues.MoveNext()) {
         std::vector<std::string> Cellules;
-        for (const std::string& Colonne : Colonnes)
+        for (const std::string& Colonne : Couper(Colonnes, '|'))
             Cellules.push_back(Lues.TextOrEmpty(Colonne));
-        Résultat.push_back(Jointes(Cellules));
+        Résultat += (Résultat.empty() ? "" : " / ") + Jointes(Cellules);
     }
     return Résultat;
 }
@@ -284,6 +337,14 @@ std::vector<std::string> PetitDossier::Rangées(const std::string& Fichier,
 void PetitDossier::Modifier(const std::string& Fichier, const std::string& Sql)
 {
     SQLite::Database((Dossier / Fichier).string(), SQLite::OPEN_READWRITE).exec(Sql);
+}
+
+void PetitDossier::Perdre(const std::string& Fichier)
+{
+    fs::remove(Dossier / Fichier);
+    Boîtes.ExpectMsgBox("La base de données «\u00A0" + Fichier +
+                        "\u00A0» est introuvable.\n"
+                        "Replacez le fichier à côté du programme.");
 }
 
 } // namespace orvane

@@ -4,6 +4,7 @@
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "settings/frm_configuration.h"
 #include "shell/application.h"
+#include "shell/feuilles.h"
 #include "shell/frm_accueil.h"
 #include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
@@ -15,13 +16,7 @@
 namespace orvane {
 
 // "a | b | c"
-inline std::string Jointes(const std::vector<std::string>& Textes)
-{
-    std::string Résultat;
-    for (std::size_t i = 0; i < Textes.size(); ++i)
-        Résultat += (i == 0 ? "" : " | ") + Textes[i];
-    return Résultat;
-}
+std::string Jointes(const std::vector<std::string>& Textes);
 
 // Scripted boxes that can also be expected by the beginning of their text, where the rest is for
 // people who keep the data files.
@@ -31,25 +26,18 @@ class BoîtesDuDossier : public ScriptedDialogs
     ~BoîtesDuDossier() override { EXPECT_EQ(Début, "") << "box that never came up"; }
 
     void ExpectMsgBoxBeginning(std::string Text) { Début = std::move(Text); }
-
-    void MsgBox(const std::string& Text) override
-    {
-        if (Début.empty())
-            return ScriptedDialogs::MsgBox(Text);
-        EXPECT_TRUE(Text.starts_with(Début)) << "the box's text: " << Text;
-        Début.clear();
-    }
+    void MsgBox(const std::string& Text) override;
 
   private:
     std::string Début;
 };
 
 // A program's folder with small databases, whose figures are easy to work out by hand, and a run
-// that starts in it when told to. Degrees: 0, 1, 3, 4, 7, 8, 9.
+// in it. Degrees: 0, 1, 3, 4, 7, 8, 9.
 //
 // The unit price of a material at degree d is base × (d + 1); merchants pay 4 + d for any object.
 //   type 1 "lin" 5 (Corvane "laine" 6, Brenmoor "chanvre" 7), type 2 "fil" 0,5, type 3 "bouton" 0,
-//   type 4 "(aucun)" 0, type 9 "perle" 3, type 5 "rareté": no price at degree 1, no row at 3.
+//   type 4 "(aucun)" 0, type 9 "perle" 3, type 5 "rareté" 1: no price at degree 1, no row at 3.
 // Valdren, level/margin/margin on trials: Armurerie 200/30/5, Couture 100/20/10, Empennage
 // 300/40/15, Forge 400/50/25. Corvane has one more everywhere, Brenmoor two more.
 class PetitDossier : public testing::Test
@@ -57,52 +45,47 @@ class PetitDossier : public testing::Test
   protected:
     PetitDossier();
 
-    void Lancer();
+    void Lancer() { Démarrer(App); }
 
     frm_Accueil& Accueil() { return App.Feuilles.Get<frm_Accueil>(); }
     frm_Configuration& Réglages() { return App.Feuilles.Get<frm_Configuration>(); }
     frm_ArtisanatsManuels& Atelier() { return App.Feuilles.Get<frm_ArtisanatsManuels>(); }
     frm_Panier& Panier() { return App.Feuilles.Get<frm_Panier>(); }
-    User& Door() { return App.Door; }
 
-    void OuvrirAtelier() { Door().Click(Accueil().cmd_ArtisanatsManuels); }
-    void OuvrirPanier() { Door().ClickItem(Atelier().Bar_Menus, "OuvrirPanier"); }
+    void OuvrirAtelier() { Door.Click(Accueil().cmd_ArtisanatsManuels); }
+    void OuvrirPanier() { Door.ClickItem(Atelier().Bar_Menus, "OuvrirPanier"); }
 
-    // Settings open above the craft screen: what is typed there is read when it is left.
+    // From the home screen: the settings stay open under the craft screen.
     void OuvrirRéglagesEtAtelier();
 
-    // A pick in each list in turn, from the menu down; an empty Degré picks none.
-    void Choisir(const std::string& Métier, const std::string& Produit, const std::string& Détail,
-                 const std::string& Objet, const std::string& Degré = {});
+    // A pick in each list in turn, from the menu down: "Couture/Tissu/Robes/Robe 0/brut".
+    void Choisir(const std::string& Chemin);
 
-    // The object that most figures are told of: cost 12,5, resale 4 at "brut"; 25 and 5 at
-    // "simple".
-    void ChoisirBéret(const std::string& Degré = "brut")
+    std::string Lignes();   // the six line prices
+    std::string Totaux();   // cost of one object, cost of the line, sale price
+    bool TotauxPérimés();   // shown as stale, all three or none
+    std::string Visibles(); // the visible screens from the lowest to the highest, the active one
+
+    // Columns, divided by |, of the rows that a query finds in a file: "a | b / c | d".
+    std::string Lire(const std::string& Fichier, const std::string& Requête,
+                     const std::string& Colonnes);
+
+    // All rows of the basket.
+    std::string Stockées(const std::string& Colonnes = "Nom|Acheteur")
     {
-        Choisir("Couture", "Tissu", "Chapeaux", "Béret", Degré);
+        return Lire("Panier.mdb", "SELECT * FROM PanierGlobal", Colonnes);
     }
 
-    // Line prices 25 | 0,005 | 0 (free) | 0 | 15 at "rare", resale 8.
-    void ChoisirChapeau() { Choisir("Couture", "Tissu", "Chapeaux", "Chapeau", "rare"); }
-
-    std::string Lignes();   // the six line prices: "10 | 2,5 | 0 | 0 | 0 | 0"
-    std::string Totaux();   // cost of one object, cost of the line, sale price
-    bool TotauxPérimés();   // all three
-    std::string Visibles(); // the visible screens from the lowest to the highest, the last active
-
-    // The text of one cell of a file, through a store of its own.
-    std::string Cellule(const std::string& Fichier, const std::string& Requête);
-
-    // The rows of a query, columns joined: "a,b".
-    std::vector<std::string> Rangées(const std::string& Fichier, const std::string& Requête,
-                                     const std::vector<std::string>& Colonnes);
-
-    // Plain SQL on a file, as another tool would do it, before the run starts.
+    // Plain SQL on a file, as another tool would do it.
     void Modifier(const std::string& Fichier, const std::string& Sql);
+
+    // Takes a file away, and the box that the next event meets it with is expected.
+    void Perdre(const std::string& Fichier);
 
     TempFolder Dossier;
     BoîtesDuDossier Boîtes;
     Application App;
+    User& Door = App.Door;
     int Quittés = 0; // how often the run has asked to end
 };
 
@@ -114,13 +97,20 @@ class EnMarche : public PetitDossier
 };
 
 // The same, with the manual crafts open.
-class DansLAtelier : public EnMarche
+class DansLAtelier : public PetitDossier
 {
   protected:
     void SetUp() override
     {
         Lancer();
         OuvrirAtelier();
+    }
+
+    // The object that most figures are told of: 10 and 2,5, resale 4 at "brut"; 20, 5 and 5 at
+    // "simple".
+    void ChoisirBéret(const std::string& Degré = "brut")
+    {
+        Choisir("Couture/Tissu/Chapeaux/Béret/" + Degré);
     }
 };
 

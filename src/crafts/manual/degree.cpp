@@ -44,29 +44,37 @@ std::string TexteNiveau(double NiveauObjet, std::int16_t Degré)
 
 void frm_ArtisanatsManuels::cbo_Degré_Click()
 {
-    {
-        const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-        Globals.TexteSQL = "SELECT * FROM Degrés_ListeTypes WHERE " + ColonneDegré + "=" +
-                           Quoted(cbo_Degré.Text());
-        NuméroDegré = PremierEnregistrement(Globals).Whole("NuméroDegré");
-        for (int i = 1; i <= 6; ++i)
-            RésoudreMatériau(txt_MatériauxBruts[i], txt_Matériaux[i], txt_PrixMatUnitaire[i]);
-
-        Globals.TexteSQL =
-            "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text());
-        const Recordset& Objet = PremierEnregistrement(Globals);
-        LireNiveaux(Objet);
-        txt_ObjetSupBis.Text = Objet.TextOrEmpty("NomObjet");
-        txt_NbObjetSup.Text = Objet.Text("NbObjet");
-        LireStatistiques(Objet);
-        txt_PrixRevente.Text = Objet.Text("PrixReventeDegré" + std::to_string(NuméroDegré));
-        Globals.Enregistrements.Empty();
+    try {
+        LireDegré();
+    } catch (...) { // the prices on screen are another degree's
+        for (TextBox* Prix : {&txt_PrixCoûtant, &txt_PrixCoûtantTotal, &txt_PrixVente})
+            Prix->Stale = true;
+        throw;
     }
     ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
     CalculerPrixMatériaux();
     CalculerPrixVente();
     for (int i = 1; i <= 6; ++i)
         ActualiserVerrouPrix(txt_PrixMat[i], txt_Matériaux[i]);
+}
+
+void frm_ArtisanatsManuels::LireDegré()
+{
+    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    Globals.TexteSQL =
+        "SELECT * FROM Degrés_ListeTypes WHERE " + ColonneDegré + "=" + Quoted(cbo_Degré.Text());
+    NuméroDegré = PremierEnregistrement(Globals).Whole("NuméroDegré");
+    for (int i = 1; i <= 6; ++i)
+        RésoudreMatériau(txt_MatériauxBruts[i], txt_Matériaux[i], txt_PrixMatUnitaire[i]);
+
+    Globals.TexteSQL = "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text());
+    const Recordset& Objet = PremierEnregistrement(Globals);
+    LireNiveaux(Objet);
+    txt_ObjetSupBis.Text = Objet.TextOrEmpty("NomObjet");
+    txt_NbObjetSup.Text = Objet.Text("NbObjet");
+    LireStatistiques(Objet);
+    txt_PrixRevente.Text = Objet.Text("PrixReventeDegré" + std::to_string(NuméroDegré));
+    Globals.Enregistrements.Empty();
 }
 
 // Needs the realm database open and NuméroDegré set.

@@ -143,6 +143,7 @@ class frm_ArtisanatsManuels : public Feuille
 
     // Degree
     void cbo_Degré_Click();
+    void LireDegré();
     void RésoudreMatériau(TextBox& Code, TextBox& Nom, TextBox& Prix);
     void LireNiveaux(const Recordset& Objet);
     void LireStatistiques(const Recordset& Objet);
