@@ -3,6 +3,8 @@
 #include "basket/frm_panier.h"
 #include "crafts/archery/frm_archerie.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
+#include "news/frm_news.h"
+#include "news/frm_statut.h"
 #include "settings/frm_configuration.h"
 #include "shell/frm_accueil.h"
 #include "shell/frm_avenir.h"
@@ -24,8 +26,6 @@ constexpr std::array FeuillesÀVenir{
     ÀVenir{"frm_ArmesLégendaires", "Armes Légendaires", Retour::Cacher},
     ÀVenir{"frm_ArtisanatsMagiques", "Artisanats magiques", Retour::CacherPuisAccueil},
     ÀVenir{"frm_ArtisanatsSecondaires", "Artisanats Secondaires", Retour::CacherPuisAccueil},
-    ÀVenir{"frm_News", "Orvane Artisanats - News", Retour::AccueilPuisCacher},
-    ÀVenir{"frm_Statut", "Mise à Jour", Retour::Cacher},
 };
 
 template <class ScreenType>
@@ -39,9 +39,10 @@ void Enregistrer(Application& App)
 
 std::vector<std::string> NomsFeuilles()
 {
-    std::vector<std::string> Noms{frm_Accueil::ScreenName, frm_Configuration::ScreenName,
-                                  frm_ArtisanatsManuels::ScreenName, frm_Archerie::ScreenName,
-                                  frm_Panier::ScreenName};
+    std::vector<std::string> Noms{
+        frm_Accueil::ScreenName,  frm_Configuration::ScreenName, frm_ArtisanatsManuels::ScreenName,
+        frm_Archerie::ScreenName, frm_Panier::ScreenName,        frm_News::ScreenName,
+        frm_Statut::ScreenName};
     for (const ÀVenir& Each : FeuillesÀVenir)
         Noms.emplace_back(Each.Nom);
     return Noms;
@@ -54,6 +55,8 @@ void EnregistrerFeuilles(Application& App)
     Enregistrer<frm_ArtisanatsManuels>(App);
     Enregistrer<frm_Archerie>(App);
     Enregistrer<frm_Panier>(App);
+    Enregistrer<frm_News>(App);
+    Enregistrer<frm_Statut>(App);
     for (const ÀVenir& Each : FeuillesÀVenir)
         App.Feuilles.Register(Each.Nom, [&App, &Each] {
             return std::make_unique<frm_Avenir>(App, Each.Nom, Each.Titre, Each.Comment);

@@ -166,6 +166,7 @@ void FaireImages(const TempFolder& Dossier)
         Dossier.Write("Interface/Ecu" + Royaume + ".gif", "GIF89a");
         Dossier.Write("Interface/Ecu" + Royaume + "Ombre.gif", "GIF89a");
         Dossier.Write("Interface/Bannière" + Royaume + ".gif", "GIF89a");
+        Dossier.Write("Interface/Bouton" + Royaume + ".gif", "GIF89a");
         Dossier.Write("Interface/Icônes/" + Royaume + ".ico", "icon");
     }
     Dossier.Write("Interface/Logo.png", "png");
