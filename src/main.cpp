@@ -7,6 +7,7 @@
 #include "view/style.h"
 
 #include <QApplication>
+#include <QIcon>
 
 #include <cstdlib>
 
@@ -36,9 +37,11 @@ int main(int Count, char** Arguments)
     QApplication::setApplicationName(QString::fromStdString(ProgramTitle));
     QApplication::setStyle(new Style);
     InstallFrench(Toolkit);
+    const QString Folder = QApplication::applicationDirPath();
+    QApplication::setWindowIcon(QIcon(Folder + QStringLiteral("/Interface/Orvane.png")));
 
     QtDialogs Boxes;
-    Application App(QApplication::applicationDirPath().toStdString(), Boxes);
+    Application App(Folder.toStdString(), Boxes);
     Boxes.StandAbove(App.Feuilles);
     Desktop Windows(App.Feuilles, App.Door);
     // Quitting ends the process at once, as nothing is left to save.

@@ -27,13 +27,13 @@ QByteArray Encoded(const Picture& P, const std::vector<QImage>& Images)
     const QString Suffix = QFileInfo(P.Output).suffix();
     const QImage& Image = Images.front();
     if (Suffix == QLatin1String("gif"))
-        return GifBytes(OnParchment(Image));
+        return GifBytes(WithHardEdges(Image));
     if (Suffix == QLatin1String("ico"))
         return IconBytes(Images);
     if (Suffix == QLatin1String("png"))
         return PngBytes(Image);
     if (Suffix == QLatin1String("jpg"))
-        return JpegBytes(OnParchment(Image).convertToFormat(QImage::Format_RGB32), P.Quality);
+        return JpegBytes(Image.convertToFormat(QImage::Format_RGB32), P.Quality);
     throw SourceError(QStringLiteral("%1 : format inconnu « .%2 »").arg(P.Place, Suffix));
 }
 

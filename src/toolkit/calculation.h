@@ -42,4 +42,18 @@ bool Calculate(const std::vector<TextBox*>& Results, Formula Run)
     return Good;
 }
 
+// Runs the part of a pick that reads what the results rest on. When it is given up, the results on
+// screen belong to another choice: they are shown as stale, and the failure goes on its way.
+template <class Reading>
+void ReadOrStale(const std::vector<TextBox*>& Results, Reading Run)
+{
+    try {
+        Run();
+    } catch (...) {
+        for (TextBox* Result : Results)
+            Result->Stale = true;
+        throw;
+    }
+}
+
 } // namespace orvane

@@ -40,6 +40,10 @@ void ComboBoxView::Follow(PropertyId What)
         break;
     case PropertyId::ListIndex:
         break;
+    case PropertyId::FontSize:
+        ControlView::Follow(What);
+        ShowFont();
+        break;
     case PropertyId::ForeColor:
     case PropertyId::BackColor:
         ShowColours();
@@ -154,16 +158,26 @@ void ComboBoxView::ShowText()
     if (lineEdit()->text() == Wanted)
         return;
     lineEdit()->setText(Wanted);
+    ShowFont();
     lineEdit()->setCursorPosition(0); // a long text shows its beginning
     ShowTip();
+}
+
+// A long text takes a smaller font; the list keeps the full one.
+void ComboBoxView::ShowFont()
+{
+    const int Room = width() - look::ArrowWidth - 2 * look::FieldPadding;
+    const QFont Fitting = look::FittingFont(Box.FontSize, lineEdit()->text(), Room);
+    if (Fitting != lineEdit()->font())
+        lineEdit()->setFont(Fitting);
 }
 
 void ComboBoxView::ShowTip()
 {
     const QString Tip = ToQt(Box.Tip);
     const QString Text = lineEdit()->text();
-    const bool Fits =
-        fontMetrics().horizontalAdvance(Text) <= lineEdit()->width() - 2 * look::FieldPadding;
+    const bool Fits = lineEdit()->fontMetrics().horizontalAdvance(Text) <=
+                      lineEdit()->width() - 2 * look::FieldPadding;
     setAccessibleDescription(Tip);
     setToolTip(Fits ? Tip : Tip.isEmpty() ? Text : Text + u'\n' + Tip);
 }
@@ -187,6 +201,7 @@ void ComboBoxView::paintEvent(QPaintEvent*)
 void ComboBoxView::resizeEvent(QResizeEvent* Event)
 {
     QComboBox::resizeEvent(Event);
+    ShowFont();
     ShowTip();
 }
 

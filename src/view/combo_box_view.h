@@ -49,6 +49,7 @@ class ComboBoxView : public QComboBox, public ControlView
     void Offer();
     void Pick(int Entry);
     void ShowText();
+    void ShowFont();
     void ShowTip();
     void ShowColours();
 

@@ -26,7 +26,8 @@ void EntryDelegate::paint(QPainter* Painter, const QStyleOptionViewItem& Option,
     const QString Text = Index.data(Qt::DisplayRole).toString();
     Painter->setFont(Option.font);
     Painter->setPen(Words);
-    Painter->drawText(Box, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+    const auto Side = Index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
+    Painter->drawText(Box, static_cast<int>(Side) | Qt::AlignVCenter | Qt::TextSingleLine,
                       Option.fontMetrics.elidedText(Text, Qt::ElideRight, Box.width()));
 }
 

@@ -34,6 +34,8 @@ int EntryModel::rowCount(const QModelIndex& Parent) const
 
 QVariant EntryModel::data(const QModelIndex& Index, int Role) const
 {
+    if (Role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(ToQt(List.Align));
     if (Role != Qt::DisplayRole || Index.row() < 0 || Index.row() >= rowCount())
         return {};
     const int Entry = EntryAt(Index.row());

@@ -84,9 +84,7 @@ void LabelView::paintEvent(QPaintEvent*)
 {
     QPainter Painter(this);
     Painter.setPen(look::InkOf(TheLabel.ForeColor));
-    int Flags = TheLabel.Align == Alignment::Left    ? Qt::AlignLeft
-                : TheLabel.Align == Alignment::Right ? Qt::AlignRight
-                                                     : Qt::AlignHCenter;
+    int Flags = static_cast<int>(ToQt(TheLabel.Align));
     QString Caption = text();
     if (Wraps()) {
         Flags |= Qt::TextWordWrap |

@@ -28,11 +28,13 @@ const QString& Family()
 const QPixmap& Grain()
 {
     static const QPixmap Tile = [] {
-        QImage Result(128, 128, QImage::Format_ARGB32_Premultiplied);
+        QImage Result(96, 96, QImage::Format_ARGB32_Premultiplied);
         QRandomGenerator Random(7);
-        for (int y = 0; y < Result.height(); ++y)
+        for (int y = 0; y < Result.height(); ++y) {
+            auto* Pixel = reinterpret_cast<QRgb*>(Result.scanLine(y));
             for (int x = 0; x < Result.width(); ++x)
-                Result.setPixel(x, y, qPremultiply(qRgba(90, 60, 20, Random.bounded(9))));
+                Pixel[x] = qPremultiply(qRgba(90, 60, 20, Random.bounded(9)));
+        }
         return QPixmap::fromImage(Result);
     }();
     return Tile;
@@ -69,6 +71,17 @@ QFont Font(double Points, bool Bold)
     QFont Result(Family());
     Result.setPointSizeF(Points > 0 ? Points : DialogPoints);
     Result.setBold(Bold);
+    return Result;
+}
+
+QFont FittingFont(double Points, const QString& Text, int Width)
+{
+    constexpr double Smallest = 0.7;
+    constexpr double Step = 0.06;
+    QFont Result = Font(Points);
+    for (double Share = 1 - Step;
+         Share >= Smallest && QFontMetrics(Result).horizontalAdvance(Text) > Width; Share -= Step)
+        Result = Font(Points * Share);
     return Result;
 }
 

@@ -46,6 +46,10 @@ inline constexpr double DialogPoints = 10;
 QPalette Palette();
 QFont Font(double Points, bool Bold = false);
 
+// The font of that size, or as much smaller as the text needs to fit the width, within what can be
+// read.
+QFont FittingFont(double Points, const QString& Text, int Width);
+
 // The model's colour; its plain black becomes ink.
 QColor InkOf(Colour Given);
 QColor ColourOf(Colour Given);

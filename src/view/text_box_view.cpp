@@ -19,23 +19,6 @@
 
 namespace orvane {
 
-namespace {
-
-Qt::Alignment SideOf(Alignment Given)
-{
-    switch (Given) {
-    case Alignment::Left:
-        return Qt::AlignLeft | Qt::AlignVCenter;
-    case Alignment::Right:
-        return Qt::AlignRight | Qt::AlignVCenter;
-    case Alignment::Centre:
-        break;
-    }
-    return Qt::AlignCenter;
-}
-
-} // namespace
-
 TextBoxView::TextBoxView(TextBox& Model, User& TheUser, QWidget* Parent)
     : QLineEdit(Parent),
       ControlView(Model),
@@ -44,7 +27,7 @@ TextBoxView::TextBoxView(TextBox& Model, User& TheUser, QWidget* Parent)
 {
     setFrame(false);
     setTextMargins(look::FieldPadding - 1, 0, look::FieldPadding - 1, 0);
-    setAlignment(SideOf(Model.Align));
+    setAlignment(ToQt(Model.Align) | Qt::AlignVCenter);
     connect(this, &QLineEdit::textEdited, this, [this](const QString& Text) { Typed(Text); });
 }
 
@@ -58,9 +41,11 @@ void TextBoxView::Follow(PropertyId What)
         setReadOnly(Box.Locked);
         setFocusPolicy(Box.Locked ? Qt::ClickFocus : Qt::StrongFocus);
         break;
+    case PropertyId::FontSize:
+        ShowFont();
+        break;
     case PropertyId::Marked:
     case PropertyId::Stale:
-    case PropertyId::FontSize:
     case PropertyId::ForeColor:
     case PropertyId::BackColor:
         ShowState();
@@ -77,6 +62,7 @@ void TextBoxView::FollowAll()
 {
     ControlView::FollowAll();
     Follow(PropertyId::Locked);
+    ShowState();
     ShowText();
 }
 
@@ -100,16 +86,30 @@ void TextBoxView::ShowText()
     if (text() == Wanted)
         return;
     setText(Wanted);
+    ShowFont();
     if (!hasFocus())
         setCursorPosition(0); // a long text shows its beginning
     ShowTip();
 }
 
+// A long text takes a smaller font, but not while somebody types it.
+void TextBoxView::ShowFont()
+{
+    QFont Font = hasFocus() && !isReadOnly() ? look::Font(Box.FontSize)
+                                             : look::FittingFont(Box.FontSize, text(), Room());
+    Font.setItalic(Box.Stale);
+    if (Font != font())
+        setFont(Font);
+}
+
+int TextBoxView::Room() const
+{
+    return width() - 3 * look::FieldPadding;
+}
+
 void TextBoxView::ShowState()
 {
-    QFont Font = look::Font(Box.FontSize);
-    Font.setItalic(Box.Stale);
-    setFont(Font);
+    ShowFont();
     QPalette Colours = palette();
     Colours.setColor(QPalette::Base,
                      Box.Marked ? look::WrongGround : look::ColourOf(Box.BackColor));
@@ -127,7 +127,7 @@ void TextBoxView::ShowTip()
     else if (Box.Stale)
         Tip = QStringLiteral("Ce chiffre date d’avant une saisie à corriger.");
     setAccessibleDescription(Tip);
-    if (Tip.isEmpty() && fontMetrics().horizontalAdvance(text()) > width() - 4 * look::FieldPadding)
+    if (Tip.isEmpty() && fontMetrics().horizontalAdvance(text()) > Room())
         Tip = text();
     setToolTip(Tip);
 }
@@ -143,6 +143,7 @@ void TextBoxView::paintEvent(QPaintEvent* Event)
 void TextBoxView::resizeEvent(QResizeEvent* Event)
 {
     QLineEdit::resizeEvent(Event);
+    ShowFont();
     ShowTip();
 }
 
@@ -152,6 +153,7 @@ void TextBoxView::focusOutEvent(QFocusEvent* Event)
     if (Event->reason() == Qt::PopupFocusReason || Event->reason() == Qt::ActiveWindowFocusReason)
         return;
     setCursorPosition(0);
+    ShowFont();
 }
 
 void TextBoxView::keyPressEvent(QKeyEvent* Event)

@@ -35,6 +35,8 @@ class TextBoxView : public QLineEdit, public ControlView
     void Typed(const QString& Text);
     void Insert(const QString& Pasted);
     void ShowText();
+    void ShowFont();
+    int Room() const; // for the text
     void ShowState();
     void ShowTip();
 

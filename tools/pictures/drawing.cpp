@@ -183,7 +183,7 @@ QImage Drawings::Render(const Picture& P) const
     const QImage Image = Plain(P);
     if (!P.Written.Words.isEmpty())
         return Written(P, Image);
-    return P.Ombre ? WithShadowAndHalo(Image) : Image;
+    return P.Ombre ? WithShadow(Image) : Image;
 }
 
 } // namespace orvane::pictures

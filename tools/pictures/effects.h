@@ -4,12 +4,11 @@
 
 namespace orvane::pictures {
 
-// The same picture with a golden halo around it and a soft shadow towards the bottom right. The
-// drawing leaves room for them: about a tenth of its width.
-QImage WithShadowAndHalo(const QImage& Image);
+// The same picture with a dark shadow towards the bottom right, for which the drawing leaves room.
+QImage WithShadow(const QImage& Image);
 
-// The picture on the parchment of the windows, for formats with one-bit transparency: smooth edges
-// there, and transparent where nothing is drawn.
-QImage OnParchment(const QImage& Image);
+// The picture for formats with one-bit transparency: each pixel is there or isn't, in its own
+// colour, so that edges stand on light and dark grounds alike.
+QImage WithHardEdges(const QImage& Image);
 
 } // namespace orvane::pictures

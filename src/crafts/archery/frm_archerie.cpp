@@ -24,7 +24,8 @@ frm_Archerie::frm_Archerie(Application& App) : Feuille(App, ScreenName, "Archeri
 void frm_Archerie::Load()
 {
     constexpr int ImageEmpennage = 6;
-    Image1.Picture = App.Feuilles.Get<frm_Configuration>().imglst_CraftGrand.Picture(ImageEmpennage);
+    Image1.Picture =
+        App.Feuilles.Get<frm_Configuration>().imglst_CraftGrand.Picture(ImageEmpennage);
 }
 
 // The last quiver and its prices stay.
@@ -52,7 +53,7 @@ void frm_Archerie::cbo_Type_Click()
 
 void frm_Archerie::cbo_Objet_Click()
 {
-    LireCarquois();
+    ReadOrStale({&txt_PrixCoûtant, &txt_PrixVente}, [&] { LireCarquois(); });
     for (int i = 1; i <= 3; ++i)
         Calculate({&txt_PrixMat[i]}, [&] {
             txt_PrixMat[i].Text = T(M(txt_PrixMatUnitaire[i]) * M(txt_MatériauxQté[i]));
@@ -84,7 +85,7 @@ void frm_Archerie::LireCarquois()
 // calculate.
 void frm_Archerie::CalculerPrixCarquois()
 {
-    if (txt_PrixMat[1].Text == "" && txt_PrixMat[2].Text == "" && txt_PrixMat[3].Text == "")
+    if (txt_PrixCoûtant.Text == "" && txt_PrixMat[1].Text == "")
         return;
     Calculate({&txt_PrixCoûtant, &txt_PrixVente}, [&] {
         const Montant Coût =

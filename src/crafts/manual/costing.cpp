@@ -21,12 +21,16 @@ void frm_ArtisanatsManuels::CalculerPrixMatériaux()
         txt_PrixMat[i].Text = Prix[static_cast<std::size_t>(i - 1)];
 }
 
+std::vector<TextBox*> frm_ArtisanatsManuels::Résultats()
+{
+    return {&txt_PrixCoûtant, &txt_PrixCoûtantTotal, &txt_PrixVente};
+}
+
 // An extra trial costs Perte: the cost of one object as the previous run left it, less what a
 // merchant pays for the object. Behind a wrong input that cost may be another degree's: the first
 // run that finds everything right is followed by one that finds its cost.
 void frm_ArtisanatsManuels::CalculerPrixVente()
 {
-    const std::vector<TextBox*> Résultats{&txt_PrixCoûtant, &txt_PrixCoûtantTotal, &txt_PrixVente};
     const auto Formule = [&] {
         const Montant Perte = M(txt_PrixCoûtant) - M(txt_PrixRevente);
         Montant Coût = M(txt_ObjetSUpPrixCoûtant);
@@ -43,8 +47,8 @@ void frm_ArtisanatsManuels::CalculerPrixVente()
         txt_PrixVente.Text = T(Vente);
     };
     const bool Périmés = txt_PrixCoûtant.Stale;
-    if (Calculate(Résultats, Formule) && Périmés)
-        Calculate(Résultats, Formule);
+    if (Calculate(Résultats(), Formule) && Périmés)
+        Calculate(Résultats(), Formule);
 }
 
 // A row whose line price comes out as 0 is left to the crafter to fill in.

@@ -44,13 +44,7 @@ std::string TexteNiveau(double NiveauObjet, std::int16_t Degré)
 
 void frm_ArtisanatsManuels::cbo_Degré_Click()
 {
-    try {
-        LireDegré();
-    } catch (...) { // the prices on screen are another degree's
-        for (TextBox* Prix : {&txt_PrixCoûtant, &txt_PrixCoûtantTotal, &txt_PrixVente})
-            Prix->Stale = true;
-        throw;
-    }
+    ReadOrStale(Résultats(), [&] { LireDegré(); });
     ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
     CalculerPrixMatériaux();
     CalculerPrixVente();

@@ -78,7 +78,7 @@ void frm_ArtisanatsManuels::cbo_TypeDégats_Click()
         return;
     }
     txt_ObjetSup.Text = txt_ObjetSup.Text() + Degré->Suffixe;
-    LireObjetSup();
+    ReadOrStale(Résultats(), [&] { LireObjetSup(); });
     if (txt_ObjetSup.Text != "")
         ChangerCouleurCraft(App, lbl_ObjetSupNiveauCraft.Caption, NiveauAlchimie,
                             img_ObjetSupNiveau);
@@ -89,6 +89,8 @@ void frm_ArtisanatsManuels::cbo_TypeDégats_Click()
     }
     ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
     CalculerPrixObjetSup();
+    if (txt_PrixVente.Stale) // the same price as before runs nothing by itself
+        CalculerPrixVente();
 }
 
 // One row of the alchemy objects, found by the name just built.

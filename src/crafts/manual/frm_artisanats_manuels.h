@@ -153,6 +153,7 @@ class frm_ArtisanatsManuels : public Feuille
     // Costing
     void CalculerPrixMatériaux();
     void CalculerPrixVente();
+    std::vector<TextBox*> Résultats(); // of CalculerPrixVente
     void ActualiserVerrouPrix(TextBox& Prix, TextBox& Nom);
 
     // Extra object
