@@ -24,11 +24,12 @@ void EntryDelegate::paint(QPainter* Painter, const QStyleOptionViewItem& Option,
     }
     const QRect Box = Option.rect.adjusted(look::RowPadding, 0, -look::RowPadding, 0);
     const QString Text = Index.data(Qt::DisplayRole).toString();
-    Painter->setFont(Option.font);
+    const QFont Font = look::FittingFont(Option.font.pointSizeF(), Text, Box.width());
+    Painter->setFont(Font);
     Painter->setPen(Words);
     const auto Side = Index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
     Painter->drawText(Box, static_cast<int>(Side) | Qt::AlignVCenter | Qt::TextSingleLine,
-                      Option.fontMetrics.elidedText(Text, Qt::ElideRight, Box.width()));
+                      QFontMetrics(Font).elidedText(Text, Qt::ElideRight, Box.width()));
 }
 
 QSize EntryDelegate::sizeHint(const QStyleOptionViewItem& Option, const QModelIndex& Index) const

@@ -78,10 +78,13 @@ QFont FittingFont(double Points, const QString& Text, int Width)
 {
     constexpr double Smallest = 0.7;
     constexpr double Step = 0.06;
+    constexpr int Narrow = 88; // percent
     QFont Result = Font(Points);
-    for (double Share = 1 - Step;
-         Share >= Smallest && QFontMetrics(Result).horizontalAdvance(Text) > Width; Share -= Step)
+    for (double Share = 1;
+         Share >= Smallest && QFontMetrics(Result).horizontalAdvance(Text) > Width; Share -= Step) {
         Result = Font(Points * Share);
+        Result.setStretch(Narrow);
+    }
     return Result;
 }
 

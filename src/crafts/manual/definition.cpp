@@ -110,19 +110,19 @@ void frm_ArtisanatsManuels::DéfinirMatériaux()
     PlaceHeading(lbl21, "Matériaux", {MiddleX + 14, 266, 300, High});
     for (int i = 1; i <= 6; ++i) {
         const int Y = 292 + (i - 1) * 29;
-        Place(txt_Matériaux[i], {MiddleX + 14, Y, 256, High});
+        Place(txt_Matériaux[i], {MiddleX + 14, Y, 268, High});
         txt_Matériaux[i].Align = Alignment::Left;
-        PlaceLabel(lbl_MatX[i], "x", {MiddleX + 272, Y, 14, High}, Alignment::Centre);
-        Place(txt_MatériauxQté[i], {MiddleX + 288, Y, 44, High});
-        PlaceLabel(lbl_Mat[i], "=", {MiddleX + 334, Y, 14, High}, Alignment::Centre);
-        Place(txt_PrixMat[i], {MiddleX + 350, Y, 116, High});
+        PlaceLabel(lbl_MatX[i], "x", {MiddleX + 283, Y, 12, High}, Alignment::Centre);
+        Place(txt_MatériauxQté[i], {MiddleX + 296, Y, 42, High});
+        PlaceLabel(lbl_Mat[i], "=", {MiddleX + 339, Y, 12, High}, Alignment::Centre);
+        Place(txt_PrixMat[i], {MiddleX + 352, Y, 114, High});
         txt_MatériauxQté[i].StartWith("0");
         txt_PrixMat[i].StartWith("0");
         txt_PrixMat[i].Accepts = NumberKind::Montant;
     }
-    PlaceRow(lbl23, "Prix coûtant :", txt_PrixCoûtant, {MiddleX + 150, 474, 200, 0}, 116);
-    PlaceRow(lbl22, "Prix de revente à un PNJ :", txt_PrixRevente, {MiddleX + 150, 504, 200, 0},
-             116);
+    PlaceRow(lbl23, "Prix coûtant :", txt_PrixCoûtant, {MiddleX + 150, 474, 202, 0}, 114);
+    PlaceRow(lbl22, "Prix de revente à un PNJ :", txt_PrixRevente, {MiddleX + 150, 504, 202, 0},
+             114);
     for (Label* Total : {&lbl23, &lbl22}) {
         Total->Align = Alignment::Right;
         Total->Width = Total->Width - 8 * TwipsPerPixel;
