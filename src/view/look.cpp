@@ -1,6 +1,5 @@
 #include "view/look.h"
 
-#include <QFontDatabase>
 #include <QImage>
 #include <QLinearGradient>
 #include <QPainter>
@@ -12,16 +11,11 @@ namespace orvane::look {
 
 namespace {
 
-// The first that is on the machine; widths of the screens are made for the last.
+// Widths of the screens are made for it, and every machine has it.
 const QString& Family()
 {
-    static const QString Chosen = [] {
-        for (const char* Each : {"Noto Sans", "Open Sans"})
-            if (QFontDatabase::hasFamily(QLatin1String(Each)))
-                return QString(QLatin1String(Each));
-        return QStringLiteral("DejaVu Sans");
-    }();
-    return Chosen;
+    static const QString Name = QStringLiteral("DejaVu Sans");
+    return Name;
 }
 
 // A faint grain, the same at each run.

@@ -63,16 +63,20 @@ std::vector<Picture> PicturesOf(const TableRow& Row, const std::vector<Palette>&
         RefuseOutsidePath(Row, P.Output);
         RefuseOutsidePath(Row, P.Source);
         Result.push_back(P);
-        if (!V.Double)
-            continue;
-        P.Output.insert(P.Output.lastIndexOf('.'), QLatin1String("@2x"));
-        P.Size *= 2;
-        Result.push_back(P);
+        if (V.Double)
+            Result.push_back(AtTwice(P));
     }
     return Result;
 }
 
 } // namespace
+
+Picture AtTwice(Picture P)
+{
+    P.Output.insert(P.Output.lastIndexOf('.'), QLatin1String("@2x"));
+    P.Size *= 2;
+    return P;
+}
 
 int SideOf(const TableRow& Row, const QString& Column)
 {

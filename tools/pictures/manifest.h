@@ -40,6 +40,9 @@ struct Picture
 };
 
 QString ForPalette(QString Text, const Palette& Colours);
+// The same picture at double size, for dense screens: "name@2x.ext".
+Picture AtTwice(Picture P);
+
 int SideOf(const TableRow& Row, const QString& Column);
 void RefuseOutsidePath(const TableRow& Row, const QString& Path);
 void RefuseTwice(const std::vector<Picture>& Pictures);

@@ -16,7 +16,6 @@ const QString NoneCell = QStringLiteral("-");
 
 constexpr int BackgroundQuality = 88;
 constexpr int ButtonQuality = 92;
-constexpr int ButtonDensity = 2; // pixels for one of the window's
 constexpr double EmblemSide = 100;
 
 struct Skin
@@ -168,13 +167,22 @@ Picture AsBackground(Picture P, const TableRow& Row, const Skin&)
 
 Picture AsButton(Picture P, const TableRow& Row, const Skin& Look)
 {
-    P.Size *= ButtonDensity;
     P.Quality = ButtonQuality;
     const QString Glyph = Row.Cells["glyph"];
     P.Written = {Row.Cells["words"], Look.Family,
                  Glyph == NoneCell ? QString() : "skins/glyphes/" + Glyph + ".svg",
                  NumberOf(Row, "letters")};
     return P;
+}
+
+std::vector<Picture> BothDensities(const std::vector<Picture>& Pictures)
+{
+    std::vector<Picture> Result;
+    for (const Picture& Each : Pictures) {
+        Result.push_back(Each);
+        Result.push_back(AtTwice(Each));
+    }
+    return Result;
 }
 
 template <typename Kind>
@@ -202,7 +210,10 @@ std::vector<Picture> ReadSkins(const QString& Folder, const std::vector<Palette>
     RefuseUnknownCommon(From);
     std::vector<Picture> Result;
     Append(Result, From, From.Backgrounds, AsBackground);
-    Append(Result, From, From.Buttons, AsButton);
+    std::vector<Picture> Buttons;
+    Append(Buttons, From, From.Buttons, AsButton);
+    Buttons = BothDensities(Buttons);
+    Result.insert(Result.end(), Buttons.begin(), Buttons.end());
     return Result;
 }
 
