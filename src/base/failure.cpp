@@ -32,7 +32,8 @@ constexpr std::array Phrases{
            " »."},
     Phrase{FailureKind::Store, "La base de données « ", " » a refusé l’opération."},
     Phrase{FailureKind::NoRow, "Aucune donnée pour « ", " »."},
-    Phrase{FailureKind::ChoiceMissing, "Il faut d’abord faire le choix précédent, puis reprendre « ", " »."},
+    Phrase{FailureKind::ChoiceMissing,
+           "Il faut d’abord faire le choix précédent, puis reprendre « ", " »."},
     Phrase{FailureKind::NullValue, "Aucune donnée pour « ", " »."},
     Phrase{FailureKind::RefusedNumber, "« ", " » n’est pas un nombre : rien n’a été enregistré."},
     Phrase{FailureKind::WrongText, "« ", " » n’est pas un nombre."},
@@ -55,9 +56,11 @@ std::string Failure::Sentence() const
 {
     if (TheKind == FailureKind::ChoiceMissing && TheSubject.empty())
         return "Il faut d’abord faire le choix précédent.";
+    const bool Ours = TheKind == FailureKind::DatabaseIncomplete; // "file : name", not data
     for (const Phrase& Candidate : Phrases)
         if (Candidate.Kind == TheKind)
-            return Typeset(Candidate.Before) + TheSubject + Typeset(Candidate.After);
+            return Typeset(Candidate.Before) + (Ours ? Typeset(TheSubject) : TheSubject) +
+                   Typeset(Candidate.After);
     return TheSubject;
 }
 

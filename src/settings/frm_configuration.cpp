@@ -48,6 +48,7 @@ void frm_Configuration::cmd_Validation_Click()
 {
     if (!ToutEstValable())
         return;
+    App.Images.TakeMissing(); // what objects lacked until now is no news of the look
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminConfig);
     EnregistrerRéglages();
     EnregistrerChoix("DernièreSkin", cbo_Skin, "txt_Skin");
@@ -66,9 +67,12 @@ void frm_Configuration::cmd_Couleur_Click()
 bool frm_Configuration::ToutEstValable()
 {
     std::string Faute;
-    if (cbo_Résolution.FindItem(cbo_Résolution.Text) < 0)
+    // What is in force stays possible, also when its files are gone.
+    const bool MêmeRésolution = cbo_Résolution.Text() == EnVigueur("txt_Résolution").Text();
+    if (!MêmeRésolution && cbo_Résolution.FindItem(cbo_Résolution.Text) < 0)
         Faute = "La résolution « " + cbo_Résolution.Text + " » n’existe pas.";
-    if (cbo_Skin.FindItem(cbo_Skin.Text) < 0 || !SkinExiste(App, cbo_Skin.Text))
+    const bool MêmeSkin = cbo_Skin.Text() == EnVigueur("txt_Skin").Text();
+    if (!MêmeSkin && (cbo_Skin.FindItem(cbo_Skin.Text) < 0 || !SkinExiste(App, cbo_Skin.Text)))
         Faute = "La skin « " + cbo_Skin.Text + " » n’existe pas.";
     for (const RéglagesArtisanat& Artisanat : Réglages())
         for (TextBox* Case : {Artisanat.Niveau, Artisanat.Marge, Artisanat.Essai})
@@ -102,16 +106,23 @@ void frm_Configuration::EnregistrerRéglages()
     Globals.Enregistrements.Empty();
 }
 
+TextBox& frm_Configuration::EnVigueur(const char* Case)
+{
+    return static_cast<TextBox&>(App.Feuilles.Touch("frm_Accueil").Find(Case));
+}
+
 void frm_Configuration::EnregistrerChoix(const std::string& Table, ComboBox& Liste,
                                          const char* Case)
 {
+    if (Liste.Text().empty()) // no skin was found at all: the stored name may come back
+        return;
     Globals.TexteSQL = "SELECT Nom FROM " + Table;
     Recordset& Ligne = PremierEnregistrement(Globals);
     Ligne.Edit();
     Ligne.Set("Nom", Liste.Text());
     Ligne.Update();
     Globals.Enregistrements.Empty();
-    auto& Courant = static_cast<TextBox&>(App.Feuilles.Touch("frm_Accueil").Find(Case));
+    TextBox& Courant = EnVigueur(Case);
     if (Courant.Text != Liste.Text())
         Courant.Text = Liste.Text();
 }

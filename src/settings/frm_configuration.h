@@ -110,6 +110,9 @@ class frm_Configuration : public Feuille
     bool ToutEstValable();
     void EnregistrerRéglages();
 
+    // The home screen's hidden box that holds the skin or the resolution in force.
+    TextBox& EnVigueur(const char* Case);
+
     // Stores the list's text as the one row of Table, and hands it to the home screen's hidden box.
     void EnregistrerChoix(const std::string& Table, ComboBox& Liste, const char* Case);
 

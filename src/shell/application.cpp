@@ -2,6 +2,8 @@
 
 #include "base/typography.h"
 
+#include <algorithm>
+
 namespace orvane {
 
 Application::Application(std::filesystem::path Folder, Dialogs& TheDialogs)
@@ -16,18 +18,24 @@ std::string Application::Chemin(const std::string& Relative) const
     return Folder.string() + Relative;
 }
 
+void Application::Notice(const std::string& Text)
+{
+    if (std::ranges::find(Notices, Text) == Notices.end())
+        Notices.push_back(Text);
+}
+
 void Application::TellNotices()
 {
+    std::string Pictures;
+    for (const std::string& File : Images.TakeMissing())
+        Pictures += "\n" + std::filesystem::path(File).lexically_relative(Folder).string();
+    if (!Pictures.empty())
+        Notice(Typeset("Des images sont introuvables ou illisibles ; le programme fonctionne sans "
+                       "elles :") +
+               Pictures);
     std::string Text;
-    for (const std::string& Notice : Notices)
-        Text += (Text.empty() ? "" : "\n\n") + Notice;
-    if (!Images.Missing().empty()) {
-        Text += std::string(Text.empty() ? "" : "\n\n") +
-                Typeset("Des images sont introuvables ou illisibles ; le programme fonctionne "
-                        "sans elles :");
-        for (const std::string& File : Images.Missing())
-            Text += "\n" + std::filesystem::path(File).filename().string();
-    }
+    for (const std::string& Each : Notices)
+        Text += (Text.empty() ? "" : "\n\n") + Each;
     Notices.clear();
     if (!Text.empty())
         MsgBox(Text);

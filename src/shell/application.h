@@ -28,7 +28,7 @@ class Application
     void MsgBox(const std::string& Text) { TheDialogs.MsgBox(Text); }
 
     // Something to be told once, after start-up, together with whatever else there is.
-    void Notice(std::string Text) { Notices.push_back(std::move(Text)); }
+    void Notice(const std::string& Text);
 
     // Tells the notices and the pictures that were missing, in one box if there is anything.
     void TellNotices();

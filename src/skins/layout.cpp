@@ -94,13 +94,15 @@ void AppliquerRésolution(Application& App, std::int16_t IndexFeuille, const std
 
 void AppliquerRésolutionPartout(Application& App, const std::string& Résolution)
 {
+    std::vector<std::string> Inconnues;
     const std::int16_t Dernière = Entier16(App.Feuilles.Count() - 1);
     for (std::int16_t IndexFeuille = 0; IndexFeuille <= Dernière; ++IndexFeuille)
         try {
             AppliquerRésolution(App, IndexFeuille, Résolution);
-        } catch (const Failure& Impossible) {
-            App.Notice(Impossible.Sentence());
+        } catch (const Failure&) {
+            Inconnues.push_back(App.Feuilles[IndexFeuille].Name());
         }
+    AnnoncerÉcransInconnus(App, Inconnues);
 }
 
 } // namespace orvane

@@ -2,10 +2,10 @@
 
 #include "base/failure.h"
 #include "base/text.h"
+#include "base/typography.h"
 #include "shell/queries.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <vector>
 
 namespace orvane {
@@ -102,11 +102,26 @@ void Habiller(Application& App, const ImagesFeuille& Fichiers)
 
 } // namespace
 
-bool SkinExiste(const Application& App, const std::string& Skin)
+bool SkinExiste(Application& App, const std::string& Skin)
 {
-    std::error_code Error;
-    return !Skin.empty() &&
-           std::filesystem::exists(App.Chemin("/Skins/" + Skin + "/" + Skin + ".mdb"), Error);
+    try {
+        const Database Base = App.Bases.Open(App.Chemin("/Skins/" + Skin + "/" + Skin + ".mdb"));
+        return true;
+    } catch (const Failure&) {
+        return false;
+    }
+}
+
+void AnnoncerÉcransInconnus(Application& App, const std::vector<std::string>& Feuilles)
+{
+    std::string Noms;
+    for (const std::string& Feuille : Feuilles)
+        Noms += (Noms.empty() ? "" : ", ") + Feuille;
+    if (!Noms.empty())
+        App.Notice(
+            Typeset("La skin ne connaît pas ces écrans à cette résolution ; ils gardent leur "
+                    "aspect : " +
+                    Noms + "."));
 }
 
 std::string SansEspaces(std::string Résolution)
@@ -121,18 +136,20 @@ void ChargerSkin(Application& App, const std::string& Skin, const std::string& R
     Globals.CheminSkin = App.Chemin("/Skins/" + Skin + "/");
     Globals.CheminBaseSkin = Globals.CheminSkin + "/" + Skin + ".mdb";
     const Ouverture Base(App, Globals.BaseDonnées2, Globals.CheminBaseSkin);
+    std::vector<std::string> Inconnues;
     for (const ImagesFeuille& Each : Images()) {
         try {
             ChoisirDossierImages(App, Each.Feuille, Résolution);
-        } catch (const Failure& Inconnue) {
+        } catch (const Failure&) {
             App.Feuilles.Touch(Each.Feuille);
-            App.Notice(Inconnue.Sentence());
+            Inconnues.emplace_back(Each.Feuille);
             continue;
         }
         Habiller(App, Each);
         if (std::string_view(Each.Feuille) == "frm_Statut")
             Globals.CheminStatut = Globals.CheminImages + "Statut/";
     }
+    AnnoncerÉcransInconnus(App, Inconnues);
 }
 
 void ChoisirDossierImages(Application& App, const std::string& Feuille,

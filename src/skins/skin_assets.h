@@ -3,12 +3,17 @@
 #include "shell/application.h"
 
 #include <string>
+#include <vector>
 
 // Where a skin's files lie, and the pictures that dress the ten screens.
 namespace orvane {
 
-// Whether the skin's layout database is there.
-bool SkinExiste(const Application& App, const std::string& Skin);
+// Whether the skin's layout database is there and can be opened.
+bool SkinExiste(Application& App, const std::string& Skin);
+
+// Tells later, in one notice, which screens the skin doesn't know at this resolution; nothing when
+// there are none.
+void AnnoncerÉcransInconnus(Application& App, const std::vector<std::string>& Feuilles);
 
 // The resolution's name as it stands in names of folders and tables: without its spaces.
 std::string SansEspaces(std::string Résolution);

@@ -65,4 +65,14 @@ Picture PictureFiles::LoadOr(const fs::path& File, const Picture& Otherwise)
     }
 }
 
+std::vector<std::string> PictureFiles::TakeMissing()
+{
+    std::vector<std::string> News;
+    for (const std::string& File : MissingFiles)
+        if (ToldFiles.insert(File).second)
+            News.push_back(File);
+    MissingFiles.clear();
+    return News;
+}
+
 } // namespace orvane

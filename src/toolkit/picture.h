@@ -44,10 +44,12 @@ class PictureFiles
     // The same, but a picture that is missing gives Otherwise and is remembered.
     Picture LoadOr(const std::filesystem::path& File, const Picture& Otherwise = {});
 
-    const std::set<std::string>& Missing() const { return MissingFiles; }
+    // The files that were missing since the last call; each is given once.
+    std::vector<std::string> TakeMissing();
 
   private:
     std::set<std::string> MissingFiles;
+    std::set<std::string> ToldFiles;
 };
 
 } // namespace orvane

@@ -37,8 +37,10 @@ TEST_F(PictureTest, WhatIsMissingGivesThePlaceholderAndIsRememberedOnce)
     EXPECT_TRUE(Files.LoadOr(Folder / "absent.png").IsEmpty());
     EXPECT_TRUE(Files.LoadOr(Folder / "lien.png").IsEmpty());
     EXPECT_EQ(Files.LoadOr(Folder / "images/épée.png", {}).File, Epee);
-    EXPECT_EQ(Files.Missing(), (std::set<std::string>{(Folder / "absent.png").string(),
-                                                      (Folder / "lien.png").string()}));
+    EXPECT_EQ(Files.TakeMissing(), (std::vector<std::string>{(Folder / "absent.png").string(),
+                                                             (Folder / "lien.png").string()}));
+    Files.LoadOr(Folder / "absent.png");
+    EXPECT_TRUE(Files.TakeMissing().empty()) << "told once";
 }
 
 TEST_F(PictureTest, AnImageListCountsFromOne)
