@@ -68,7 +68,7 @@ TEST_F(Démarrage, MissingPicturesAreToldOnceTogether)
     fs::remove(Dossier / "Interface/Logo.png");
     fs::remove(Dossier / "Interface/EcuCorvane.gif");
     Boîtes.ExpectMsgBox("Des images sont introuvables ou illisibles\u00A0; le programme fonctionne "
-                        "sans elles\u00A0:\nEcuCorvane.gif\nLogo.png");
+                        "sans elles\u00A0:\nInterface/EcuCorvane.gif\nInterface/Logo.png");
     Lancer();
     Door.Click(Accueil().img_Corvane);
     Door.Click(Accueil().img_Valdren);
