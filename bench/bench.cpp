@@ -35,7 +35,8 @@ class SilentDialogs : public Dialogs
 struct Walk
 {
     Walk(const fs::path& Folder, const std::string& RawFile)
-        : App(Folder, Boxes), Raw((Folder / RawFile).string())
+        : App(Folder, Boxes),
+          Raw((Folder / RawFile).string())
     {
         EnregistrerFeuilles(App);
         Démarrer(App);
