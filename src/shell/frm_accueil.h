@@ -21,6 +21,7 @@ class frm_Accueil : public Feuille
 
     // Closing by the frame is quitting.
     void WayBack() override { cmd_Quitter_Click(); }
+    bool LeadsBack() const override { return false; }
 
     // Copies the rows of ConfigRoyaume for the current realm into the boxes of frm_Configuration.
     void ChargerConfigRoyaume();

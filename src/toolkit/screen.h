@@ -65,6 +65,9 @@ class Screen : private PropertyOwner
     // What closing the window by its frame does.
     virtual void WayBack() { Hide(); }
 
+    // Whether that leads to another screen: what ends the run is no matter for the Escape key.
+    virtual bool LeadsBack() const { return true; }
+
     void Observe(ScreenObserver* NewObserver) { Observer = NewObserver; }
 
   protected:

@@ -169,7 +169,8 @@ void ScreenWindow::keyPressEvent(QKeyEvent* Event)
 {
     if (Event->key() != Qt::Key_Escape)
         QWidget::keyPressEvent(Event);
-    else if (!Event->isAutoRepeat()) // holding the key down leaves one screen only
+    else if (TheScreen.LeadsBack() &&
+             !Event->isAutoRepeat()) // holding the key down leaves one screen only
         Close();
 }
 

@@ -101,6 +101,12 @@ TEST_F(WindowOfScreen, EscapeIsTheWayBackFromAnyControl)
         EXPECT_EQ(Atelier().WaysBack, Before + 1) << From->Name();
         EXPECT_FALSE(Window().isVisible());
     }
+    Show();
+    Atelier().GoesBack = false; // as on the home screen, whose way back ends the run
+    const int Before = Atelier().WaysBack;
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(Atelier().WaysBack, Before);
+    EXPECT_TRUE(Window().isVisible());
 }
 
 TEST_F(WindowOfScreen, ClosingByTheFrameAsksTheModel)

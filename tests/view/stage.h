@@ -42,6 +42,9 @@ class frm_Atelier : public Screen
         Place(img_Blason, {490, 300, 100, 100});
     }
 
+    bool LeadsBack() const override { return GoesBack; }
+    bool GoesBack = true;
+
     void WayBack() override
     {
         ++WaysBack;
