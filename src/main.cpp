@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QTimer>
 
 #include <cstdlib>
 
@@ -38,7 +39,6 @@ int main(int Count, char** Arguments)
     QApplication::setStyle(new Style);
     InstallFrench(Toolkit);
     const QString Folder = QApplication::applicationDirPath();
-    QApplication::setWindowIcon(QIcon(Folder + QStringLiteral("/Interface/Orvane.png")));
 
     QtDialogs Boxes;
     Application App(Folder.toStdString(), Boxes);
@@ -47,5 +47,10 @@ int main(int Count, char** Arguments)
     // Quitting ends the process at once, as nothing is left to save.
     App.OnQuit = [] { std::_Exit(EXIT_SUCCESS); };
     EnregistrerFeuilles(App);
-    return Started(App, Boxes) ? QApplication::exec() : EXIT_FAILURE;
+    if (!Started(App, Boxes))
+        return EXIT_FAILURE;
+    QTimer::singleShot(0, &Toolkit, [&] { // the first picture doesn't wait for it
+        QApplication::setWindowIcon(QIcon(Folder + QStringLiteral("/Interface/Orvane.png")));
+    });
+    return QApplication::exec();
 }

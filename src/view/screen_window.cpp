@@ -51,17 +51,31 @@ void ScreenWindow::Build()
 {
     for (const bool Panels : {true, false}) // panels first, below everything else
         for (Control* Each : TheScreen.Controls())
-            if (IsPanel(*Each) == Panels)
-                Views[Each] = MakeView(*Each, TheUser, this);
+            if (IsPanel(*Each) == Panels && Each->Visible)
+                AddView(*Each);
     Arrange();
+}
+
+// A control that has never been visible has no widget: most holders of a screen never will.
+void ScreenWindow::AddView(Control& Which)
+{
+    ControlView* View = MakeView(Which, TheUser, this);
+    Views[&Which] = View;
 }
 
 void ScreenWindow::ControlChanged(Control& Which, PropertyId What)
 {
     const auto Known = Views.find(&Which);
-    if (Known == Views.end())
+    if (Known != Views.end())
+        Known->second->Follow(What);
+    else if (Which.Visible) {
+        AddView(Which);
+        QWidget& Late = Views.at(&Which)->Widget();
+        if (IsPanel(Which))
+            Late.lower(); // below what stands on it, however late it comes
+        Late.show();
+    } else
         return;
-    Known->second->Follow(What);
     switch (What) {
     case PropertyId::Left:
     case PropertyId::Top:
@@ -116,14 +130,19 @@ void ScreenWindow::Arrange()
 {
     ArrangementIsOld = false;
     QWidget* Last = nullptr;
-    for (const Control* Each : ReadingOrder(TheScreen))
-        for (QWidget* Stop : Views.at(Each)->TabStops()) {
+    for (const Control* Each : ReadingOrder(TheScreen)) {
+        const auto Known = Views.find(Each);
+        if (Known == Views.end())
+            continue;
+        for (QWidget* Stop : Known->second->TabStops()) {
             if (Last != nullptr)
                 setTabOrder(Last, Stop);
             Last = Stop;
         }
+    }
     for (const auto& [Input, Name] : NamesBeside(TheScreen))
-        Views.at(Input)->TakeName(ToQt(Name));
+        if (const auto Known = Views.find(Input); Known != Views.end())
+            Known->second->TakeName(ToQt(Name));
 }
 
 const QPixmap& ScreenWindow::Background()

@@ -37,6 +37,7 @@ class ScreenWindow : public QWidget, public ScreenObserver
 
   private:
     void Build();
+    void AddView(Control& Which);
     void ArrangeLater();
     void Arrange(); // the order of Tab, and the names of the inputs
     void ShowSize();
@@ -49,7 +50,7 @@ class ScreenWindow : public QWidget, public ScreenObserver
     QColor ThePanelGround;
     qint64 PanelGroundOf = -1; // the background that it was found for
     bool ArrangementIsOld = false;
-    std::unordered_map<const Control*, ControlView*> Views;
+    std::unordered_map<const Control*, ControlView*> Views; // of what has been visible
 };
 
 } // namespace orvane

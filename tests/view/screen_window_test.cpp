@@ -53,12 +53,19 @@ TEST_F(WindowOfScreen, HiddenControlsAreHiddenAndPassedOver)
 {
     Atelier().txt_Nom.Visible = false;
     Show();
-    EXPECT_FALSE(The<QWidget>(Atelier().txt_Nom).isVisible());
+    EXPECT_EQ(Window().findChild<QWidget*>("txt_Nom"), nullptr) << "made when it is first seen";
     EXPECT_FALSE(TabOrder().contains("txt_Nom"));
     Atelier().txt_Nom.Visible = true;
     QCoreApplication::processEvents();
     EXPECT_TRUE(The<QWidget>(Atelier().txt_Nom).isVisible());
     EXPECT_TRUE(TabOrder().contains("txt_Nom"));
+    Atelier().txt_Nom.Visible = false;
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(The<QWidget>(Atelier().txt_Nom).isVisible());
+    EXPECT_FALSE(TabOrder().contains("txt_Nom"));
+    Atelier().shp_Gauche.Visible = false;
+    Atelier().shp_Gauche.Visible = true;
+    EXPECT_EQ(Window().childAt(300, 50), &The<QWidget>(Atelier().txt_Nombre));
 }
 
 TEST_F(WindowOfScreen, TabGoesAsTheEyeDoesPastLockedBoxes)
