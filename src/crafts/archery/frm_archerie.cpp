@@ -3,6 +3,7 @@
 #include "base/failure.h"
 #include "basket/affichage.h"
 #include "crafts/common/counts.h"
+#include "crafts/common/joined_column.h"
 #include "crafts/common/object_pictures.h"
 #include "settings/affichage.h"
 #include "shell/queries.h"
@@ -71,11 +72,10 @@ void frm_Archerie::LireCarquois()
     const Recordset& Carquois = PremierEnregistrement(Globals);
     lbl_Niveau.Caption = Carquois.Text("NiveauCraft");
     for (int i = 1; i <= 3; ++i) {
-        const std::string Matériau =
-            i == 1 ? "Matériaux_Classique" : "Matériaux_Classique_" + std::to_string(i - 1);
-        txt_Matériaux[i].Text = Carquois.Text(Matériau + ".Nom");
+        txt_Matériaux[i].Text = Carquois.Text(ColonneJointe("Matériaux_Classique", i, "Nom"));
         txt_MatériauxQté[i].Text = Carquois.Text("Qté" + std::to_string(i));
-        txt_PrixMatUnitaire[i].Text = Carquois.Text(Matériau + ".Prix");
+        txt_PrixMatUnitaire[i].Text =
+            Carquois.Text(ColonneJointe("Matériaux_Classique", i, "Prix"));
     }
     txt_Icône.Text = Carquois.Text("Icône");
     Globals.Enregistrements.Empty();

@@ -1,5 +1,6 @@
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "toolkit/placing.h"
+#include "toolkit/visibility.h"
 
 // Where the controls of the manual crafts stand and what they say until a skin moves them. Three
 // columns: the menu, the walk with the bill of materials, the object.
@@ -72,10 +73,7 @@ void frm_ArtisanatsManuels::DéfinirChoix()
     cbo_Degré.Width = 3135;
     PlaceLabel(lbl_TypeDégats, "Type :", {MiddleX + 218, 216, 48, High});
     Place(cbo_TypeDégats, {MiddleX + 268, 216, 198, 25});
-    for (Control* Degree :
-         {static_cast<Control*>(&lbl_Degré), static_cast<Control*>(&cbo_Degré),
-          static_cast<Control*>(&lbl_TypeDégats), static_cast<Control*>(&cbo_TypeDégats)})
-        Degree->Visible = false;
+    ShowAll({&lbl_Degré, &cbo_Degré, &lbl_TypeDégats, &cbo_TypeDégats}, false);
 }
 
 void frm_ArtisanatsManuels::DéfinirObjet()
@@ -96,12 +94,9 @@ void frm_ArtisanatsManuels::DéfinirObjet()
     Place(img_Objet, {RightX + 134, 188, 150, 150});
     PlaceRow(lbl_BonusSpécial, "Bonus spécial : ", txt_BonusSpécial, {RightX + 14, 346, 108, 0},
              162);
-    for (Control* Statistic :
-         {static_cast<Control*>(&lbl_AF), static_cast<Control*>(&txt_AF),
-          static_cast<Control*>(&lbl_Dps), static_cast<Control*>(&txt_Dps),
-          static_cast<Control*>(&lbl_Vit), static_cast<Control*>(&txt_Vit),
-          static_cast<Control*>(&lbl_BonusSpécial), static_cast<Control*>(&txt_BonusSpécial)})
-        Statistic->Visible = false;
+    ShowAll({&lbl_AF, &txt_AF, &lbl_Dps, &txt_Dps, &lbl_Vit, &txt_Vit, &lbl_BonusSpécial,
+             &txt_BonusSpécial},
+            false);
 }
 
 void frm_ArtisanatsManuels::DéfinirMatériaux()

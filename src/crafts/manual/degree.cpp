@@ -5,6 +5,7 @@
 #include "settings/affichage.h"
 #include "shell/queries.h"
 #include "toolkit/calculation.h"
+#include "toolkit/visibility.h"
 
 #include <array>
 
@@ -120,9 +121,8 @@ void frm_ArtisanatsManuels::LireStatistiques(const Recordset& Objet)
 void frm_ArtisanatsManuels::txt_MatériauxBruts_Change(int i)
 {
     const bool Montrée = txt_MatériauxBruts[i].Text != SansMatériau;
-    for (Control* Each : std::array<Control*, 5>{&txt_Matériaux[i], &txt_MatériauxQté[i],
-                                                 &lbl_MatX[i], &lbl_Mat[i], &txt_PrixMat[i]})
-        Each->Visible = Montrée;
+    ShowAll({&txt_Matériaux[i], &txt_MatériauxQté[i], &lbl_MatX[i], &lbl_Mat[i], &txt_PrixMat[i]},
+            Montrée);
     const bool Libre = txt_MatériauxBruts[i].Text == PrixLibre;
     txt_PrixMat[i].Locked = !Libre;
     txt_PrixMat[i].BackColor = Libre ? InputGrey : White;
@@ -130,9 +130,7 @@ void frm_ArtisanatsManuels::txt_MatériauxBruts_Change(int i)
 
 void frm_ArtisanatsManuels::MontrerStatistique(TextBox& Valeur, Label& Titre)
 {
-    const bool Montrée = Valeur.Text != NonDéfini;
-    Valeur.Visible = Montrée;
-    Titre.Visible = Montrée;
+    ShowAll({&Valeur, &Titre}, Valeur.Text != NonDéfini);
 }
 
 } // namespace orvane

@@ -1,8 +1,10 @@
 #include "base/text.h"
+#include "crafts/common/joined_column.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "settings/affichage.h"
 #include "shell/queries.h"
 #include "toolkit/calculation.h"
+#include "toolkit/visibility.h"
 
 #include <array>
 
@@ -57,12 +59,6 @@ const SuffixeDegré* ChercherDegré(const std::string& Degré)
     return nullptr;
 }
 
-// Name of a column of one of the repeated joins: "Matériaux.Nom", "Matériaux_1.Nom"...
-std::string ColonneMatériau(int i, const char* Colonne)
-{
-    return (i == 1 ? "Matériaux" : "Matériaux_" + std::to_string(i - 1)) + "." + Colonne;
-}
-
 } // namespace
 
 void frm_ArtisanatsManuels::cbo_TypeDégats_Click()
@@ -103,9 +99,9 @@ void frm_ArtisanatsManuels::LireObjetSup()
     lbl_ObjetSupNiveauCraft.Caption = Objet.Text("NiveauCraft");
     txt_IconeObjetSup.Text = Objet.TextOrEmpty("Icône");
     for (int i = 1; i <= 4; ++i) {
-        txt_MatSup[i].Text = Objet.Text(ColonneMatériau(i, "Nom"));
+        txt_MatSup[i].Text = Objet.Text(ColonneJointe("Matériaux", i, "Nom"));
         txt_MatSupQté[i].Text = i == 1 ? "1" : Objet.Text("Qté" + std::to_string(i));
-        txt_PrixMatSuptUnitaire[i].Text = Objet.Text(ColonneMatériau(i, "Prix"));
+        txt_PrixMatSuptUnitaire[i].Text = Objet.Text(ColonneJointe("Matériaux", i, "Prix"));
     }
     if (FirstCharacters(txt_MatSup[1].Text(), CharacterCount(BarresDeMétal)) != BarresDeMétal)
         return;
@@ -135,16 +131,13 @@ void frm_ArtisanatsManuels::CalculerPrixObjetSup()
 void frm_ArtisanatsManuels::txt_ObjetSup_Change()
 {
     const bool Montré = txt_ObjetSup.Text != "";
-    const auto Montrer = [&](std::initializer_list<Control*> Contrôles) {
-        for (Control* Each : Contrôles)
-            Each->Visible = Montré;
-    };
-    Montrer({&shp_ObjetSup, &lbl_ObjetSup, &txt_ObjetSup});
+    ShowAll({&shp_ObjetSup, &lbl_ObjetSup, &txt_ObjetSup}, Montré);
     for (int i = 1; i <= 4; ++i)
         MontrerMatSup(i, Montré);
     txt_IconeObjetSup.Text = "";
-    Montrer({&lbl_ObjetSupNiveau, &lbl_ObjetSupNiveauCraft, &img_ObjetSupNiveau, &img_ObjetSup,
-             &lbl_ObjetSUpPrixCoûtant, &txt_ObjetSUpPrixCoûtant, &txt_NbObjetSup, &lbl_NbObjetSup});
+    ShowAll({&lbl_ObjetSupNiveau, &lbl_ObjetSupNiveauCraft, &img_ObjetSupNiveau, &img_ObjetSup,
+             &lbl_ObjetSUpPrixCoûtant, &txt_ObjetSUpPrixCoûtant, &txt_NbObjetSup, &lbl_NbObjetSup},
+            Montré);
     for (int i : {3, 4}) // hides again the rows without a material
         if (txt_MatSup[i].Text == Aucun) {
             txt_MatSup[i].Text = "";
@@ -154,9 +147,9 @@ void frm_ArtisanatsManuels::txt_ObjetSup_Change()
 
 void frm_ArtisanatsManuels::MontrerMatSup(int i, bool Montré)
 {
-    for (Control* Each : std::array<Control*, 5>{&txt_MatSup[i], &lbl_MatSupX[i], &txt_MatSupQté[i],
-                                                 &lbl_MatSup[i], &txt_PrixMatSup[i]})
-        Each->Visible = Montré;
+    ShowAll(
+        {&txt_MatSup[i], &lbl_MatSupX[i], &txt_MatSupQté[i], &lbl_MatSup[i], &txt_PrixMatSup[i]},
+        Montré);
 }
 
 void frm_ArtisanatsManuels::txt_MatSup_Change(int i)

@@ -1,6 +1,7 @@
 #include "base/text.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "shell/queries.h"
+#include "toolkit/visibility.h"
 
 #include <array>
 
@@ -56,8 +57,7 @@ void frm_ArtisanatsManuels::EffacerSélection(std::int16_t Palier)
         cbo_Objet.Clear();
         txt_Image.Text = "";
         txt_Icône.Text = "";
-        lbl_TypeDégats.Visible = false;
-        cbo_TypeDégats.Visible = false;
+        ShowAll({&lbl_TypeDégats, &cbo_TypeDégats}, false);
         cbo_Degré.Width = DegréLarge;
         txt_ObjetSup.Text = "";
         txt_ObjetSupBis.Text = "";
@@ -162,8 +162,7 @@ void frm_ArtisanatsManuels::PréparerTypeDégats()
     const std::string& Objet = cbo_Objet.Text();
     const bool AvecType =
         ContainsIgnoringCase(Objet, "durable") || ContainsIgnoringCase(Objet, "supérieur");
-    lbl_TypeDégats.Visible = AvecType;
-    cbo_TypeDégats.Visible = AvecType;
+    ShowAll({&lbl_TypeDégats, &cbo_TypeDégats}, AvecType);
     cbo_Degré.Width = AvecType ? DegréÉtroit : DegréLarge;
     if (!AvecType)
         return;
@@ -177,8 +176,7 @@ void frm_ArtisanatsManuels::txt_Sup_Change()
 {
     cbo_Degré.Clear();
     const RègleDegrés* Règle = Chercher(txt_Sup.Text);
-    lbl_Degré.Visible = Règle != nullptr;
-    cbo_Degré.Visible = Règle != nullptr;
+    ShowAll({&lbl_Degré, &cbo_Degré}, Règle != nullptr);
     if (Règle == nullptr) // emptied, or a letter without degrees: no database is needed
         return;
     Globals.TexteSQL = "SELECT DISTINCT Classique_ProduitsDétaillés.Nom,Classique_Produits.Nom, "
