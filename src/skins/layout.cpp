@@ -62,7 +62,7 @@ std::string TableDe(Application& App, const Screen& Feuille, const std::string& 
     Globals.TexteSQL = "SELECT * FROM RésolutionCommune WHERE Nom=" + Quoted(Feuille.Name());
     Recordset& Ligne = OuvrirEnregistrements2(Globals);
     Ligne.MoveFirst();
-    const std::string Table =
+    std::string Table =
         Feuille.Name() + "_" + (Vaut(Ligne, "Commun") ? "Commun" : SansEspaces(Résolution));
     Globals.Enregistrements2.Empty();
     return Table;

@@ -194,7 +194,7 @@ void Connection::Delete(std::string_view Sql)
 Assignments Connection::Insert(const std::string& Table, const Assignments& Row, std::int64_t& Key)
 {
     return Translated(In->File, [&] {
-        const Assignments Stored = In->Schema.Converted(Table, Row);
+        Assignments Stored = In->Schema.Converted(Table, Row);
         std::string Names;
         std::string Marks;
         std::vector<Value> Values;
@@ -217,7 +217,7 @@ Assignments Connection::Insert(const std::string& Table, const Assignments& Row,
 Assignments Connection::Change(const std::string& Table, std::int64_t Key, const Assignments& Row)
 {
     return Translated(In->File, [&] {
-        const Assignments Stored = In->Schema.Converted(Table, Row);
+        Assignments Stored = In->Schema.Converted(Table, Row);
         std::string Changes;
         std::vector<Value> Values;
         for (const auto& [Column, Cell] : Stored) {

@@ -76,7 +76,9 @@ QByteArray GifBytes(const QImage& Image)
     PutTransparency(Gif.get());
     Check(EGifPutImageDesc(Gif.get(), 0, 0, Width, Height, false, nullptr));
     for (int y = 0; y < Height; ++y)
-        Check(EGifPutLine(Gif.get(), &Picture.Pixels[static_cast<std::size_t>(y * Width)], Width));
+        Check(EGifPutLine(
+            Gif.get(),
+            &Picture.Pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(Width)], Width));
     Check(EGifCloseFile(Gif.release(), &Error));
     return Result;
 }
