@@ -175,6 +175,8 @@ int main(int Count, char** Arguments)
         for (const int Times : {1, 100}) {
             const fs::path Folder = Scratch / std::to_string(Times);
             orvane::bench::CopyCatalogue(Arguments[1], Folder, Times);
+            orvane::bench::ChooseStart(Folder, "Valdren", orvane::bench::Skin,
+                                       orvane::bench::Résolution);
             orvane::bench::CompareAll("catalogue x " + std::to_string(Times), Folder);
         }
         benchmark::Initialize(&Count, Arguments);

@@ -4,6 +4,7 @@
 #include "store/sql_text.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
+#include <utility>
 
 namespace orvane::bench {
 
@@ -46,6 +47,19 @@ void CopyCatalogue(const std::filesystem::path& From, const std::filesystem::pat
     for (const std::string& Royaume : Royaumes())
         if (Times > 1)
             Multiply(To / ("Artisanat_" + Royaume + ".mdb"), Times);
+}
+
+void ChooseStart(const std::filesystem::path& Folder, const std::string& Realm,
+                 const std::string& Skin, const std::string& Resolution)
+{
+    SQLite::Database Base((Folder / "Config.mdb").string(), SQLite::OPEN_READWRITE);
+    for (const auto& [Table, Name] :
+         {std::pair("DernierRoyaume", Realm), std::pair("DernièreSkin", Skin),
+          std::pair("DernièreRésolution", Resolution)}) {
+        SQLite::Statement Change(Base, "UPDATE " + QuotedName(Table) + " SET Nom = ?");
+        Change.bind(1, Name);
+        Change.exec();
+    }
 }
 
 } // namespace orvane::bench
