@@ -68,15 +68,15 @@ void ButtonView::paintEvent(QPaintEvent*)
 void ButtonView::PaintPicture(QPainter& Painter, const QPixmap& Pixels) const
 {
     const QPointF Place(0, isDown() ? 1 : 0);
-    Painter.drawPixmap(Place, Pixels);
     if (isDown() || underMouse()) { // a tint that keeps to the picture's own shape
         QPixmap Tinted = Pixels;
         QPainter Tint(&Tinted);
-        Tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        Tint.setCompositionMode(QPainter::CompositionMode_SourceAtop);
         Tint.fillRect(rect(), isDown() ? QColor(30, 15, 0, 70) : QColor(255, 246, 220, 48));
         Tint.end();
         Painter.drawPixmap(Place, Tinted);
-    }
+    } else
+        Painter.drawPixmap(Place, Pixels);
     if (hasFocus())
         look::PaintFocusRing(Painter, rect(), look::PlateRadius);
 }

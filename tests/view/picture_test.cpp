@@ -51,6 +51,25 @@ TEST_F(PicturesOnScreen, AButtonTellsItsWordsAndItsTip)
     EXPECT_EQ(The<ButtonView>(Atelier().cmd_Retour).toolTip(), "Retour");
 }
 
+// Hovered and pressed pictures are tinted, and still to be seen; with and without transparency.
+TEST_F(PicturesOnScreen, AHoveredOrPressedButtonStillShowsItsPicture)
+{
+    Atelier().cmd_Ajouter.Picture = Red(60, 20);
+    Show();
+    auto& View = The<ButtonView>(Atelier().cmd_Ajouter);
+    const QPoint Inside(30, 20);
+    const QColor AtRest = PixelOf(View, Inside);
+    View.setAttribute(Qt::WA_UnderMouse);
+    const QColor Hovered = PixelOf(View, Inside);
+    EXPECT_TRUE(Hovered.red() > 200 && Hovered.green() < 90);
+    EXPECT_NE(Hovered, AtRest);
+    View.setAttribute(Qt::WA_UnderMouse, false);
+    View.setDown(true);
+    const QColor Pressed = PixelOf(View, Inside);
+    EXPECT_TRUE(Pressed.red() > 150 && Pressed.green() < 60);
+    EXPECT_NE(Pressed, AtRest);
+}
+
 TEST_F(PicturesOnScreen, AButtonShowsItsPictureAndWithoutOneItsPlate)
 {
     Show();
