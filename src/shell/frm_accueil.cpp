@@ -113,20 +113,19 @@ std::string frm_Accueil::RestaurerChoix(const std::string& Liste, const std::str
                                         const std::function<bool(const std::string&)>& Possible)
 {
     Globals.TexteSQL = "SELECT Nom FROM " + Liste + " ORDER BY Num";
-    std::string Premier; // that is possible
-    for (Recordset& Lignes = PremierEnregistrement(Globals); !Lignes.Eof(); Lignes.MoveNext()) {
-        Box.AddItem(Lignes.Text("Nom"));
-        if (Premier.empty() && Possible(Lignes.Text("Nom")))
-            Premier = Lignes.Text("Nom");
-    }
+    std::vector<std::string> Noms;
+    for (Recordset& Lignes = PremierEnregistrement(Globals); !Lignes.Eof(); Lignes.MoveNext())
+        Box.AddItem(Noms.emplace_back(Lignes.Text("Nom")));
     Globals.TexteSQL = "SELECT Nom FROM " + Dernier;
     std::string Choix = PremierEnregistrement(Globals).Text("Nom");
     Globals.Enregistrements.Empty();
     if (Box.FindItem(Choix) < 0 || !Possible(Choix)) {
+        const auto Premier = std::ranges::find_if(Noms, Possible);
+        const std::string Remplaçant = Premier == Noms.end() ? std::string() : *Premier;
         App.Notice(Typeset("« " + Choix + " » n’existe plus : " +
-                           (Premier.empty() ? "rien ne peut le remplacer."
-                                            : "« " + Premier + " » est choisi à sa place.")));
-        Choix = Premier;
+                           (Remplaçant.empty() ? "rien ne peut le remplacer."
+                                               : "« " + Remplaçant + " » est choisi à sa place.")));
+        Choix = Remplaçant;
     }
     Box.Text = Choix;
     return Choix;
