@@ -9,6 +9,8 @@
 #include "shell/queries.h"
 #include "toolkit/calculation.h"
 
+#include <array>
+
 namespace orvane {
 
 frm_Archerie::frm_Archerie(Application& App) : Feuille(App, ScreenName, "Archerie")
@@ -55,11 +57,16 @@ void frm_Archerie::cbo_Type_Click()
 void frm_Archerie::cbo_Objet_Click()
 {
     ReadOrStale({&txt_PrixCoûtant, &txt_PrixVente}, [&] { LireCarquois(); });
-    for (int i = 1; i <= 3; ++i)
-        Calculate({&txt_PrixMat[i]}, [&] {
-            txt_PrixMat[i].Text = T(M(txt_PrixMatUnitaire[i]) * M(txt_MatériauxQté[i]));
-        });
-    CalculerPrixCarquois();
+    const bool Juste = Calculate({&txt_PrixCoûtant, &txt_PrixVente}, [&] {
+        std::array<std::string, 3> Prix;
+        for (int i = 1; i <= 3; ++i)
+            Prix[static_cast<std::size_t>(i - 1)] =
+                T(M(txt_PrixMatUnitaire[i]) * M(txt_MatériauxQté[i]));
+        for (int i = 1; i <= 3; ++i)
+            txt_PrixMat[i].Text = Prix[static_cast<std::size_t>(i - 1)];
+    });
+    if (Juste)
+        CalculerPrixCarquois();
     ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
 }
 

@@ -84,8 +84,7 @@ void frm_ArtisanatsManuels::cbo_TypeDégats_Click()
                              (Durable ? Type->NiveauDurable : Type->Niveau);
     }
     ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
-    CalculerPrixObjetSup();
-    if (txt_PrixVente.Stale) // the same price as before runs nothing by itself
+    if (CalculerPrixObjetSup() && txt_PrixVente.Stale) // the same price runs nothing by itself
         CalculerPrixVente();
 }
 
@@ -112,19 +111,31 @@ void frm_ArtisanatsManuels::LireObjetSup()
     Globals.Enregistrements.Empty();
 }
 
-// Here quantities are whole numbers; the handler of a unit price takes them as amounts.
-void frm_ArtisanatsManuels::CalculerPrixObjetSup()
+// Here quantities are whole numbers; the handler of a unit price takes them as amounts. Tells
+// whether the price is good; if not, the prices that rest on it are shown as stale.
+bool frm_ArtisanatsManuels::CalculerPrixObjetSup()
 {
-    for (int i = 1; i <= 4; ++i)
-        Calculate({&txt_PrixMatSup[i]}, [&] {
-            txt_PrixMatSup[i].Text = T(I(txt_MatSupQté[i]) * M(txt_PrixMatSuptUnitaire[i]));
-        });
-    Calculate({}, [&] {
+    std::array<Montant, 4> Lignes;
+    Montant Total;
+    const bool Juste = Calculate({}, [&] {
         Montant Somme;
-        for (TextBox& Prix : txt_PrixMatSup)
-            Somme = Somme + M(Prix);
-        txt_ObjetSUpPrixCoûtant.Text = T(I(txt_NbObjetSup) * Somme);
+        for (int i = 1; i <= 4; ++i) {
+            Montant& Ligne = Lignes[static_cast<std::size_t>(i - 1)];
+            Ligne = I(txt_MatSupQté[i]) * M(txt_PrixMatSuptUnitaire[i]);
+            Somme = Somme + Ligne;
+        }
+        Total = I(txt_NbObjetSup) * Somme;
     });
+    txt_ObjetSUpPrixCoûtant.Stale = !Juste;
+    if (!Juste) {
+        for (TextBox* Each : Résultats())
+            Each->Stale = true;
+        return false;
+    }
+    for (int i = 1; i <= 4; ++i)
+        txt_PrixMatSup[i].Text = T(Lignes[static_cast<std::size_t>(i - 1)]);
+    txt_ObjetSUpPrixCoûtant.Text = T(Total);
+    return true;
 }
 
 // The whole panel follows the name: empty or not.

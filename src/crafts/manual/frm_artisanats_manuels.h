@@ -159,7 +159,7 @@ class frm_ArtisanatsManuels : public Feuille
     // Extra object
     void cbo_TypeDégats_Click();
     void LireObjetSup();
-    void CalculerPrixObjetSup();
+    bool CalculerPrixObjetSup();
     void txt_ObjetSup_Change();
     void MontrerMatSup(int i, bool Montré);
     void txt_MatSup_Change(int i);
