@@ -32,6 +32,12 @@ void PlaceLabel(Label& Which, const std::string& Text, Box At, Alignment Align)
     Which.ForeColor = TextBrown;
 }
 
+void PlaceField(Label& Name, const std::string& Text, TextBox& Value, Box LabelAt, int BoxWide)
+{
+    PlaceLabel(Name, Text, LabelAt);
+    Place(Value, {LabelAt.X + LabelAt.W, LabelAt.Y, BoxWide, LabelAt.H});
+}
+
 void PlaceHeading(Label& Which, const std::string& Text, Box At)
 {
     PlaceLabel(Which, Text, At);

@@ -23,6 +23,9 @@ void SizeScreen(Screen& Which, int Width, int Height);
 // A caption, by default as high as an input box so that both stand on one line.
 void PlaceLabel(Label& Which, const std::string& Text, Box At, Alignment Align = Alignment::Left);
 
+// A caption and its box, which begins where the caption ends and is as high.
+void PlaceField(Label& Name, const std::string& Text, TextBox& Value, Box LabelAt, int BoxWide);
+
 // The title of a panel.
 void PlaceHeading(Label& Which, const std::string& Text, Box At);
 

@@ -1,5 +1,5 @@
 #include "crafts/archery/frm_archerie.h"
-#include "toolkit/placing.h"
+#include "crafts/common/material_line.h"
 
 // Where the controls of frm_Archerie stand and what they say until a skin moves them.
 namespace orvane {
@@ -26,28 +26,20 @@ void frm_Archerie::Définir()
     PlacePanel(shp_Matériaux, {16, 138, 648, 142});
     PlaceHeading(lbl21, "Matériaux", {30, 142, 300, High});
     for (int i = 1; i <= 3; ++i) {
-        const int Y = 172 + (i - 1) * 32;
-        Place(txt_Matériaux[i], {30, Y, 370, High});
-        txt_Matériaux[i].Align = Alignment::Left;
-        PlaceLabel(lbl_MatX[i], "x", {402, Y, 16, High}, Alignment::Centre);
-        Place(txt_MatériauxQté[i], {420, Y, 60, High});
-        PlaceLabel(lbl_Mat[i], "=", {482, Y, 16, High}, Alignment::Centre);
-        Place(txt_PrixMat[i], {500, Y, 150, High});
+        Placer({txt_Matériaux[i], lbl_MatX[i], txt_MatériauxQté[i], lbl_Mat[i], txt_PrixMat[i]}, 30,
+               172 + (i - 1) * 32, {374, 64, 154});
         for (TextBox* Box : {&txt_Matériaux[i], &txt_MatériauxQté[i], &txt_PrixMat[i]})
             Box->Locked = false; // typed texts count only when a calculation reads them
         txt_PrixMatUnitaire[i].Visible = false;
     }
 
     PlacePanel(shp_Vente, {16, 292, 648, 172});
-    PlaceLabel(lbl32, "Nb de carquois :", {30, 306, 150, High});
-    Place(txt_NbObjet, {184, 306, 80, High});
+    PlaceField(lbl32, "Nb de carquois :", txt_NbObjet, {30, 306, 154, High}, 80);
     txt_NbObjet.StartWith("1");
     txt_NbObjet.OpenFor(NumberKind::Entier16);
     PlaceLabel(lbl33, "20 unités par carquois", {280, 306, 360, High});
-    PlaceLabel(lbl31, "Prix coûtant :", {30, 346, 150, High});
-    Place(txt_PrixCoûtant, {184, 346, 180, High});
-    PlaceLabel(lbl34, "Prix de vente : ", {30, 386, 150, High});
-    Place(txt_PrixVente, {184, 386, 180, High});
+    PlaceField(lbl31, "Prix coûtant :", txt_PrixCoûtant, {30, 346, 154, High}, 180);
+    PlaceField(lbl34, "Prix de vente : ", txt_PrixVente, {30, 386, 154, High}, 180);
     txt_PrixVente.StartWith("0");
     PlaceLabel(lbl35, "Application globale de la marge", {30, 426, 360, High});
     txt_Icône.Visible = false;

@@ -1,3 +1,4 @@
+#include "crafts/common/material_codes.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "toolkit/calculation.h"
 
@@ -12,7 +13,7 @@ void frm_ArtisanatsManuels::CalculerPrixMatériaux()
     std::array<std::string, 6> Prix;
     const bool Juste = Calculate({}, [&] {
         for (int i = 1; i <= 6; ++i) {
-            const bool Vide = i >= 3 && txt_MatériauxBruts[i].Text == "10";
+            const bool Vide = i >= 3 && txt_MatériauxBruts[i].Text == CodeSansMatériau;
             Prix[static_cast<std::size_t>(i - 1)] =
                 Vide ? "0" : T(M(txt_PrixMatUnitaire[i]) * M(txt_MatériauxQté[i]));
         }
@@ -55,9 +56,8 @@ void frm_ArtisanatsManuels::CalculerPrixVente()
 void frm_ArtisanatsManuels::ActualiserVerrouPrix(TextBox& Prix, TextBox& Nom)
 {
     Calculate({}, [&] {
-        const bool Libre = M(Prix) == Montant() && Nom.Text != "(aucun)";
-        Prix.Locked = !Libre;
-        Prix.BackColor = Libre ? txt_NbObjet.BackColor() : txt_PrixCoûtantTotal.BackColor();
+        const bool Libre = M(Prix) == Montant() && Nom.Text != SansNom;
+        PoserVerrou(Prix, Libre, txt_NbObjet, txt_PrixCoûtantTotal);
     });
 }
 

@@ -14,13 +14,17 @@ constexpr int RightX = 704;
 constexpr int RightWide = 296;
 constexpr int High = 24;
 
-void PlaceRow(Label& Name, const char* Words, TextBox& Value, Box At, int BoxWide)
+} // namespace
+
+LigneMatériau frm_ArtisanatsManuels::Ligne(int i)
 {
-    PlaceLabel(Name, Words, {At.X, At.Y, At.W, High});
-    Place(Value, {At.X + At.W, At.Y, BoxWide, High});
+    return {txt_Matériaux[i], lbl_MatX[i], txt_MatériauxQté[i], lbl_Mat[i], txt_PrixMat[i]};
 }
 
-} // namespace
+LigneMatériau frm_ArtisanatsManuels::LigneSup(int i)
+{
+    return {txt_MatSup[i], lbl_MatSupX[i], txt_MatSupQté[i], lbl_MatSup[i], txt_PrixMatSup[i]};
+}
 
 void frm_ArtisanatsManuels::Définir()
 {
@@ -86,14 +90,14 @@ void frm_ArtisanatsManuels::DéfinirObjet()
 
     PlacePanel(shp_Objet, {RightX, 154, RightWide, 228});
     PlaceHeading(lbl31, "Informations sur l'objet", {RightX + 14, 158, 260, High});
-    PlaceRow(lbl32, "Niveau :", txt_Niveau, {RightX + 14, 188, 58, 0}, 54);
-    PlaceRow(lbl_AF, "AF :", txt_AF, {RightX + 14, 218, 58, 0}, 54);
-    PlaceRow(lbl_Dps, "Dps : ", txt_Dps, {RightX + 14, 248, 58, 0}, 54);
-    PlaceRow(lbl_Vit, "Vit. :", txt_Vit, {RightX + 14, 278, 58, 0}, 54);
+    PlaceField(lbl32, "Niveau :", txt_Niveau, {RightX + 14, 188, 58, High}, 54);
+    PlaceField(lbl_AF, "AF :", txt_AF, {RightX + 14, 218, 58, High}, 54);
+    PlaceField(lbl_Dps, "Dps : ", txt_Dps, {RightX + 14, 248, 58, High}, 54);
+    PlaceField(lbl_Vit, "Vit. :", txt_Vit, {RightX + 14, 278, 58, High}, 54);
     Place(img_Icône, {RightX + 14, 306, 32, 32});
     Place(img_Objet, {RightX + 134, 188, 150, 150});
-    PlaceRow(lbl_BonusSpécial, "Bonus spécial : ", txt_BonusSpécial, {RightX + 14, 346, 108, 0},
-             162);
+    PlaceField(lbl_BonusSpécial, "Bonus spécial : ", txt_BonusSpécial,
+               {RightX + 14, 346, 108, High}, 162);
     ShowAll({&lbl_AF, &txt_AF, &lbl_Dps, &txt_Dps, &lbl_Vit, &txt_Vit, &lbl_BonusSpécial,
              &txt_BonusSpécial},
             false);
@@ -105,19 +109,14 @@ void frm_ArtisanatsManuels::DéfinirMatériaux()
     PlaceHeading(lbl21, "Matériaux", {MiddleX + 14, 266, 300, High});
     for (int i = 1; i <= 6; ++i) {
         const int Y = 292 + (i - 1) * 29;
-        Place(txt_Matériaux[i], {MiddleX + 14, Y, 268, High});
-        txt_Matériaux[i].Align = Alignment::Left;
-        PlaceLabel(lbl_MatX[i], "x", {MiddleX + 283, Y, 12, High}, Alignment::Centre);
-        Place(txt_MatériauxQté[i], {MiddleX + 296, Y, 42, High});
-        PlaceLabel(lbl_Mat[i], "=", {MiddleX + 339, Y, 12, High}, Alignment::Centre);
-        Place(txt_PrixMat[i], {MiddleX + 352, Y, 114, High});
+        Placer(Ligne(i), MiddleX + 14, Y, {268, 42, 114});
         txt_MatériauxQté[i].StartWith("0");
         txt_PrixMat[i].StartWith("0");
         txt_PrixMat[i].Accepts = NumberKind::Montant;
     }
-    PlaceRow(lbl23, "Prix coûtant :", txt_PrixCoûtant, {MiddleX + 150, 474, 202, 0}, 114);
-    PlaceRow(lbl22, "Prix de revente à un PNJ :", txt_PrixRevente, {MiddleX + 150, 504, 202, 0},
-             114);
+    PlaceField(lbl23, "Prix coûtant :", txt_PrixCoûtant, {MiddleX + 150, 474, 202, High}, 114);
+    PlaceField(lbl22, "Prix de revente à un PNJ :", txt_PrixRevente,
+               {MiddleX + 150, 504, 202, High}, 114);
     for (Label* Total : {&lbl23, &lbl22}) {
         Total->Align = Alignment::Right;
         Total->Width = Total->Width - 8 * TwipsPerPixel;
@@ -130,10 +129,10 @@ void frm_ArtisanatsManuels::DéfinirVente()
 {
     PlacePanel(shp_InfosVente, {MiddleX, 550, MiddleWide, 140});
     PlaceHeading(lbl_InfosVente, "Informations de vente", {MiddleX + 14, 556, 300, High});
-    PlaceRow(lbl411, "Nb d'objets :", txt_NbObjet, {MiddleX + 14, 594, 140, 0}, 66);
-    PlaceRow(lbl44, "Nb d'essais suppl. :", txt_NbEssais, {MiddleX + 14, 634, 140, 0}, 66);
-    PlaceRow(lbl48, "Prix coûtant :", txt_PrixCoûtantTotal, {MiddleX + 236, 594, 100, 0}, 130);
-    PlaceRow(lbl42, "Prix de vente :", txt_PrixVente, {MiddleX + 236, 634, 100, 0}, 130);
+    PlaceField(lbl411, "Nb d'objets :", txt_NbObjet, {MiddleX + 14, 594, 140, High}, 66);
+    PlaceField(lbl44, "Nb d'essais suppl. :", txt_NbEssais, {MiddleX + 14, 634, 140, High}, 66);
+    PlaceField(lbl48, "Prix coûtant :", txt_PrixCoûtantTotal, {MiddleX + 236, 594, 100, High}, 130);
+    PlaceField(lbl42, "Prix de vente :", txt_PrixVente, {MiddleX + 236, 634, 100, High}, 130);
     txt_NbObjet.StartWith("1");
     txt_NbEssais.StartWith("0");
     txt_PrixCoûtantTotal.StartWith("0");
@@ -148,21 +147,14 @@ void frm_ArtisanatsManuels::DéfinirObjetSup()
     PlaceHeading(lbl_ObjetSup, "Objet nécessaire", {RightX + 14, 396, 220, High});
     Place(txt_ObjetSup, {RightX + 14, 424, 230, High});
     Place(img_ObjetSup, {RightX + 252, 416, 32, 32});
-    PlaceRow(lbl_NbObjetSup, "Nb :", txt_NbObjetSup, {RightX + 14, 454, 36, 0}, 44);
+    PlaceField(lbl_NbObjetSup, "Nb :", txt_NbObjetSup, {RightX + 14, 454, 36, High}, 44);
     PlaceLabel(lbl_ObjetSupNiveau, "Niveau :", {RightX + 112, 454, 58, High});
     PlaceLabel(lbl_ObjetSupNiveauCraft, "", {RightX + 172, 454, 50, High}, Alignment::Right);
     Place(img_ObjetSupNiveau, {RightX + 232, 454, 24, 24});
-    for (int i = 1; i <= 4; ++i) {
-        const int Y = 484 + (i - 1) * 28;
-        Place(txt_MatSup[i], {RightX + 14, Y, 146, High});
-        txt_MatSup[i].Align = Alignment::Left;
-        PlaceLabel(lbl_MatSupX[i], "x", {RightX + 160, Y, 12, High}, Alignment::Centre);
-        Place(txt_MatSupQté[i], {RightX + 173, Y, 32, High});
-        PlaceLabel(lbl_MatSup[i], "=", {RightX + 206, Y, 12, High}, Alignment::Centre);
-        Place(txt_PrixMatSup[i], {RightX + 219, Y, 65, High});
-    }
-    PlaceRow(lbl_ObjetSUpPrixCoûtant, "Prix :", txt_ObjetSUpPrixCoûtant, {RightX + 128, 600, 56, 0},
-             100);
+    for (int i = 1; i <= 4; ++i)
+        Placer(LigneSup(i), RightX + 14, 484 + (i - 1) * 28, {145, 32, 65});
+    PlaceField(lbl_ObjetSUpPrixCoûtant, "Prix :", txt_ObjetSUpPrixCoûtant,
+               {RightX + 128, 600, 56, High}, 100);
     lbl_ObjetSUpPrixCoûtant.Align = Alignment::Right;
     txt_NbObjetSup.StartWith("1");
     txt_ObjetSUpPrixCoûtant.StartWith("0");

@@ -1,6 +1,7 @@
 #include "base/notation.h"
 #include "base/number_text.h"
 #include "base/text.h"
+#include "crafts/common/material_codes.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "settings/affichage.h"
 #include "shell/queries.h"
@@ -14,11 +15,6 @@
 namespace orvane {
 
 namespace {
-
-// Material codes that are no key of the materials table.
-constexpr std::string_view SansMatériau = "10";
-constexpr std::string_view Patron = "8";
-constexpr std::string_view PrixLibre = "9";
 
 constexpr const char* NonDéfini = "ND";
 
@@ -59,8 +55,11 @@ void frm_ArtisanatsManuels::LireDegré()
     Globals.TexteSQL =
         "SELECT * FROM Degrés_ListeTypes WHERE " + ColonneDegré + "=" + Quoted(cbo_Degré.Text());
     NuméroDegré = PremierEnregistrement(Globals).Whole("NuméroDegré");
+    const std::string& Nom = cbo_Objet.Text();
+    const bool Couronne = Contains(Nom, "couronne") || Contains(Nom, "Couronne");
     for (int i = 1; i <= 6; ++i)
-        RésoudreMatériau(txt_MatériauxBruts[i], txt_Matériaux[i], txt_PrixMatUnitaire[i]);
+        RésoudreMatériau(Globals, txt_MatériauxBruts[i].Text, NuméroDegré, Couronne,
+                         txt_Matériaux[i], txt_PrixMatUnitaire[i]);
 
     Globals.TexteSQL = "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text());
     const Recordset& Objet = PremierEnregistrement(Globals);
@@ -69,26 +68,6 @@ void frm_ArtisanatsManuels::LireDegré()
     txt_NbObjetSup.Text = Objet.Text("NbObjet");
     LireStatistiques(Objet);
     txt_PrixRevente.Text = Objet.Text("PrixReventeDegré" + std::to_string(NuméroDegré));
-    Globals.Enregistrements.Empty();
-}
-
-// Needs the realm database open and NuméroDegré set.
-void frm_ArtisanatsManuels::RésoudreMatériau(TextBox& Code, TextBox& Nom, TextBox& Prix)
-{
-    if (Code.Text == SansMatériau)
-        return;
-    if (Code.Text == Patron) {
-        const std::string& Objet = cbo_Objet.Text();
-        const bool Couronne = Contains(Objet, "couronne") || Contains(Objet, "Couronne");
-        Nom.Text = Couronne ? "Patron pour couronne tressée" : "Patron pour chapeau pointu";
-        Prix.Text = "0,0050";
-        return;
-    }
-    Globals.TexteSQL = "SELECT * FROM Matériaux_Classique WHERE (Type=" + Code.Text() +
-                       " AND Degré=" + std::to_string(NuméroDegré) + ")";
-    const Recordset& Matériau = PremierEnregistrement(Globals);
-    Nom.Text = Matériau.Text("Nom");
-    Prix.Text = Matériau.Text("Prix");
     Globals.Enregistrements.Empty();
 }
 
@@ -120,10 +99,9 @@ void frm_ArtisanatsManuels::LireStatistiques(const Recordset& Objet)
 // Shows or hides a row with its code, and opens its price for a material that the crafter prices.
 void frm_ArtisanatsManuels::txt_MatériauxBruts_Change(int i)
 {
-    const bool Montrée = txt_MatériauxBruts[i].Text != SansMatériau;
-    ShowAll({&txt_Matériaux[i], &txt_MatériauxQté[i], &lbl_MatX[i], &lbl_Mat[i], &txt_PrixMat[i]},
-            Montrée);
-    const bool Libre = txt_MatériauxBruts[i].Text == PrixLibre;
+    const bool Montrée = txt_MatériauxBruts[i].Text != CodeSansMatériau;
+    Montrer(Ligne(i), Montrée);
+    const bool Libre = txt_MatériauxBruts[i].Text == CodePrixLibre;
     txt_PrixMat[i].Locked = !Libre;
     txt_PrixMat[i].BackColor = Libre ? InputGrey : White;
 }

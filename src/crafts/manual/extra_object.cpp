@@ -1,5 +1,5 @@
 #include "base/text.h"
-#include "crafts/common/joined_column.h"
+#include "crafts/common/alchemy_object.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "settings/affichage.h"
 #include "shell/queries.h"
@@ -13,9 +13,6 @@
 namespace orvane {
 
 namespace {
-
-constexpr const char* Aucun = "(aucun)";
-constexpr std::string_view BarresDeMétal = "Barres de métal";
 
 struct TypeDégats
 {
@@ -92,23 +89,9 @@ void frm_ArtisanatsManuels::cbo_TypeDégats_Click()
 void frm_ArtisanatsManuels::LireObjetSup()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
-    Globals.TexteSQL =
-        "SELECT * FROM R_AlchimieObjet WHERE (ListeObjets.Nom=" + Quoted(txt_ObjetSup.Text()) + ")";
-    const Recordset Objet = PremierEnregistrement(Globals); // its own copy: the writes below nest
-    lbl_ObjetSupNiveauCraft.Caption = Objet.Text("NiveauCraft");
-    txt_IconeObjetSup.Text = Objet.TextOrEmpty("Icône");
-    for (int i = 1; i <= 4; ++i) {
-        txt_MatSup[i].Text = Objet.Text(ColonneJointe("Matériaux", i, "Nom"));
-        txt_MatSupQté[i].Text = i == 1 ? "1" : Objet.Text("Qté" + std::to_string(i));
-        txt_PrixMatSuptUnitaire[i].Text = Objet.Text(ColonneJointe("Matériaux", i, "Prix"));
-    }
-    if (FirstCharacters(txt_MatSup[1].Text(), CharacterCount(BarresDeMétal)) != BarresDeMétal)
-        return;
-    Globals.TexteSQL = "SELECT Nom, " + Globals.RoyaumeCourant +
-                       " FROM Matériaux WHERE Nom=" + Quoted(txt_MatSup[1].Text());
-    const std::string Terminaison = PremierEnregistrement(Globals).Text(Globals.RoyaumeCourant);
-    txt_MatSup[1].Text = WithoutLastCharacters(txt_MatSup[1].Text(), 1) + Terminaison;
-    Globals.Enregistrements.Empty();
+    ChargerObjetSup(Globals, txt_ObjetSup.Text,
+                    {lbl_ObjetSupNiveauCraft, txt_IconeObjetSup, txt_MatSup, txt_MatSupQté,
+                     txt_PrixMatSuptUnitaire});
 }
 
 // Here quantities are whole numbers; the handler of a unit price takes them as amounts. Tells
@@ -144,40 +127,22 @@ void frm_ArtisanatsManuels::txt_ObjetSup_Change()
     const bool Montré = txt_ObjetSup.Text != "";
     ShowAll({&shp_ObjetSup, &lbl_ObjetSup, &txt_ObjetSup}, Montré);
     for (int i = 1; i <= 4; ++i)
-        MontrerMatSup(i, Montré);
+        Montrer(LigneSup(i), Montré);
     txt_IconeObjetSup.Text = "";
     ShowAll({&lbl_ObjetSupNiveau, &lbl_ObjetSupNiveauCraft, &img_ObjetSupNiveau, &img_ObjetSup,
              &lbl_ObjetSUpPrixCoûtant, &txt_ObjetSUpPrixCoûtant, &txt_NbObjetSup, &lbl_NbObjetSup},
             Montré);
     for (int i : {3, 4}) // hides again the rows without a material
-        if (txt_MatSup[i].Text == Aucun) {
+        if (txt_MatSup[i].Text == SansNom) {
             txt_MatSup[i].Text = "";
-            txt_MatSup[i].Text = Aucun;
+            txt_MatSup[i].Text = std::string(SansNom);
         }
-}
-
-void frm_ArtisanatsManuels::MontrerMatSup(int i, bool Montré)
-{
-    ShowAll(
-        {&txt_MatSup[i], &lbl_MatSupX[i], &txt_MatSupQté[i], &lbl_MatSup[i], &txt_PrixMatSup[i]},
-        Montré);
 }
 
 void frm_ArtisanatsManuels::txt_MatSup_Change(int i)
 {
     if (txt_ObjetSup.Text != "")
-        MontrerMatSup(i, txt_MatSup[i].Text != Aucun);
-}
-
-void frm_ArtisanatsManuels::txt_PrixMatSuptUnitaire_Change(int i)
-{
-    if (txt_PrixMatSuptUnitaire[i].Text == "" && txt_MatSupQté[i].Text == "") {
-        txt_PrixMatSup[i].Text = "0";
-        return;
-    }
-    Calculate({&txt_PrixMatSup[i]}, [&] {
-        txt_PrixMatSup[i].Text = T(M(txt_PrixMatSuptUnitaire[i]) * M(txt_MatSupQté[i]));
-    });
+        Montrer(LigneSup(i), txt_MatSup[i].Text != SansNom);
 }
 
 } // namespace orvane

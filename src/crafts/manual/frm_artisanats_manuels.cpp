@@ -1,6 +1,7 @@
 #include "crafts/manual/frm_artisanats_manuels.h"
 
 #include "crafts/common/counts.h"
+#include "crafts/common/craft_menu.h"
 #include "crafts/common/object_pictures.h"
 #include "settings/frm_configuration.h"
 #include "shell/navigation.h"
@@ -35,10 +36,6 @@ constexpr std::array Artisanats{
     Artisanat{"Forge", 5, &frm_Configuration::txt_NiveauForge, &frm_Configuration::txt_MargeForge,
               &frm_Configuration::txt_EssaiForge, "Fabrication des armes en métal."},
 };
-
-constexpr int IcônePanier = 10;
-constexpr SideMenu::Colours CouleursMenu{RGB(0, 0, 0), RGB(255, 255, 255), RGB(255, 255, 255),
-                                         RGB(100, 100, 100)};
 
 const Artisanat* Chercher(const std::string& Nom)
 {
@@ -87,14 +84,20 @@ void frm_ArtisanatsManuels::Relier()
     for (int i : {3, 4})
         txt_MatSup[i].OnChange = [this, i] { txt_MatSup_Change(i); };
     for (int i = 1; i <= 4; ++i)
-        txt_PrixMatSuptUnitaire[i].OnChange = [this, i] { txt_PrixMatSuptUnitaire_Change(i); };
+        txt_PrixMatSuptUnitaire[i].OnChange = [this, i] {
+            CalculerPrixLigne(txt_PrixMatSuptUnitaire[i], txt_MatSupQté[i], txt_PrixMatSup[i]);
+        };
     cmd_AjouterPanier.OnClick = [this] { cmd_AjouterPanier_Click(); };
     cmd_Retour.OnClick = [this] { WayBack(); };
 }
 
 void frm_ArtisanatsManuels::Load()
 {
-    ConstruireMenu();
+    GroupeMenu Métiers{
+        "Artisanats", "Liste des artisanats", "Sélection d'un artisanat manuel.", {}};
+    for (const Artisanat& Each : Artisanats) // the small icons count from 0
+        Métiers.Entrées.push_back({Each.Nom, Each.Nom, Each.Image - 1, Each.Tip});
+    ConstruireMenu(Bar_Menus, App.Feuilles.Get<frm_Configuration>(), {Métiers});
 }
 
 void frm_ArtisanatsManuels::Activate()
@@ -110,29 +113,11 @@ void frm_ArtisanatsManuels::WayBack()
     Revenir(App, *this, Retour::CacherPuisAccueil);
 }
 
-void frm_ArtisanatsManuels::ConstruireMenu()
-{
-    auto& Configuration = App.Feuilles.Get<frm_Configuration>();
-    Bar_Menus.Attach(Configuration.imglst_CraftPetit, Configuration.imglst_CraftGrand);
-    SideMenu::Bar Métiers{
-        "Artisanats", "Liste des artisanats",         "Sélection d'un artisanat manuel.",
-        CouleursMenu, Configuration.pct_Logo.Picture, {}};
-    for (const Artisanat& Each : Artisanats) // the small icons count from 0
-        Métiers.Items.push_back({Each.Nom, Each.Nom, Each.Image - 1, Each.Tip});
-    Bar_Menus.Build({Métiers,
-                     {"Panier",
-                      "Panier",
-                      "Gestion du panier.",
-                      CouleursMenu,
-                      {},
-                      {{"OuvrirPanier", "Voir le panier", IcônePanier, ""}}}});
-}
-
 void frm_ArtisanatsManuels::Bar_Menus_ItemClick(const SideMenu::Item& Entrée)
 {
     if (Chercher(Entrée.Text) != nullptr)
         PrendreArtisanat(Entrée.Text);
-    else if (Entrée.Text == "Voir le panier")
+    else if (Entrée.Text == VoirPanier)
         App.Feuilles.Touch("frm_Panier").Show();
     LireRéglage(App.Feuilles.Get<frm_Configuration>().txt_NiveauAlchimie, NiveauAlchimie);
     EffacerSélection(1);

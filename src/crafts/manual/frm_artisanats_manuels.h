@@ -1,5 +1,6 @@
 #pragma once
 
+#include "crafts/common/material_line.h"
 #include "shell/feuille.h"
 
 #include <cstdint>
@@ -125,9 +126,10 @@ class frm_ArtisanatsManuels : public Feuille
     void DéfinirVente();
     void DéfinirObjetSup();
     void Relier(); // handlers to their controls
+    LigneMatériau Ligne(int i);
+    LigneMatériau LigneSup(int i);
 
     // Selection
-    void ConstruireMenu();
     void Bar_Menus_ItemClick(const SideMenu::Item& Entrée);
     void PrendreArtisanat(const std::string& Nom);
     void EffacerSélection(std::int16_t Palier);
@@ -144,7 +146,6 @@ class frm_ArtisanatsManuels : public Feuille
     // Degree
     void cbo_Degré_Click();
     void LireDegré();
-    void RésoudreMatériau(TextBox& Code, TextBox& Nom, TextBox& Prix);
     void LireNiveaux(const Recordset& Objet);
     void LireStatistiques(const Recordset& Objet);
     void txt_MatériauxBruts_Change(int i);
@@ -161,9 +162,7 @@ class frm_ArtisanatsManuels : public Feuille
     void LireObjetSup();
     bool CalculerPrixObjetSup();
     void txt_ObjetSup_Change();
-    void MontrerMatSup(int i, bool Montré);
     void txt_MatSup_Change(int i);
-    void txt_PrixMatSuptUnitaire_Change(int i);
 
     void cmd_AjouterPanier_Click();
 

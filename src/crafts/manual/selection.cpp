@@ -2,6 +2,7 @@
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "shell/queries.h"
 #include "toolkit/visibility.h"
+#include "toolkit/writing.h"
 
 #include <array>
 
@@ -34,13 +35,6 @@ const RègleDegrés* Chercher(const std::string& Sup)
     return nullptr;
 }
 
-template <class Family>
-void ÉcrirePartout(Family& Boxes, const char* Text)
-{
-    for (TextBox& Box : Boxes)
-        Box.Text = Text;
-}
-
 } // namespace
 
 // Clears the screen from one level of the cascade down: 1 the products, 2 their details, 3 the
@@ -70,25 +64,24 @@ void frm_ArtisanatsManuels::EffacerSélection(std::int16_t Palier)
 // Prices are recalculated as they fall; counts, totals and level aren't written here.
 void frm_ArtisanatsManuels::EffacerMatériaux()
 {
-    ÉcrirePartout(txt_Matériaux, "");
-    ÉcrirePartout(txt_MatériauxBruts, "");
-    ÉcrirePartout(txt_MatériauxQté, "0");
-    ÉcrirePartout(txt_PrixMatUnitaire, "0");
-    ÉcrirePartout(txt_PrixMat, "0");
+    WriteAll(txt_Matériaux, "");
+    WriteAll(txt_MatériauxBruts, "");
+    WriteAll(txt_MatériauxQté, "0");
+    WriteAll(txt_PrixMatUnitaire, "0");
+    WriteAll(txt_PrixMat, "0");
     txt_PrixRevente.Text = "0";
     txt_PrixCoûtant.Text = "0";
-    ÉcrirePartout(txt_MatSup, "");
-    ÉcrirePartout(txt_MatSupQté, "0");
-    ÉcrirePartout(txt_PrixMatSuptUnitaire, "0");
-    ÉcrirePartout(txt_PrixMatSup, "0");
+    WriteAll(txt_MatSup, "");
+    WriteAll(txt_MatSupQté, "0");
+    WriteAll(txt_PrixMatSuptUnitaire, "0");
+    WriteAll(txt_PrixMatSup, "0");
     txt_ObjetSUpPrixCoûtant.Text = "0";
     txt_NbObjetSup.Text = "1";
 }
 
 void frm_ArtisanatsManuels::EffacerInfosObjet()
 {
-    for (TextBox* Info : {&txt_Dps, &txt_Vit, &txt_AF, &txt_Niveau, &txt_BonusSpécial})
-        Info->Text = "";
+    WriteAll({&txt_Dps, &txt_Vit, &txt_AF, &txt_Niveau, &txt_BonusSpécial}, "");
 }
 
 void frm_ArtisanatsManuels::RemplirProduits()

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "shell/application.h"
+#include "toolkit/controls.h"
+#include "toolkit/family.h"
+#include "toolkit/text_box.h"
+
+// What several crafts take from the alchemy database.
+namespace orvane {
+
+// Some materials are named by realm: the last character of the name gives way to the realm's own
+// ending. Needs the alchemy database open; fails when no material bears the name.
+void RemplacerDernierCaractère(Variables& Globals, TextBox& Nom);
+
+// Where an object that another one needs shows its level, its icon and its first four materials.
+struct BlocObjetSup
+{
+    Label& Niveau;
+    TextBox& Icône;
+    Family<TextBox, 4>& Noms;
+    Family<TextBox, 4>& Quantités;
+    Family<TextBox, 4>& PrixUnitaires;
+};
+
+// Fills the block from the alchemy object of that name, whatever its product. Needs the alchemy
+// database open; fails when there is no such object.
+void ChargerObjetSup(Variables& Globals, const std::string& Nom, const BlocObjetSup& Bloc);
+
+} // namespace orvane

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "shell/application.h"
+#include "toolkit/text_box.h"
+
+#include <cstdint>
+#include <string_view>
+
+// The material codes of an object's row. Most are a type of the materials table, which names the
+// material and its price together with the degree; a few are not.
+namespace orvane {
+
+inline constexpr std::string_view CodeSansMatériau = "10";
+inline constexpr std::string_view CodePatron = "8";
+inline constexpr std::string_view CodePrixLibre = "9"; // priced by the crafter
+
+// Name and unit price of the material that a code means at a degree; a row without material is left
+// as it is. PatronCouronne tells which of the two sewing patterns the object takes. Needs the realm
+// database open; fails when the table has no such material.
+void RésoudreMatériau(Variables& Globals, const std::string& Code, std::int16_t NuméroDegré,
+                      bool PatronCouronne, TextBox& Nom, TextBox& Prix);
+
+} // namespace orvane
