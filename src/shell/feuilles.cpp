@@ -2,6 +2,7 @@
 
 #include "basket/frm_panier.h"
 #include "crafts/archery/frm_archerie.h"
+#include "crafts/magic/frm_artisanats_magiques.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "news/frm_news.h"
 #include "news/frm_statut.h"
@@ -24,7 +25,6 @@ struct ÀVenir
 
 constexpr std::array FeuillesÀVenir{
     ÀVenir{"frm_ArmesLégendaires", "Armes Légendaires", Retour::Cacher},
-    ÀVenir{"frm_ArtisanatsMagiques", "Artisanats magiques", Retour::CacherPuisAccueil},
     ÀVenir{"frm_ArtisanatsSecondaires", "Artisanats Secondaires", Retour::CacherPuisAccueil},
 };
 
@@ -39,10 +39,14 @@ void Enregistrer(Application& App)
 
 std::vector<std::string> NomsFeuilles()
 {
-    std::vector<std::string> Noms{
-        frm_Accueil::ScreenName,  frm_Configuration::ScreenName, frm_ArtisanatsManuels::ScreenName,
-        frm_Archerie::ScreenName, frm_Panier::ScreenName,        frm_News::ScreenName,
-        frm_Statut::ScreenName};
+    std::vector<std::string> Noms{frm_Accueil::ScreenName,
+                                  frm_Configuration::ScreenName,
+                                  frm_ArtisanatsManuels::ScreenName,
+                                  frm_ArtisanatsMagiques::ScreenName,
+                                  frm_Archerie::ScreenName,
+                                  frm_Panier::ScreenName,
+                                  frm_News::ScreenName,
+                                  frm_Statut::ScreenName};
     for (const ÀVenir& Each : FeuillesÀVenir)
         Noms.emplace_back(Each.Nom);
     return Noms;
@@ -54,6 +58,7 @@ void EnregistrerFeuilles(Application& App)
     Enregistrer<frm_Configuration>(App);
     Enregistrer<frm_ArtisanatsManuels>(App);
     Enregistrer<frm_Archerie>(App);
+    Enregistrer<frm_ArtisanatsMagiques>(App);
     Enregistrer<frm_Panier>(App);
     Enregistrer<frm_News>(App);
     Enregistrer<frm_Statut>(App);

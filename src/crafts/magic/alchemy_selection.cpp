@@ -1,0 +1,156 @@
+#include "crafts/common/alchemy_object.h"
+#include "crafts/common/joined_column.h"
+#include "crafts/magic/frm_artisanats_magiques.h"
+#include "settings/affichage.h"
+#include "shell/queries.h"
+#include "toolkit/calculation.h"
+#include "toolkit/visibility.h"
+
+#include <array>
+#include <vector>
+
+// The alchemy walk, from the products down to one object, and what its row brings onto the screen.
+namespace orvane {
+
+namespace {
+
+constexpr int DétailLarge = 3855;  // twips
+constexpr int DétailÉtroit = 1815; // beside the filter
+
+constexpr const char* EffetsÀDéclenchement = "Effets à déclenchement";
+
+// Words of object names to filter by; the first four go with every detail.
+constexpr std::array FiltresCommuns{"énergie", "esprit", "feu", "glace"};
+
+struct FiltresDétail
+{
+    const char* Détail;
+    std::vector<const char*> Mots;
+};
+
+const FiltresDétail FiltresDétails[] = {
+    {"Charges",
+     {"absorbante", "aiguisante", "changeante", "célérité", "transmission", "illumination",
+      "épineuse", "estropiante", "flétrissante", "fusionnante", "neutralisante", "renforçante",
+      "revigorante"}},
+    {"Effets d'arme",
+     {"célérité", "diminution", "épine", "érosion", "fusionnante", "provocante", "renforçante"}},
+    {"Effets d'armure",
+     {"célérité", "diminution", "volutes", "érosion", "drainante", "épineuse", "fusionnante",
+      "renforçante"}},
+};
+
+void RemplirFiltres(ComboBox& Liste, const std::string& Détail)
+{
+    Liste.Clear();
+    for (const char* Mot : FiltresCommuns)
+        Liste.AddItem(Mot);
+    for (const FiltresDétail& Each : FiltresDétails)
+        if (Détail == Each.Détail)
+            for (const char* Mot : Each.Mots)
+                Liste.AddItem(Mot);
+}
+
+} // namespace
+
+void frm_ArtisanatsMagiques::cbo_Produit_Click()
+{
+    EffacerSélection(2);
+    EffacerMatériaux();
+    {
+        const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
+        Globals.TexteSQL =
+            "SELECT * FROM R_Alchimie WHERE Produits.Nom=" + Quoted(cbo_Produit.Text());
+        orvane::RemplirListe(Globals, cbo_ProduitDétaillé, "ProduitsDétaillés.Nom");
+    }
+    const bool AvecFiltre = cbo_Produit.Text() == EffetsÀDéclenchement;
+    ShowAll({&cbo_Type, &lbl_Type}, AvecFiltre);
+    cbo_ProduitDétaillé.Width = AvecFiltre ? DétailÉtroit : DétailLarge;
+}
+
+void frm_ArtisanatsMagiques::cbo_ProduitDétaillé_Click()
+{
+    EffacerSélection(3);
+    EffacerMatériaux();
+    {
+        const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
+        Globals.TexteSQL = "SELECT ListeObjets.Nom FROM R_AlchimieObjet WHERE (Produits.Nom=" +
+                           Quoted(cbo_Produit.Text()) +
+                           " AND ProduitsDétaillés.Nom=" + Quoted(cbo_ProduitDétaillé.Text()) + ")";
+        orvane::RemplirListe(Globals, cbo_Objet, "Nom");
+    }
+    RemplirFiltres(cbo_Type, cbo_ProduitDétaillé.Text);
+}
+
+// Each word filters the whole detail afresh; a word that no object holds leaves the list as it was.
+void frm_ArtisanatsMagiques::cbo_Type_Click()
+{
+    EffacerMatériaux();
+    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
+    Globals.TexteSQL = "SELECT ListeObjets.Nom FROM R_AlchimieObjet WHERE (Produits.Nom=" +
+                       Quoted(cbo_Produit.Text()) +
+                       " AND ProduitsDétaillés.Nom=" + Quoted(cbo_ProduitDétaillé.Text()) +
+                       " AND ListeObjets.Nom LIKE " + Quoted("*" + cbo_Type.Text + "*") +
+                       ") ORDER BY NiveauCraft";
+    if (OuvrirEnregistrements(Globals).RecordCount() == 0)
+        return;
+    EffacerSélection(4);
+    orvane::RemplirListe(Globals, cbo_Objet, "Nom");
+}
+
+void frm_ArtisanatsMagiques::cbo_Objet_Click()
+{
+    EffacerMatériaux();
+    ReadOrStale(RésultatsAlchimie(), [&] { LireObjet(); });
+    ChangerCouleurCraft(App, lbl_NiveauAlchimie.Caption, NiveauAlchimie, img_NiveauAlchimie);
+    if (txt_AlchimieObjetSup.Text != "")
+        ChangerCouleurCraft(App, lbl_AlchimieObjetSupNiveauCraft.Caption, NiveauAlchimie,
+                            img_AlchimieObjetSupNiveau);
+    CalculerPrixAlchimie();
+}
+
+// Within a line the quantity comes before the unit price, whose handler works out the line price.
+void frm_ArtisanatsMagiques::LireObjet()
+{
+    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
+    Globals.TexteSQL =
+        "SELECT * FROM R_AlchimieObjet WHERE (Produits.Nom=" + Quoted(cbo_Produit.Text()) +
+        " AND ProduitsDétaillés.Nom=" + Quoted(cbo_ProduitDétaillé.Text()) +
+        " AND ListeObjets.Nom=" + Quoted(cbo_Objet.Text()) + ")";
+    const Recordset Objet = PremierEnregistrement(Globals); // its own copy: the writes below nest
+    lbl_NiveauAlchimie.Caption = Objet.Text("NiveauCraft");
+    txt_IcôneAlchimie.Text = Objet.TextOrEmpty("Icône");
+    for (int i = 1; i <= 6; ++i)
+        ChargerLigne(i, Objet.Text(ColonneJointe("Matériaux", i, "Nom")),
+                     i == 1 ? "1" : Objet.Text("Qté" + std::to_string(i)),
+                     Objet.Text(ColonneJointe("Matériaux", i, "Prix")));
+    LireCaractéristiques(Objet);
+    txt_AlchimieObjetSup.Text = Objet.TextOrEmpty("NomObjet");
+    txt_NbAlchimieObjetSup.Text = Objet.Text("NbObjet");
+    txt_PrixReventeAlchimie.Text = Objet.Text("Revente");
+    Globals.Enregistrements.Empty();
+
+    if (cbo_Produit.Text() == EffetsÀDéclenchement)
+        RemplacerDernierCaractère(Globals, txt_Ingdt[1]);
+    if (txt_AlchimieObjetSup.Text != "")
+        ChargerObjetSup(Globals, txt_AlchimieObjetSup.Text,
+                        {lbl_AlchimieObjetSupNiveauCraft, txt_AlchimieIconeObjetSup, txt_MatSup,
+                         txt_MatSupQté, txt_PrixMatSuptUnitaire});
+}
+
+void frm_ArtisanatsMagiques::LireCaractéristiques(const Recordset& Objet)
+{
+    txt_NiveauObjet.Text = Objet.Text("Niveau");
+    txt_EffetObjet.Text = Objet.Text("Effets.Nom");
+    txt_DuréeObjet.Text = Objet.Text("Durée");
+    txt_ValeurObjet.Text = Objet.Text("Valeur");
+    txt_RésistObjet.Text = Objet.Text("Résistance");
+    txt_ChargesObjet.Text = Objet.Text("Charges");
+}
+
+void frm_ArtisanatsMagiques::MontrerCaractéristique(TextBox& Valeur, Label& Titre)
+{
+    ShowAll({&Valeur, &Titre}, Valeur.Text != "N/A");
+}
+
+} // namespace orvane

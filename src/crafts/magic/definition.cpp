@@ -1,0 +1,252 @@
+#include "crafts/magic/frm_artisanats_magiques.h"
+#include "toolkit/visibility.h"
+
+// Where the controls of the magic crafts stand and what they say until a skin moves them. The menu
+// at the left; choice, materials and prices one below the other; level and extra object at the
+// right. The two crafts take the same places.
+namespace orvane {
+
+namespace {
+
+constexpr int MiddleX = 214;
+constexpr int MiddleWide = 480;
+constexpr int RightX = 704;
+constexpr int RightWide = 296;
+constexpr int ChoiceY = 86;
+constexpr int ChoiceHigh = 166;
+constexpr int MaterialsY = 262;
+constexpr int PricesY = 482;
+constexpr int High = 24;
+constexpr int Margin = 14;
+
+// A caption above its box.
+void PlaceStacked(Label& Name, const char* Words, TextBox& Value, int X, int Y, int Wide)
+{
+    PlaceLabel(Name, Words, {X, Y, Wide, 20});
+    Place(Value, {X, Y + 20, Wide, High});
+}
+
+} // namespace
+
+LigneMatériau frm_ArtisanatsMagiques::Ligne(int i)
+{
+    return {txt_Ingdt[i], lbl_IngdtX[i], txt_IngdtQté[i], lbl_Ingdt[i], txt_PrixIngdt[i]};
+}
+
+LigneMatériau frm_ArtisanatsMagiques::LigneSup(int i)
+{
+    return {txt_MatSup[i], lbl_MatSupX[i], txt_MatSupQté[i], lbl_MatSup[i], txt_PrixMatSup[i]};
+}
+
+void frm_ArtisanatsMagiques::Définir()
+{
+    SizeScreen(*this, 1008, 700);
+    Place(Bar_Menus, {12, 10, 190, 680});
+    Place(img_Bannière, {MiddleX - 4, 10, 590, 64});
+    PlacePanel(shp_Artisanat, {812, 10, 188, 64});
+    Place(pct_Artisanat, {824, 26, 32, 32});
+    PlaceTitle(lbl_Artisanat, "Alchimie", {864, 24, 132, 36});
+    DéfinirChoixAlchimie();
+    DéfinirCaractéristiques();
+    DéfinirChoixArcanes();
+    DéfinirMatériaux();
+    DéfinirObjetSup();
+    DéfinirPrixAlchimie();
+    DéfinirPrixArcanes();
+    AfficherArcanes(false);
+    for (TextBox* Holder : {&txt_IcôneAlchimie, &txt_IcôneArcanes, &txt_AlchimieIconeObjetSup,
+                            &txt_Degré, &txt_ArcanesCoefQté2})
+        Holder->Visible = false;
+    for (TextBox& Holder : txt_PrixIngdtUnitaire)
+        Holder.Visible = false;
+    for (TextBox& Holder : txt_PrixMatSuptUnitaire)
+        Holder.Visible = false;
+    PlaceButton(cmd_AjouterPanier, "Ajouter au panier", "Ajouter l’objet à la commande en cours",
+                {RightX, 644, 168, 46});
+    PlaceButton(cmd_Retour, "Retour", "Revenir à l’accueil", {RightX + 180, 644, 116, 46});
+}
+
+void frm_ArtisanatsMagiques::DéfinirChoixAlchimie()
+{
+    constexpr int X = MiddleX + Margin;
+    PlacePanel(Shp_AlchimieChoix, {MiddleX, ChoiceY, MiddleWide, ChoiceHigh});
+    PlaceHeading(lbl_AlchimieChoix, "Sélectionner un objet", {X, 90, 400, High});
+    struct Row
+    {
+        Label& Name;
+        const char* Words;
+        ComboBox& List;
+        int Y;
+        int Wide;
+    };
+    for (const Row& Each : {Row{lbl_Produit, "Produit :", cbo_Produit, 122, 358},
+                            Row{lbl_ProduitDétaillé, "Détail :", cbo_ProduitDétaillé, 164, 257},
+                            Row{lbl_Objet, "Objet :", cbo_Objet, 206, 358}}) {
+        PlaceLabel(Each.Name, Each.Words, {X, Each.Y, 90, High});
+        Place(Each.List, {X + 92, Each.Y, Each.Wide, 25});
+    }
+    PlaceLabel(lbl_Type, "Type :", {X + 228, 164, 52, High});
+    Place(cbo_Type, {X + 282, 164, 168, 25});
+    for (ComboBox* Each : {&cbo_Produit, &cbo_ProduitDétaillé, &cbo_Type, &cbo_Objet})
+        Each->Sorted = true;
+    ShowAll({&lbl_Type, &cbo_Type}, false);
+}
+
+void frm_ArtisanatsMagiques::DéfinirCaractéristiques()
+{
+    constexpr int X = RightX + Margin;
+    PlacePanel(shp_AlchimieObjet, {RightX, ChoiceY, RightWide, ChoiceHigh});
+    PlaceHeading(lbl_Caractéristiques, "Caractéristiques de l'objet", {X, 90, 270, High});
+    PlaceField(lbl_NiveauObjet, "Niveau :", txt_NiveauObjet, {X, 118, 80, High}, 54);
+    PlaceField(lbl_ChargesObjet, "Charges :", txt_ChargesObjet, {X + 148, 118, 66, High}, 54);
+    PlaceField(lbl_EffetObjet, "Effet : ", txt_EffetObjet, {X, 150, 80, High}, 188);
+    PlaceField(lbl_DuréeObjet, "Durée : ", txt_DuréeObjet, {X, 182, 80, High}, 54);
+    PlaceField(lbl_valeurObjet, "Valeur : ", txt_ValeurObjet, {X + 148, 182, 50, High}, 70);
+    PlaceField(lbl_RésistObjet, "Résistance : ", txt_RésistObjet, {X, 214, 80, High}, 188);
+    ShowAll({&lbl_ChargesObjet, &txt_ChargesObjet}, false);
+}
+
+void frm_ArtisanatsMagiques::DéfinirChoixArcanes()
+{
+    constexpr int X = MiddleX + Margin;
+    constexpr int GemX = X + 140;
+    constexpr int BonusX = GemX + 314;
+    constexpr int ListWide = 300;
+    PlacePanel(shp_ArcanesChoix, {MiddleX, ChoiceY, RightX + RightWide - MiddleX, ChoiceHigh});
+    PlaceHeading(lbl_ArcanesGemmes, "Gemmes", {GemX, 90, ListWide, High});
+    PlaceHeading(lbl_ArcanesBonus, "Bonus", {BonusX, 90, ListWide, High});
+    struct Row
+    {
+        Label& Name;
+        const char* Words;
+        ComboBox& Gems;
+        ComboBox& Bonus;
+        int Y;
+    };
+    for (const Row& Each :
+         {Row{lbl_ArcanesType, "Type :", cbo_TypeGemmes, cbo_TypeBonus, 122},
+          Row{lbl_ArcanesSousType, "Sous-Type :", cbo_SousTypeGemmes, cbo_SousTypeBonus, 164},
+          Row{lbl_ArcanesDegré, "Degré de finition :", cbo_DegréGemmes, cbo_DegréBonus, 206}}) {
+        PlaceLabel(Each.Name, Each.Words, {X, Each.Y, 132, High});
+        Place(Each.Gems, {GemX, Each.Y, ListWide, 25});
+        Place(Each.Bonus, {BonusX, Each.Y, ListWide, 25});
+    }
+    for (ComboBox* Each :
+         {&cbo_TypeGemmes, &cbo_SousTypeGemmes, &cbo_TypeBonus, &cbo_SousTypeBonus})
+        Each->Sorted = true; // the degrees keep the order of their table
+}
+
+void frm_ArtisanatsMagiques::DéfinirMatériaux()
+{
+    PlacePanel(shp_AlchimieMatériaux, {MiddleX, MaterialsY, MiddleWide, 210});
+    PlaceHeading(lbl_AlchimieMatériaux, "Matériaux", {MiddleX + Margin, MaterialsY + 4, 300, High});
+    for (int i = 1; i <= 6; ++i) {
+        Placer(Ligne(i), MiddleX + Margin, MaterialsY + 30 + (i - 1) * 29, {268, 42, 114});
+        txt_PrixIngdt[i].Accepts = NumberKind::Montant;
+    }
+    constexpr int X = RightX + Margin;
+    PlacePanel(shp_AlchimieArtisanat, {RightX, MaterialsY, RightWide, 66});
+    PlaceHeading(lbl_ArtisanatObjet, "Artisanat", {X, MaterialsY + 4, 150, High});
+    PlaceLabel(lbl_NiveauCraftAlchimie, "Niveau :", {X, MaterialsY + 34, 60, High});
+    PlaceTitle(lbl_NiveauAlchimie, "", {X + 62, MaterialsY + 30, 74, 30});
+    Place(img_NiveauAlchimie, {X + 140, MaterialsY + 33, 24, 24});
+    Place(img_NiveauArcanes, {X + 172, MaterialsY + 33, 24, 24});
+    for (PictureBox* Icon : {&pct_IconeAlchimie, &pct_IconeArcanes})
+        Place(*Icon, {RightX + RightWide - Margin - 32, MaterialsY + 17, 32, 32});
+}
+
+void frm_ArtisanatsMagiques::DéfinirObjetSup()
+{
+    constexpr int X = RightX + Margin;
+    constexpr int Y = MaterialsY + 76;
+    PlacePanel(shp_AlchimieObjetSup, {RightX, Y, RightWide, 242});
+    PlaceHeading(lbl_AlchimieObjetSup, "Objet nécessaire", {X, Y + 4, 220, High});
+    Place(txt_AlchimieObjetSup, {X, Y + 32, 230, High});
+    Place(img_AlchimieObjetSup, {X + 238, Y + 24, 32, 32});
+    PlaceField(lbl_NbAlchimieObjetSup, "Nb :", txt_NbAlchimieObjetSup, {X, Y + 62, 36, High}, 44);
+    PlaceLabel(lbl_AlchimieObjetSupNiveau, "Niveau :", {X + 98, Y + 62, 58, High});
+    PlaceLabel(lbl_AlchimieObjetSupNiveauCraft, "", {X + 158, Y + 62, 50, High}, Alignment::Right);
+    Place(img_AlchimieObjetSupNiveau, {X + 218, Y + 62, 24, 24});
+    for (int i = 1; i <= 4; ++i)
+        Placer(LigneSup(i), X, Y + 92 + (i - 1) * 28, {145, 32, 65});
+    PlaceField(lbl_AlchimieObjetSUpPrixCoûtant, "Prix coûtant :", txt_AlchimieObjetSUpPrixCoûtant,
+               {X + 70, Y + 208, 100, High}, 100);
+    txt_NbAlchimieObjetSup.StartWith("1");
+    txt_AlchimieObjetSUpPrixCoûtant.StartWith("0");
+    txt_AlchimieObjetSup.Locked = false;
+    txt_PrixMatSup[2].Accepts = NumberKind::Montant;
+    txt_AlchimieObjetSup_Change(); // the whole panel is hidden until an object asks for another one
+}
+
+void frm_ArtisanatsMagiques::DéfinirPrixAlchimie()
+{
+    constexpr int X = MiddleX + Margin;
+    PlacePanel(shp_AlchimiePrix, {MiddleX, PricesY, MiddleWide, 208});
+    PlaceHeading(lbl_PrixAlchimie, "Calcul des prix", {X, PricesY + 6, 300, High});
+    struct Row
+    {
+        Label& Name;
+        const char* Words;
+        TextBox& Value;
+        const char* Initial;
+    };
+    int Y = PricesY + 42;
+    for (const Row& Each :
+         {Row{lbl_AlchimieNbObjet, "Nb d'obj. fabriqués :", txt_NbObjetAlchimie, "1"},
+          Row{lbl_AlchimiePrixCoûtant, "Prix coûtant :", txt_PrixCoûtantAlchimie, "0"},
+          Row{lbl_AlchimiePrixvente, "Px de vente :", txt_PrixVenteAlchimie, "0"},
+          Row{lbl_AlchimiePrixrevente, "Revente à un PNJ :", txt_PrixReventeAlchimie, "0"}}) {
+        PlaceField(Each.Name, Each.Words, Each.Value, {X, Y, 200, High}, 160);
+        Each.Value.StartWith(Each.Initial);
+        Y += 40;
+    }
+    txt_NbObjetAlchimie.OpenFor(NumberKind::Entier16);
+}
+
+void frm_ArtisanatsMagiques::DéfinirPrixArcanes()
+{
+    constexpr int Wide = 104;
+    constexpr int Step = 116;
+    constexpr int One = MiddleX + Margin;
+    constexpr int WithTrials = One + Step;
+    constexpr int Several = WithTrials + Step;
+    constexpr int All = Several + Step;
+    PlacePanel(shp_ArcanesPrix, {MiddleX, PricesY, MiddleWide, 208});
+    PlaceHeading(lbl_ArcanesInfos, "Infos de vente", {One, PricesY + 6, Wide + 8, High});
+    PlaceHeading(lbl_ArcanesQualité, "Qualité", {WithTrials, PricesY + 6, Wide, High});
+    PlaceHeading(lbl_ArcanesQuantité, "Quantité", {Several, PricesY + 6, Wide, High});
+    PlaceHeading(lbl_ArcanesToutInclus, "Tout inclus", {All, PricesY + 6, Wide, High});
+
+    struct Cell
+    {
+        Label& Name;
+        const char* Words;
+        TextBox& Value;
+        int X;
+        int Row;
+    };
+    const Cell Cells[] = {
+        {lbl_ArcanesPrixCoûtant, "Prix coûtant :", txt_ArcanesPrixCoûtant, One, 0},
+        {lbl_ArcanesPrixRevente, "Px revente PNJ :", txt_ArcanesPrixRevente, One, 1},
+        {lbl_ArcanesPrixVente, "Px vente :", txt_ArcanesPrixVente, One, 2},
+        {lbl_ArcanesNbEssais, "Nb essais :", txt_ArcanesNbEssais, WithTrials, 0},
+        {lbl_ArcanesPrixCoûtantQualité, "Px coûtant :", txt_ArcanesPrixCoûtantQualité, WithTrials,
+         1},
+        {lbl_ArcanesPrixVenteQualité, "Px vente :", txt_ArcanesPrixVenteQualité, WithTrials, 2},
+        {lbl_ArcanesNbObjet, "Nb d'obj. :", txt_ArcanesNbObjet, Several, 0},
+        {lbl_ArcanesPrixCoûtantQuantité, "Px coûtant :", txt_ArcanesPrixCoûtantQuantité, Several,
+         1},
+        {lbl_ArcanesPrixVenteQuantité, "Px vente :", txt_ArcanesPrixVenteQuantité, Several, 2},
+        {lbl_ArcanesPrixCoûtantTotal, "Prix coûtant :", txt_ArcanesPrixCoûtantTotal, All, 1},
+        {lbl_ArcanesPrixVenteTotal, "Prix de vente : ", txt_ArcanesPrixVenteTotal, All, 2},
+    };
+    for (const Cell& Each : Cells) {
+        PlaceStacked(Each.Name, Each.Words, Each.Value, Each.X, PricesY + 38 + Each.Row * 54, Wide);
+        Each.Value.StartWith("0");
+    }
+    txt_ArcanesNbObjet.StartWith("1");
+    for (TextBox* Count : {&txt_ArcanesNbEssais, &txt_ArcanesNbObjet})
+        Count->OpenFor(NumberKind::Entier16);
+}
+
+} // namespace orvane

@@ -1,0 +1,163 @@
+#include "crafts/magic/frm_artisanats_magiques.h"
+
+#include "basket/affichage.h"
+#include "crafts/common/counts.h"
+#include "crafts/common/craft_menu.h"
+#include "crafts/common/object_pictures.h"
+#include "shell/navigation.h"
+#include "shell/queries.h"
+
+namespace orvane {
+
+frm_ArtisanatsMagiques::frm_ArtisanatsMagiques(Application& App)
+    : Feuille(App, ScreenName, "Artisanats magiques")
+{
+    Définir();
+    Relier();
+    RelierLignes();
+}
+
+void frm_ArtisanatsMagiques::Relier()
+{
+    Bar_Menus.OnItemClick = [this](const SideMenu::Item& Entrée) { Bar_Menus_ItemClick(Entrée); };
+    cbo_Produit.OnClick = [this] { cbo_Produit_Click(); };
+    cbo_ProduitDétaillé.OnClick = [this] { cbo_ProduitDétaillé_Click(); };
+    cbo_Type.OnClick = [this] { cbo_Type_Click(); };
+    cbo_Objet.OnClick = [this] { cbo_Objet_Click(); };
+    cbo_TypeGemmes.OnClick = [this] { cbo_TypeGemmes_Click(); };
+    cbo_SousTypeGemmes.OnClick = [this] { cbo_SousTypeGemmes_Click(); };
+    cbo_DegréGemmes.OnClick = [this] { cbo_DegréGemmes_Click(); };
+    cbo_TypeBonus.OnClick = [this] { cbo_TypeBonus_Click(); };
+    cbo_SousTypeBonus.OnClick = [this] { cbo_SousTypeBonus_Click(); };
+    cbo_DegréBonus.OnClick = [this] { cbo_DegréBonus_Click(); };
+    txt_IcôneAlchimie.OnChange = [this] {
+        MontrerIcôneCommune(this->App, txt_IcôneAlchimie, pct_IconeAlchimie);
+    };
+    txt_IcôneArcanes.OnChange = [this] {
+        MontrerIcôneCommune(this->App, txt_IcôneArcanes, pct_IconeArcanes);
+    };
+    txt_AlchimieIconeObjetSup.OnChange = [this] {
+        MontrerIcôneCommune(this->App, txt_AlchimieIconeObjetSup, img_AlchimieObjetSup);
+    };
+    txt_DuréeObjet.OnChange = [this] { MontrerCaractéristique(txt_DuréeObjet, lbl_DuréeObjet); };
+    txt_ValeurObjet.OnChange = [this] { MontrerCaractéristique(txt_ValeurObjet, lbl_valeurObjet); };
+    txt_RésistObjet.OnChange = [this] { MontrerCaractéristique(txt_RésistObjet, lbl_RésistObjet); };
+    txt_ChargesObjet.OnChange = [this] {
+        MontrerCaractéristique(txt_ChargesObjet, lbl_ChargesObjet);
+    };
+    RecalculerAuChangement(txt_NbObjetAlchimie, {""}, "1", [this] { CalculerPrixAlchimie(); });
+    RecalculerAuChangement(txt_ArcanesNbEssais, {""}, "0", [this] { CalculerPrixArcanes(); });
+    RecalculerAuChangement(txt_ArcanesNbObjet, {""}, "1", [this] { CalculerPrixArcanes(); });
+    cmd_AjouterPanier.OnClick = [this] { cmd_AjouterPanier_Click(); };
+    cmd_Retour.OnClick = [this] { WayBack(); };
+}
+
+void frm_ArtisanatsMagiques::RelierLignes()
+{
+    for (int i = 1; i <= 6; ++i) {
+        txt_Ingdt[i].OnChange = [this, i] { Montrer(Ligne(i), txt_Ingdt[i].Text != SansNom); };
+        txt_PrixIngdtUnitaire[i].OnChange = [this, i] { txt_PrixIngdtUnitaire_Change(i); };
+        // a line that is closed is written by a pick, which adds up at its end
+        RecalculerAuChangement(txt_PrixIngdt[i], {""}, "0", [this, i] {
+            if (!txt_PrixIngdt[i].Locked)
+                CalculerPrix();
+        });
+    }
+    for (int i = 1; i <= 4; ++i)
+        txt_PrixMatSuptUnitaire[i].OnChange = [this, i] { txt_PrixMatSuptUnitaire_Change(i); };
+    for (int i : {3, 4})
+        txt_MatSup[i].OnChange = [this, i] { txt_MatSup_Change(i); };
+    RecalculerAuChangement(txt_PrixMatSup[2], {""}, "0", [this] {
+        if (!txt_PrixMatSup[2].Locked)
+            CalculerPrix();
+    });
+    txt_AlchimieObjetSup.OnChange = [this] { txt_AlchimieObjetSup_Change(); };
+}
+
+void frm_ArtisanatsMagiques::Load()
+{
+    ConstruireMenu(
+        Bar_Menus, App.Feuilles.Get<frm_Configuration>(),
+        {{"Artisanats",
+          "Liste des artisanats",
+          "Sélection d'un artisanat magique.",
+          {{"Arcanes", "Arcanes", 8, "Fabrication des gemmes."},
+           {"Alchimie", "Alchimie", 9, "Fabrication de teintures, potions et poisons."}}}});
+}
+
+// Starts over on the alchemy side. The figures of the last object stay, with no choice above them.
+void frm_ArtisanatsMagiques::Activate()
+{
+    PrendreAlchimie();
+    auto& Configuration = App.Feuilles.Get<frm_Configuration>();
+    LireRéglage(Configuration.txt_NiveauAlchimie, NiveauAlchimie);
+    LireRéglage(Configuration.txt_MargeAlchimie, MargeAlchimie);
+    LireRéglage(Configuration.txt_NiveauArcanes, NiveauArcanes);
+    LireRéglage(Configuration.txt_MargeArcanes, MargeArcanes);
+    LireRéglage(Configuration.txt_EssaiArcanes, MargeEssais);
+    RemplirProduits();
+    RemplirGemmes();
+}
+
+void frm_ArtisanatsMagiques::WayBack()
+{
+    Revenir(App, *this, Retour::CacherPuisAccueil);
+}
+
+void frm_ArtisanatsMagiques::RemplirProduits()
+{
+    EffacerSélection(1);
+    cbo_Produit.Clear();
+    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
+    Globals.TexteSQL = "SELECT Nom FROM Produits";
+    orvane::RemplirListe(Globals, cbo_Produit, "Nom");
+}
+
+void frm_ArtisanatsMagiques::RemplirGemmes()
+{
+    EffacerSélectionGemmes(1);
+    cbo_TypeGemmes.Clear();
+    cbo_TypeBonus.Clear();
+    const std::string Degré = cbo_DegréGemmes.Text; // outlives its list
+    cbo_DegréGemmes.Clear();
+    cbo_DegréGemmes.Text = Degré;
+    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    RemplirListe("SELECT Nom FROM Arcanes_Produits", cbo_TypeGemmes, "Nom");
+    RemplirListe("SELECT Nom FROM Arcanes_Bonus", cbo_TypeBonus, "Nom");
+    RemplirListe("SELECT DegréType1 FROM Degrés_Arcanes", cbo_DegréGemmes, "DegréType1");
+}
+
+void frm_ArtisanatsMagiques::Bar_Menus_ItemClick(const SideMenu::Item& Entrée)
+{
+    if (Entrée.Text == "Arcanes")
+        PrendreArcanes();
+    else if (Entrée.Text == "Alchimie")
+        PrendreAlchimie();
+    else if (Entrée.Text == VoirPanier)
+        App.Feuilles.Touch("frm_Panier").Show();
+}
+
+void frm_ArtisanatsMagiques::cmd_AjouterPanier_Click()
+{
+    if (lbl_Artisanat.Caption() == "Alchimie") {
+        if (cbo_Objet.Text() == "") {
+            App.MsgBox("Aucun objet sélectionné.");
+            return;
+        }
+        const bool Teinture = cbo_Produit.Text() == "Teintures";
+        const std::string Détail = Teinture ? cbo_ProduitDétaillé.Text + " : " : std::string();
+        AjouterLigne(App, {Détail + cbo_Objet.Text(), txt_NbObjetAlchimie, txt_PrixCoûtantAlchimie,
+                           txt_PrixVenteAlchimie});
+    } else {
+        if (cbo_DegréGemmes.Text() == "") {
+            App.MsgBox("Aucune gemme sélectionnée.");
+            return;
+        }
+        AjouterLigne(
+            App,
+            {cbo_TypeGemmes.Text + " " + cbo_SousTypeGemmes.Text() + " " + cbo_DegréGemmes.Text(),
+             txt_ArcanesNbObjet, txt_ArcanesPrixCoûtantTotal, txt_ArcanesPrixVenteTotal});
+    }
+}
+
+} // namespace orvane

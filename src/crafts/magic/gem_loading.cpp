@@ -1,0 +1,131 @@
+#include "base/number_text.h"
+#include "crafts/common/joined_column.h"
+#include "crafts/magic/frm_artisanats_magiques.h"
+#include "settings/affichage.h"
+#include "shell/queries.h"
+#include "toolkit/calculation.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+// What one gem at one degree brings onto the screen. The first material depends on the degree
+// alone; the others are the gem's own.
+namespace orvane {
+
+namespace {
+
+constexpr const char* Trophées = "Gemmes pour trophés"; // as the data spell it
+constexpr std::array<std::string_view, 2> Délicates{"Délicate", "Délicat"};
+constexpr std::array<std::string_view, 4> Travaillées{"Eclatante", "Eclatant", "Délicate",
+                                                      "Délicat"};
+
+std::string Matériau(int i, const char* Colonne)
+{
+    return ColonneJointe("Matériaux_Arcanes", i, Colonne);
+}
+
+} // namespace
+
+// These gems exist at the first degree only.
+bool frm_ArtisanatsMagiques::PremierDegréSeul() const
+{
+    return cbo_TypeGemmes.Text() == Trophées ||
+           std::ranges::count(Délicates, cbo_SousTypeGemmes.Text()) > 0;
+}
+
+bool frm_ArtisanatsMagiques::ASixLignes() const
+{
+    return cbo_TypeGemmes.Text() == Trophées ||
+           std::ranges::count(Travaillées, cbo_SousTypeGemmes.Text()) > 0;
+}
+
+// Needs the realm database open.
+void frm_ArtisanatsMagiques::ChargerGemme()
+{
+    Globals.TexteSQL = "SELECT NuméroDegré, PrixRevente, DegréType1 FROM Degrés_Arcanes "
+                       "WHERE DegréType1=" +
+                       Quoted(cbo_DegréGemmes.Text());
+    const Recordset Degré = PremierEnregistrement(Globals);
+    const std::int16_t NuméroDegré = Degré.Whole("NuméroDegré");
+    txt_ArcanesPrixRevente.Text = Degré.Text("PrixRevente");
+
+    Globals.TexteSQL =
+        "SELECT * FROM R_ArcanesObjets WHERE (Arcanes_Bonus.Nom=" + Quoted(cbo_TypeBonus.Text()) +
+        " AND Bonus=" + Quoted(cbo_SousTypeBonus.Text()) + ")";
+    const Recordset Gemme = PremierEnregistrement(Globals); // its own copy: the writes below nest
+    txt_Ingdt[2].Text = Gemme.Text(Matériau(1, "Nom"));
+    txt_ArcanesCoefQté2.Text = Gemme.Text("CoefQté2");
+    txt_Ingdt[3].Text = Gemme.Text(Matériau(2, "Nom"));
+    lbl_NiveauAlchimie.Caption = T(Gemme.Number("NiveauCraft") + Entier16(100 * NuméroDegré));
+    txt_IngdtQté[1].Text = "1";
+    txt_IngdtQté[2].Text = std::to_string(Entier16(1 + I(txt_ArcanesCoefQté2) * NuméroDegré));
+    txt_IngdtQté[3].Text = std::to_string(Entier16(1 + NuméroDegré));
+    txt_PrixIngdtUnitaire[2].Text = Gemme.Text(Matériau(1, "Prix"));
+    txt_PrixIngdtUnitaire[3].Text = Gemme.Text(Matériau(2, "Prix"));
+    ChargerLignesSup(Gemme, NuméroDegré);
+    txt_AlchimieObjetSup.Text = Gemme.TextOrEmpty("NomObjet");
+    txt_NbAlchimieObjetSup.Text = Gemme.Text("NbObjet");
+    ChargerBase(NuméroDegré);
+    if (txt_AlchimieObjetSup.Text != "")
+        ChargerGemmeSup();
+    Globals.Enregistrements.Empty();
+}
+
+// Lines 4 to 6. The "1" before the price makes its text change also when the stored price is 0, so
+// that the line opens for a price of the crafter's own.
+void frm_ArtisanatsMagiques::ChargerLignesSup(const Recordset& Gemme, std::int16_t NuméroDegré)
+{
+    if (!ASixLignes()) {
+        for (int i = 4; i <= 6; ++i)
+            txt_Ingdt[i].Text = std::string(SansNom);
+        return;
+    }
+    const std::string Qté = cbo_SousTypeGemmes.Text() == "Eclatant"
+                                ? T(Gemme.Number("QtéSup") + Entier16(6 * NuméroDegré))
+                                : Gemme.Text("QtéSup");
+    for (int i = 4; i <= 6; ++i)
+        txt_Ingdt[i].Text = Gemme.Text(Matériau(i - 1, "Nom"));
+    for (int i = 4; i <= 6; ++i)
+        txt_IngdtQté[i].Text = Qté;
+    for (int i = 4; i <= 6; ++i) {
+        txt_PrixIngdtUnitaire[i].Text = "1";
+        txt_PrixIngdtUnitaire[i].Text = Gemme.Text(Matériau(i - 1, "Prix"));
+    }
+}
+
+// Line 1.
+void frm_ArtisanatsMagiques::ChargerBase(std::int16_t NuméroDegré)
+{
+    if (cbo_TypeGemmes.Text() == Trophées) {
+        txt_Ingdt[1].Text = std::string(SansNom);
+        txt_PrixIngdtUnitaire[1].Text = "0";
+        return;
+    }
+    Globals.TexteSQL = "SELECT * FROM Matériaux_Arcanes WHERE Degré=" + std::to_string(NuméroDegré);
+    const Recordset Base = PremierEnregistrement(Globals);
+    txt_Ingdt[1].Text = Base.Text("Nom");
+    txt_PrixIngdtUnitaire[1].Text = Base.Text("Prix");
+}
+
+// The gem that another one needs: a whole gem of its own row, without a degree.
+void frm_ArtisanatsMagiques::ChargerGemmeSup()
+{
+    Globals.TexteSQL = "SELECT * FROM R_ArcanesObjets WHERE (Arcanes_ProduitsDétaillés.Nom=" +
+                       Quoted(txt_AlchimieObjetSup.Text()) + ")";
+    const Recordset Gemme = PremierEnregistrement(Globals);
+    lbl_AlchimieObjetSupNiveauCraft.Caption = Gemme.Text("NiveauCraft");
+    txt_AlchimieIconeObjetSup.Text = Gemme.TextOrEmpty("Icône");
+    for (int i = 1; i <= 3; ++i) {
+        txt_MatSup[i].Text = Gemme.Text(Matériau(i + 2, "Nom"));
+        txt_MatSupQté[i].Text = i == 1 ? "1" : Gemme.Text("QtéSup");
+        txt_PrixMatSuptUnitaire[i].Text = Gemme.Text(Matériau(i + 2, "Prix"));
+    }
+    txt_MatSup[4].Text = std::string(SansNom);
+    txt_MatSupQté[4].Text = "0";
+    txt_PrixMatSuptUnitaire[4].Text = "0";
+    ChangerCouleurCraft(App, lbl_AlchimieObjetSupNiveauCraft.Caption, NiveauArcanes,
+                        img_AlchimieObjetSupNiveau);
+}
+
+} // namespace orvane
