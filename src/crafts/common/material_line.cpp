@@ -35,11 +35,16 @@ void CalculerPrixLigne(TextBox& PrixUnitaire, TextBox& Qté, TextBox& Prix)
         Prix.Text = Produit;
 }
 
-Montant PrixLigne(TextBox& Prix)
+Montant PrixÀJour(TextBox& Prix)
 {
     if (Prix.Stale)
         throw Failure(FailureKind::WrongText, Prix.Text, Prix.Name());
-    return Prix.Text == "" ? Montant() : M(Prix);
+    return M(Prix);
+}
+
+Montant PrixLigne(TextBox& Prix)
+{
+    return Prix.Text == "" ? Montant() : PrixÀJour(Prix);
 }
 
 void PoserVerrou(TextBox& Prix, bool Libre, const TextBox& Ouverte, const TextBox& Fermée)

@@ -13,6 +13,11 @@ void Montrer(Application& App, const std::string& Dossier, const TextBox& Fichie
             : App.Images.LoadOr(App.Chemin("/Objets/" + Dossier + "/" + Fichier.Text()), Sinon);
 }
 
+Picture PasImage(Application& App)
+{
+    return App.Images.LoadOr(App.Chemin("/Objets/Commun/PasImage.gif"));
+}
+
 } // namespace
 
 void MontrerIcôneRoyaume(Application& App, const TextBox& Fichier, PictureControl& Icône)
@@ -25,10 +30,14 @@ void MontrerIcôneCommune(Application& App, const TextBox& Fichier, PictureContr
     Montrer(App, "Commun", Fichier, Icône);
 }
 
+void MontrerIcôneOuPasImage(Application& App, const TextBox& Fichier, PictureControl& Icône)
+{
+    Montrer(App, "Commun", Fichier, Icône, PasImage(App));
+}
+
 void MontrerImageObjet(Application& App, const TextBox& Fichier, PictureControl& Image)
 {
-    Montrer(App, App.Globals.RoyaumeCourant, Fichier, Image,
-            App.Images.LoadOr(App.Chemin("/Objets/Commun/PasImage.gif")));
+    Montrer(App, App.Globals.RoyaumeCourant, Fichier, Image, PasImage(App));
 }
 
 } // namespace orvane

@@ -14,6 +14,9 @@ void MontrerIcôneRoyaume(Application& App, const TextBox& Fichier, PictureContr
 // An icon that the realms share: "Objets/Commun/<text>".
 void MontrerIcôneCommune(Application& App, const TextBox& Fichier, PictureControl& Icône);
 
+// The same; without one, the placeholder.
+void MontrerIcôneOuPasImage(Application& App, const TextBox& Fichier, PictureControl& Icône);
+
 // An object's large picture, "Objets/<Realm>/<text>"; without one, the placeholder.
 void MontrerImageObjet(Application& App, const TextBox& Fichier, PictureControl& Image);
 

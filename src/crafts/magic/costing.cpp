@@ -74,6 +74,24 @@ std::vector<TextBox*> frm_ArtisanatsMagiques::RésultatsArcanes()
             &txt_ArcanesPrixVenteTotal};
 }
 
+std::vector<TextBox*> frm_ArtisanatsMagiques::PrixLignes()
+{
+    std::vector<TextBox*> Prix;
+    for (TextBox& Each : txt_PrixIngdt)
+        Prix.push_back(&Each);
+    for (TextBox& Each : txt_PrixMatSup)
+        Prix.push_back(&Each);
+    return Prix;
+}
+
+std::vector<TextBox*> frm_ArtisanatsMagiques::PrixDuChoix()
+{
+    std::vector<TextBox*> Prix = PrixLignes();
+    for (const auto& Each : {RésultatsAlchimie(), RésultatsArcanes()})
+        Prix.insert(Prix.end(), Each.begin(), Each.end());
+    return Prix;
+}
+
 // Trials are charged once for the order, and their margin is on the loss alone. The texts between
 // the steps count: the sale price goes whole into the quantity and as money into the rest.
 void frm_ArtisanatsMagiques::CalculerPrixArcanes()

@@ -241,6 +241,8 @@ class frm_ArtisanatsMagiques : public Feuille
     Montant CoûtMatériaux();
     std::vector<TextBox*> RésultatsAlchimie();
     std::vector<TextBox*> RésultatsArcanes();
+    std::vector<TextBox*> PrixLignes();  // of the table and of the extra object
+    std::vector<TextBox*> PrixDuChoix(); // lines and results: what a pick renews
 
     void cmd_AjouterPanier_Click();
 

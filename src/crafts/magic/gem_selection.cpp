@@ -133,7 +133,7 @@ void frm_ArtisanatsMagiques::cbo_DegréGemmes_Click()
     EffacerMatériaux();
     if (PremierDegréSeul())
         cbo_DegréGemmes.ListIndex = 0;
-    ReadOrStale(RésultatsArcanes(), [&] {
+    ReadOrStale(PrixDuChoix(), [&] {
         const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
         const std::string Degrés = "SELECT DegréType1, " + ColonneDegré() + " FROM Degrés_Arcanes";
         cbo_DegréBonus.Clear();
@@ -150,7 +150,7 @@ void frm_ArtisanatsMagiques::cbo_DegréBonus_Click()
     EffacerMatériaux();
     if (PremierDegréSeul())
         cbo_DegréBonus.ListIndex = 0;
-    ReadOrStale(RésultatsArcanes(), [&] {
+    ReadOrStale(PrixDuChoix(), [&] {
         const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
         RemplirTexte("SELECT DegréType1, " + ColonneDegré() + " FROM Degrés_Arcanes WHERE " +
                          ColonneDegré() + "=" + Quoted(cbo_DegréBonus.Text()),

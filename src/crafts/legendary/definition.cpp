@@ -1,0 +1,222 @@
+#include "crafts/legendary/frm_armes_legendaires.h"
+
+// Where the controls of the legendary weapons stand and what they say until a skin moves them.
+// Above at the left the choice and the final bill, at the right the weapon and its sale; below, the
+// bills of the three components side by side.
+namespace orvane {
+
+namespace {
+
+constexpr int LeftX = 12;
+constexpr int LeftWide = 484;
+constexpr int RightX = 506;
+constexpr int RightWide = 490;
+constexpr int BillY = 136;
+constexpr int BlocksY = 418;
+constexpr int BlockWide = 322;
+constexpr int High = 24;
+constexpr int Margin = 14;
+
+} // namespace
+
+frm_ArmesLégendaires::Bloc frm_ArmesLégendaires::BlocArme()
+{
+    return {shp_Arme,
+            lbl_TitreArme,
+            img_IcôneArme,
+            lbl_TitreNiveauArme,
+            lbl_NiveauArme,
+            img_NiveauArme,
+            txt_MatArme,
+            lbl_ArmeX,
+            txt_QtéArmeN,
+            lbl_Arme,
+            txt_PrixMatUnitaireArme,
+            txt_PrixArmeN,
+            lbl_PrixCoûtantArme,
+            txt_PrixCoûtantArme};
+}
+
+frm_ArmesLégendaires::Bloc frm_ArmesLégendaires::BlocGemme()
+{
+    return {shp_Gemme,
+            lbl_TitreGemme,
+            img_IcôneGemme,
+            lbl_TitreNiveauGemme,
+            lbl_NiveauGemme,
+            img_NiveauGemme,
+            txt_MatGemme,
+            lbl_GemmeX,
+            txt_QtéGemmeN,
+            lbl_Gemme,
+            txt_PrixMatUnitaireGemme,
+            txt_PrixGemmeN,
+            lbl_PrixCoûtantGemme,
+            txt_PrixCoûtantGemme};
+}
+
+frm_ArmesLégendaires::Bloc frm_ArmesLégendaires::BlocTeinture()
+{
+    return {shp_Teinture,
+            lbl_TitreTeinture,
+            img_IcôneTeinture,
+            lbl_TitreNiveauTeinture,
+            lbl_NiveauTeinture,
+            img_NiveauTeinture,
+            txt_MatTeinture,
+            lbl_TeintureX,
+            txt_QtéTeintureN,
+            lbl_Teinture,
+            txt_PrixMatUnitaireTeinture,
+            txt_PrixTeintureN,
+            lbl_PrixCoûtantTeinture,
+            txt_PrixCoûtantTeinture};
+}
+
+LigneMatériau frm_ArmesLégendaires::Ligne(const Bloc& Composant, int i)
+{
+    return {Composant.Noms[i], Composant.Fois[i], Composant.Quantités[i], Composant.Égale[i],
+            Composant.Prix[i]};
+}
+
+void frm_ArmesLégendaires::Définir()
+{
+    SizeScreen(*this, 1008, 700);
+    DéfinirChoix();
+    DéfinirInfos();
+    DéfinirComposants();
+    DéfinirVente();
+    PlaceHeading(lbl_Détails,
+                 "Détails des composants nécessaires à la confection de l'arme légendaire",
+                 {LeftX + Margin, 388, 800, High});
+    constexpr int Step = BlockWide + 9;
+    DéfinirBloc(BlocArme(), "Objet", LeftX);
+    DéfinirBloc(BlocGemme(), "Gemme", LeftX + Step);
+    DéfinirBloc(BlocTeinture(), "Teinture", LeftX + 2 * Step);
+    DéfinirCachés();
+    constexpr int ButtonsY = 640;
+    PlaceButton(cmd_AjouterPanier, "Ajouter au panier", "Ajouter l’arme à la commande en cours",
+                {LeftX, ButtonsY, 168, 46});
+    PlaceButton(cmd_Panier, "Voir le panier", "Ouvrir le panier",
+                {LeftX + 190, ButtonsY + 7, 32, 32});
+    PlaceLabel(lbl_Panier, "Voir le panier", {LeftX + 230, ButtonsY + 11, 130, High});
+    PlaceButton(cmd_Retour, "Retour", "Revenir aux artisanats manuels", {880, ButtonsY, 116, 46});
+}
+
+void frm_ArmesLégendaires::DéfinirChoix()
+{
+    constexpr int X = LeftX + Margin;
+    PlacePanel(shp_Choix, {LeftX, 12, LeftWide, 114});
+    PlaceHeading(lbl_Choix, "Choix de l'arme à fabriquer", {X, 16, 380, High});
+    Place(pct_Craft, {LeftX + LeftWide - Margin - 32, 18, 32, 32});
+    PlaceLabel(lbl_ChoixArme, "Arme :", {X, 56, 76, High});
+    Place(cbo_Arme, {X + 78, 56, 378, 25});
+    PlaceLabel(lbl_ChoixType, "Type :", {X, 90, 76, High});
+    Place(cbo_Type, {X + 78, 90, 378, 25});
+    cbo_Arme.Sorted = true;
+    cbo_Type.Sorted = true;
+}
+
+void frm_ArmesLégendaires::DéfinirInfos()
+{
+    constexpr int X = RightX + Margin;
+    PlacePanel(shp_Infos, {RightX, 12, 322, 214});
+    PlaceHeading(lbl_TitreNiveau, "Niveau", {X, 20, 70, High});
+    PlaceTitle(lbl_Niveau, "", {X + 76, 16, 76, 32});
+    Place(img_Niveau, {X + 156, 20, 24, 24});
+    Place(img_Icône, {RightX + 322 - Margin - 32, 20, 32, 32});
+    PlaceField(lbl_NiveauObjet, "Niveau :", txt_Niveau, {X, 72, 66, High}, 72);
+    PlaceField(lbl_Dps, "Dps : ", txt_Dps, {X + 156, 72, 62, High}, 76);
+    PlaceField(lbl_Vit, "Vit. :", txt_Vit, {X, 116, 66, High}, 72);
+    PlaceField(lbl_Dégâts, "Dégât :", txt_Dégâts, {X + 156, 116, 62, High}, 76);
+    PlaceField(lbl_PrixRevente, "Prix de revente à un PNJ :", txt_PrixRevente, {X, 176, 184, High},
+               110);
+    txt_PrixRevente.StartWith("0");
+    PlacePanel(shp_Image, {RightX + 330, 12, 160, 214});
+    Place(img_Objet, {RightX + 335, 44, 150, 150});
+}
+
+void frm_ArmesLégendaires::DéfinirComposants()
+{
+    constexpr int X = LeftX + Margin;
+    PlacePanel(shp_Composants, {LeftX, BillY, LeftWide, 240});
+    PlaceHeading(lbl_Composants, "Composants", {X, BillY + 4, 300, High});
+    struct Row
+    {
+        const char* Words;
+        TextBox& Nom;
+        TextBox& Qté;
+        TextBox& Prix;
+        const char* Nombre;
+    };
+    int i = 0;
+    for (const Row& Each : {Row{"Objet :", txt_Arme, txt_QtéArme, txt_PrixArme, "1"},
+                            Row{"Gemme :", txt_Gemme, txt_QtéGemme, txt_PrixGemme, "0"},
+                            Row{"Teinture :", txt_Teinture, txt_QtéTeinture, txt_PrixTeinture, "0"},
+                            Row{"Matériau :", txt_Matériau, txt_QtéMatériau, txt_PrixMatériau, "0"},
+                            Row{"Spécial :", txt_Spécial, txt_QtéSpécial, txt_PrixSpécial, "1"}}) {
+        ++i;
+        const int Y = BillY + 34 + (i - 1) * 33;
+        PlaceLabel(lbl_Composant[i], Each.Words, {X, Y, 76, High});
+        Placer({Each.Nom, lbl_ComposantX[i], Each.Qté, lbl_ComposantÉgale[i], Each.Prix}, X + 78, Y,
+               {214, 38, 98});
+        Each.Qté.StartWith(Each.Nombre);
+        Each.Prix.StartWith("0");
+    }
+    for (TextBox* Libre : {&txt_PrixGemme, &txt_PrixTeinture, &txt_PrixSpécial})
+        Libre->OpenFor(NumberKind::Montant);
+    PlaceField(lbl_PrixCoûtant, "Prix coûtant :", txt_PrixCoûtant,
+               {X + 250, BillY + 204, 108, High}, 98);
+    txt_PrixCoûtant.StartWith("0");
+}
+
+void frm_ArmesLégendaires::DéfinirVente()
+{
+    constexpr int X = RightX + Margin;
+    constexpr int Y = 236;
+    PlacePanel(shp_Vente, {RightX, Y, RightWide, 140});
+    PlaceHeading(lbl_Vente, "Informations de vente ", {X, Y + 4, 300, High});
+    PlaceField(lbl_NbObjet, "Nb d'obj. fabriqués :", txt_NbObjet, {X, Y + 44, 148, High}, 64);
+    PlaceField(lbl_NbEssais, "Nb d'essais suppl. :", txt_NbEssais, {X, Y + 92, 148, High}, 64);
+    PlaceField(lbl_PrixCoûtantTotal, "Prix coûtant :", txt_PrixCoûtantTotal,
+               {X + 232, Y + 44, 100, High}, 130);
+    PlaceField(lbl_PrixVente, "Px de vente :", txt_PrixVente, {X + 232, Y + 92, 100, High}, 130);
+    txt_NbObjet.StartWith("1");
+    for (TextBox* Zéro : {&txt_NbEssais, &txt_PrixCoûtantTotal, &txt_PrixVente})
+        Zéro->StartWith("0");
+    txt_NbObjet.OpenFor(NumberKind::Entier16);
+    txt_NbEssais.OpenFor(NumberKind::Entier16);
+}
+
+void frm_ArmesLégendaires::DéfinirBloc(const Bloc& Composant, const char* Titre, int X)
+{
+    PlacePanel(Composant.Cadre, {X, BlocksY, BlockWide, 202});
+    X += Margin;
+    Place(Composant.Icône, {X, BlocksY + 8, 32, 32});
+    PlaceHeading(Composant.Titre, Titre, {X + 42, BlocksY + 12, 90, High});
+    PlaceLabel(Composant.TitreNiveau, "Niveau :", {X + 134, BlocksY + 12, 62, High});
+    PlaceHeading(Composant.Niveau, "", {X + 198, BlocksY + 12, 60, High});
+    Place(Composant.Indicateur, {X + 266, BlocksY + 12, 24, 24});
+    for (int i = 1; i <= 3; ++i) {
+        Placer(Ligne(Composant, i), X, BlocksY + 54 + (i - 1) * 34, {158, 34, 74});
+        for (auto* Boxes : {&Composant.Quantités, &Composant.PrixUnitaires, &Composant.Prix})
+            (*Boxes)[i].StartWith("0");
+        Composant.PrixUnitaires[i].Visible = false;
+    }
+    PlaceField(Composant.TitrePrixCoûtant, "Px coût. :", Composant.PrixCoûtant,
+               {X + 120, BlocksY + 164, 74, High}, 100);
+    Composant.PrixCoûtant.StartWith("0");
+}
+
+void frm_ArmesLégendaires::DéfinirCachés()
+{
+    for (TextBox* Holder :
+         {&txt_PrixUnitaireMatériau, &txt_ObjetNum, &txt_GemmeNum, &txt_TeintureNum, &txt_Image,
+          &txt_Icône, &txt_IcôneArme, &txt_IcôneGemme, &txt_IcôneTeinture})
+        Holder->Visible = false;
+    txt_PrixUnitaireMatériau.StartWith("0");
+    for (TextBox* Holder : {&txt_Image, &txt_IcôneTeinture})
+        Holder->StartWith("Vide"); // so that the first empty text shows the placeholder
+}
+
+} // namespace orvane

@@ -1,0 +1,138 @@
+#include "crafts/legendary/frm_armes_legendaires.h"
+
+#include "basket/affichage.h"
+#include "crafts/common/counts.h"
+#include "crafts/common/object_pictures.h"
+#include "crafts/manual/frm_artisanats_manuels.h"
+#include "settings/frm_configuration.h"
+#include "shell/queries.h"
+#include "toolkit/writing.h"
+
+namespace orvane {
+
+frm_ArmesLégendaires::frm_ArmesLégendaires(Application& App)
+    : Feuille(App, ScreenName, "Armes Légendaires")
+{
+    Définir();
+    Relier();
+}
+
+void frm_ArmesLégendaires::Relier()
+{
+    cbo_Arme.OnClick = [this] { cbo_Arme_Click(); };
+    cbo_Type.OnClick = [this] { cbo_Type_Click(); };
+    txt_Image.OnChange = [this] { MontrerImageObjet(this->App, txt_Image, img_Objet); };
+    txt_Icône.OnChange = [this] { MontrerIcôneRoyaume(this->App, txt_Icône, img_Icône); };
+    txt_IcôneArme.OnChange = [this] {
+        MontrerIcôneRoyaume(this->App, txt_IcôneArme, img_IcôneArme);
+    };
+    txt_IcôneGemme.OnChange = [this] {
+        MontrerIcôneCommune(this->App, txt_IcôneGemme, img_IcôneGemme);
+    };
+    txt_IcôneTeinture.OnChange = [this] {
+        MontrerIcôneOuPasImage(this->App, txt_IcôneTeinture, img_IcôneTeinture);
+    };
+    txt_MatArme[3].OnChange = [this] {
+        Montrer(Ligne(BlocArme(), 3), txt_MatArme[3].Text != SansNom);
+    };
+    txt_PrixUnitaireMatériau.OnChange = [this] { CalculerPrixMatériau(); };
+    for (TextBox* Libre : {&txt_PrixGemme, &txt_PrixTeinture, &txt_PrixSpécial})
+        Libre->OnChange = [this, Libre] {
+            Libre->Stale = false; // what is typed stands for itself
+            CalculerPrixCoûtant();
+            CalculerTotaux();
+        };
+    RecalculerAuChangement(txt_NbObjet, {"0", ""}, "1", [this] { CalculerTotaux(); });
+    RecalculerAuChangement(txt_NbEssais, {""}, "0", [this] { CalculerTotaux(); });
+    cmd_AjouterPanier.OnClick = [this] { cmd_AjouterPanier_Click(); };
+    cmd_Panier.OnClick = [this] { this->App.Feuilles.Touch("frm_Panier").Show(); };
+    cmd_Retour.OnClick = [this] { WayBack(); };
+}
+
+void frm_ArmesLégendaires::Load()
+{
+    constexpr int ImagePanier = 11;
+    cmd_Panier.Picture =
+        App.Feuilles.Get<frm_Configuration>().imglst_CraftGrand.Picture(ImagePanier);
+}
+
+void frm_ArmesLégendaires::Activate()
+{
+    EffacerArme();
+    RemettreQuantités();
+    CheminArtisanat = App.Chemin("/Artisanat_" + Globals.RoyaumeCourant + ".mdb");
+    CheminTeintures = App.Chemin("/Artisanat_Alchimie.mdb");
+    RemplirChoix();
+    LireRéglages(App.Feuilles.Get<frm_ArtisanatsManuels>().lbl_Artisanat.Caption);
+}
+
+void frm_ArmesLégendaires::RemplirChoix()
+{
+    const std::string& Métier = App.Feuilles.Get<frm_ArtisanatsManuels>().lbl_Artisanat.Caption;
+    const Ouverture Base(App, Globals.BaseDonnées, CheminArtisanat);
+    Globals.TexteSQL = "SELECT ArmesLégendaires_ListeObjets.Nom FROM R_ArmesLégendairesObjets "
+                       "WHERE Artisanat_Liste.Nom=" +
+                       Quoted(Métier);
+    RemplirListe(Globals, cbo_Arme, "Nom");
+    Globals.TexteSQL = "SELECT DISTINCT ArmesLégendaires_Type.Nom FROM R_ArmesLégendairesType";
+    RemplirListe(Globals, cbo_Type, "Nom");
+}
+
+// With a trade that has no legendary weapons, picture and level stay those of the last one.
+void frm_ArmesLégendaires::LireRéglages(const std::string& Métier)
+{
+    auto& Configuration = App.Feuilles.Get<frm_Configuration>();
+    if (Métier == "Empennage") {
+        LireRéglage(Configuration.txt_NiveauEmpennage, NiveauCraft);
+        pct_Craft.Picture = Configuration.imglst_CraftGrand.Picture(6);
+    } else if (Métier == "Forge") {
+        LireRéglage(Configuration.txt_NiveauForge, NiveauCraft);
+        pct_Craft.Picture = Configuration.imglst_CraftGrand.Picture(5);
+    }
+    LireRéglage(Configuration.txt_NiveauArcanes, NiveauArcanes);
+    LireRéglage(Configuration.txt_NiveauAlchimie, NiveauAlchimie);
+    LireRéglage(Configuration.txt_MargeLégendaires, Marge);
+    LireRéglage(Configuration.txt_EssaiLégendaires, MargeEssais);
+}
+
+// The totals of the blocks, the unit price of the material and the files of the components' icons
+// stay until the next choice writes them. The writes into the open prices run their handlers.
+void frm_ArmesLégendaires::EffacerArme()
+{
+    cbo_Arme.Clear();
+    cbo_Type.Clear();
+    WriteAll({&txt_ObjetNum, &txt_GemmeNum, &txt_TeintureNum, &txt_Arme, &txt_Gemme, &txt_Teinture,
+              &txt_Matériau, &txt_Spécial},
+             "");
+    txt_QtéArme.Text = "1";
+    WriteAll({&txt_QtéGemme, &txt_QtéTeinture, &txt_QtéMatériau}, "0");
+    txt_QtéSpécial.Text = "1";
+    WriteAll({&txt_PrixArme, &txt_PrixGemme, &txt_PrixTeinture, &txt_PrixMatériau, &txt_PrixSpécial,
+              &txt_PrixCoûtant, &txt_PrixRevente, &txt_PrixVente},
+             "0");
+    WriteAll({&txt_Dégâts, &txt_Niveau, &txt_Dps, &txt_Vit}, "");
+    for (Image* Each : {&img_Icône, &img_Niveau, &img_IcôneArme, &img_NiveauArme, &img_IcôneGemme,
+                        &img_NiveauGemme, &img_IcôneTeinture, &img_NiveauTeinture})
+        Each->Picture = {};
+    for (Label* Each : {&lbl_Niveau, &lbl_NiveauArme, &lbl_NiveauGemme, &lbl_NiveauTeinture})
+        Each->Caption = "";
+    for (const Bloc& Each : {BlocArme(), BlocGemme(), BlocTeinture()})
+        WriteAll(Each.Noms, "");
+    for (const Bloc& Each : {BlocArme(), BlocGemme(), BlocTeinture()})
+        for (auto* Boxes : {&Each.Quantités, &Each.PrixUnitaires, &Each.Prix})
+            WriteAll(*Boxes, "0");
+    txt_Image.Text = "";
+    txt_Icône.Text = "";
+}
+
+void frm_ArmesLégendaires::cmd_AjouterPanier_Click()
+{
+    if (cbo_Arme.Text() == "" || cbo_Type.Text() == "") {
+        App.MsgBox("Aucun objet sélectionné.");
+        return;
+    }
+    AjouterLigne(App, {cbo_Arme.Text + " " + cbo_Type.Text(), txt_NbObjet, txt_PrixCoûtantTotal,
+                       txt_PrixVente});
+}
+
+} // namespace orvane

@@ -1,0 +1,129 @@
+#include "crafts/secondary/frm_artisanats_secondaires.h"
+
+// Where the controls of the secondary crafts stand and what they say until a skin moves them. Sale
+// and recycling take the same place below the materials.
+namespace orvane {
+
+namespace {
+
+constexpr int MiddleX = 214;
+constexpr int MiddleWide = 480;
+constexpr int RightX = 704;
+constexpr int RightWide = 296;
+constexpr int MaterialsY = 196;
+constexpr int BottomY = 448;
+constexpr int High = 24;
+constexpr int Margin = 14;
+
+} // namespace
+
+LigneMatériau frm_ArtisanatsSecondaires::Ligne(int i)
+{
+    return {txt_Matériaux[i], lbl_MatX[i], txt_MatériauxQté[i], lbl_Mat[i], txt_PrixMat[i]};
+}
+
+void frm_ArtisanatsSecondaires::Définir()
+{
+    SizeScreen(*this, 1008, 700);
+    Place(Bar_Menus, {12, 10, 190, 680});
+    Place(img_Bannière, {MiddleX - 4, 10, 590, 64});
+    PlacePanel(shp_Artisanat, {812, 10, 188, 64});
+    Place(pct_Artisanat, {824, 26, 32, 32});
+    PlaceTitle(lbl_Artisanat, "", {864, 24, 132, 36});
+    DéfinirChoix();
+    DéfinirMatériaux();
+    DéfinirVente();
+    DéfinirRecyclage();
+    AfficherVente(false);
+    AfficherRecyclage(false);
+    for (auto* Holders : {&txt_MatériauxBruts, &txt_PrixMatUnitaire})
+        for (TextBox& Holder : *Holders)
+            Holder.Visible = false;
+    for (TextBox& Holder : txt_PrixMatUnitaire)
+        Holder.StartWith("0");
+    txt_Icône.Visible = false;
+    txt_Image.Visible = false;
+    txt_Image.StartWith("Vide"); // so that the first empty text shows the placeholder
+    PlaceButton(cmd_AjouterPanier, "Ajouter au panier", "Ajouter l’objet à la commande en cours",
+                {RightX, 644, 168, 46});
+    PlaceButton(cmd_Retour, "Retour", "Revenir à l’accueil", {RightX + 180, 644, 116, 46});
+}
+
+void frm_ArtisanatsSecondaires::DéfinirChoix()
+{
+    constexpr int X = MiddleX + Margin;
+    PlacePanel(shp_Choix, {MiddleX, 86, MiddleWide, 100});
+    PlaceLabel(lbl_Zone1, "Objet :", {X, 102, 90, High});
+    Place(cbo_ObjetSecondaire, {X + 92, 102, 360, 25});
+    PlaceLabel(lbl_Zone2, "", {X, 144, 90, High});
+    Place(cbo_Degré, {X + 92, 144, 360, 25});
+    cbo_ObjetSecondaire.Sorted = true;
+
+    PlacePanel(shp_Niveau, {RightX, 86, RightWide, 100});
+    PlaceHeading(lbl12, "Niveau", {RightX + Margin, 90, 150, High});
+    PlaceTitle(lbl_Niveau, "", {RightX + Margin, 122, 80, 34});
+    Place(img_Niveau, {RightX + 104, 127, 24, 24});
+    Place(img_Icône, {RightX + RightWide - Margin - 32, 123, 32, 32});
+}
+
+void frm_ArtisanatsSecondaires::DéfinirMatériaux()
+{
+    constexpr int X = MiddleX + Margin;
+    PlacePanel(shp_Matériaux, {MiddleX, MaterialsY, MiddleWide, 242});
+    PlaceHeading(lbl21, "Matériaux", {X, MaterialsY + 4, 300, High});
+    for (int i = 1; i <= 4; ++i) {
+        Placer(Ligne(i), X, MaterialsY + 34 + (i - 1) * 33, {268, 42, 114});
+        txt_MatériauxQté[i].StartWith("0");
+        txt_PrixMat[i].StartWith("0");
+    }
+    PlaceField(lbl23, "Prix coûtant :", txt_PrixCoûtant, {X + 136, MaterialsY + 174, 202, High},
+               114);
+    PlaceField(lbl22, "Prix de revente à un PNJ :", txt_PrixRevente,
+               {X + 136, MaterialsY + 206, 202, High}, 114);
+    for (Label* Total : {&lbl23, &lbl22}) {
+        Total->Align = Alignment::Right;
+        Total->Width = Total->Width - 8 * TwipsPerPixel;
+    }
+    txt_PrixCoûtant.StartWith("0");
+    txt_PrixRevente.StartWith("0");
+}
+
+void frm_ArtisanatsSecondaires::DéfinirVente()
+{
+    constexpr int X = MiddleX + Margin;
+    PlacePanel(shp_ImageObjet, {RightX, MaterialsY, RightWide, 242});
+    Place(img_Objet, {RightX + (RightWide - 150) / 2, MaterialsY + 46, 150, 150});
+    PlacePanel(shp_InfosVente, {MiddleX, BottomY, MiddleWide, 176});
+    PlaceHeading(lbl_InfosVente, "Infos de Vente", {X, BottomY + 6, 300, High});
+    PlaceField(lbl_SellerieNbObjets, "Nb d'objets :", txt_SellerieNbObjets,
+               {X, BottomY + 44, 200, High}, 160);
+    PlaceField(lbl_SelleriePrixCoûtant, "Prix coûtant :", txt_SelleriePrixCoûtant,
+               {X, BottomY + 86, 200, High}, 160);
+    PlaceField(lbl_SelleriePrixVente, "Prix de vente :", txt_SelleriePrixVente,
+               {X, BottomY + 128, 200, High}, 160);
+    txt_SellerieNbObjets.StartWith("1");
+    txt_SelleriePrixCoûtant.StartWith("0");
+    txt_SelleriePrixVente.StartWith("0");
+    txt_SellerieNbObjets.OpenFor(NumberKind::Entier16);
+}
+
+void frm_ArtisanatsSecondaires::DéfinirRecyclage()
+{
+    constexpr int X = MiddleX + Margin;
+    constexpr int Wide = 324;
+    PlacePanel(shp_Recyclage, {MiddleX, BottomY, MiddleWide, 176});
+    PlaceHeading(lbl_Recyclage, "Gain du recyclage", {X, BottomY + 6, 300, High});
+    PlaceField(lbl_RecyclageMatPremière, "Coût des matières premières suppl. :", txt_CoûtSuppl,
+               {X, BottomY + 44, Wide, High}, 128);
+    PlaceField(lbl_RecyclageNbObjets, "Nombre d'objets fabriqués : ", txt_NbObjet,
+               {X, BottomY + 86, Wide, High}, 128);
+    PlaceField(lbl_RecyclageGain, "Gain total  (Produit revente - coût mat 1ère) :", txt_Gain,
+               {X, BottomY + 128, Wide, High}, 128);
+    txt_CoûtSuppl.StartWith("0");
+    txt_NbObjet.StartWith("1");
+    txt_Gain.StartWith("0");
+    for (TextBox* Input : {&txt_CoûtSuppl, &txt_NbObjet}) // amounts both: 2,5 objects count 2,5
+        Input->OpenFor(NumberKind::Montant);
+}
+
+} // namespace orvane

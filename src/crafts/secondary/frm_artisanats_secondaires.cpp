@@ -1,0 +1,239 @@
+#include "crafts/secondary/frm_artisanats_secondaires.h"
+
+#include "basket/affichage.h"
+#include "crafts/common/counts.h"
+#include "crafts/common/craft_menu.h"
+#include "crafts/common/material_codes.h"
+#include "crafts/common/object_pictures.h"
+#include "shell/navigation.h"
+#include "toolkit/visibility.h"
+#include "toolkit/writing.h"
+
+#include <array>
+
+namespace orvane {
+
+namespace {
+
+// What a trade rests on: its picture, and its settings on frm_Configuration.
+struct Artisanat
+{
+    const char* Nom;
+    int Image; // in imglst_CraftGrand
+    TextBox frm_Configuration::*Niveau;
+    TextBox frm_Configuration::*Marge; // nothing where the trade has none
+};
+
+constexpr std::array Artisanats{
+    Artisanat{"Maroquinerie", 4, &frm_Configuration::txt_NiveauMaroquinerie,
+              &frm_Configuration::txt_MargeMaroquinerie},
+    Artisanat{"Menuiserie", 3, &frm_Configuration::txt_NiveauMenuiserie, nullptr},
+    Artisanat{"Métallurgie", 2, &frm_Configuration::txt_NiveauMétallurgie,
+              &frm_Configuration::txt_MargeMétallurgie},
+    Artisanat{"Tissage", 1, &frm_Configuration::txt_NiveauTissage,
+              &frm_Configuration::txt_MargeTissage},
+};
+
+const Artisanat& Chercher(const std::string& Nom)
+{
+    for (const Artisanat& Each : Artisanats)
+        if (Nom == Each.Nom)
+            return Each;
+    throw Failure(FailureKind::Program, Nom);
+}
+
+// An entry of the menu, which leads a trade to one of its two jobs.
+struct EntréeMétier
+{
+    const char* Texte; // its key too
+    const char* Métier;
+    const char* Tip;
+};
+
+constexpr std::array Recyclages{
+    EntréeMétier{"Maroquinerie", "Maroquinerie", "Travail du cuir."},
+    EntréeMétier{"Menuiserie", "Menuiserie", "Travail du bois."},
+    EntréeMétier{"Métallurgie", "Métallurgie", "Travail du métal."},
+    EntréeMétier{"Tissage", "Tissage", "Travail du tissu."},
+};
+
+constexpr std::array Selleries{
+    EntréeMétier{"Bardes", "Métallurgie", "Métallurgie."},
+    EntréeMétier{"Carapaçons", "Tissage", "Tissage."},
+    EntréeMétier{"Sacoches", "Maroquinerie", "Maroquinerie."},
+};
+
+template <class Entries>
+const EntréeMétier* Chercher(const Entries& Entrées, const std::string& Texte)
+{
+    for (const EntréeMétier& Each : Entrées)
+        if (Texte == Each.Texte)
+            return &Each;
+    return nullptr;
+}
+
+template <class Entries>
+std::vector<SideMenu::Item> Items(const Entries& Entrées)
+{
+    std::vector<SideMenu::Item> Result;
+    for (const EntréeMétier& Each : Entrées) // the small icons count from 0
+        Result.push_back({Each.Texte, Each.Texte, Chercher(Each.Métier).Image - 1, Each.Tip});
+    return Result;
+}
+
+} // namespace
+
+frm_ArtisanatsSecondaires::frm_ArtisanatsSecondaires(Application& App)
+    : Feuille(App, ScreenName, "Artisanats Secondaires")
+{
+    Définir();
+    Relier();
+}
+
+void frm_ArtisanatsSecondaires::Relier()
+{
+    Bar_Menus.OnItemClick = [this](const SideMenu::Item& Entrée) { Bar_Menus_ItemClick(Entrée); };
+    cbo_ObjetSecondaire.OnClick = [this] {
+        if (EnSellerie())
+            ChoisirSellerie();
+        else if (EnRecyclage())
+            ChoisirRecyclage();
+    };
+    cbo_Degré.OnClick = [this] {
+        if (EnSellerie())
+            FiltrerSellerie();
+        else if (EnRecyclage())
+            ChoisirDegré();
+    };
+    for (int i : {3, 4})
+        txt_Matériaux[i].OnChange = [this, i] { txt_Matériaux_Change(i); };
+    for (int i : {2, 3})
+        txt_MatériauxBruts[i].OnChange = [this, i] {
+            Montrer(Ligne(i), txt_MatériauxBruts[i].Text != CodeSansMatériau);
+        };
+    txt_Icône.OnChange = [this] { MontrerIcôneRoyaume(this->App, txt_Icône, img_Icône); };
+    txt_Image.OnChange = [this] { MontrerImageObjet(this->App, txt_Image, img_Objet); };
+    RecalculerAuChangement(txt_SellerieNbObjets, {""}, "1", [this] { CalculerSellerie(); });
+    RecalculerAuChangement(txt_CoûtSuppl, {""}, "0", [this] { CalculerGain(); });
+    RecalculerAuChangement(txt_NbObjet, {""}, "1", [this] { CalculerGain(); });
+    cmd_AjouterPanier.OnClick = [this] { cmd_AjouterPanier_Click(); };
+    cmd_Retour.OnClick = [this] { WayBack(); };
+}
+
+void frm_ArtisanatsSecondaires::Load()
+{
+    ConstruireMenu(
+        Bar_Menus, App.Feuilles.Get<frm_Configuration>(),
+        {{"Recyclage", "Recyclage",
+          "Sélection d'un artisanat secondaire pour recycler des matériaux.", Items(Recyclages)},
+         {"Sellerie", "Sellerie", "Fabrication des objets pour équiper les chevaux.",
+          Items(Selleries)}});
+}
+
+void frm_ArtisanatsSecondaires::WayBack()
+{
+    Revenir(App, *this, Retour::CacherPuisAccueil);
+}
+
+bool frm_ArtisanatsSecondaires::EnSellerie() const
+{
+    return lbl_Zone2.Caption() == "Tri :";
+}
+
+bool frm_ArtisanatsSecondaires::EnRecyclage() const
+{
+    return lbl_Zone2.Caption() == "Degré :";
+}
+
+// Every entry ends by emptying the bill, also the one that opens the basket.
+void frm_ArtisanatsSecondaires::Bar_Menus_ItemClick(const SideMenu::Item& Entrée)
+{
+    if (Entrée.Text == VoirPanier) {
+        App.Feuilles.Touch("frm_Panier").Show();
+    } else if (const auto* Recyclage = Chercher(Recyclages, Entrée.Text)) {
+        PrendreArtisanat(Recyclage->Métier);
+        PréparerRecyclage();
+        AfficherRecyclage(true);
+        AfficherVente(false);
+    } else if (const auto* Sellerie = Chercher(Selleries, Entrée.Text)) {
+        PrendreArtisanat(Sellerie->Métier);
+        PréparerSellerie();
+        AfficherRecyclage(false);
+        AfficherVente(true);
+    }
+    ViderChamps();
+}
+
+void frm_ArtisanatsSecondaires::PrendreArtisanat(const std::string& Nom)
+{
+    auto& Configuration = App.Feuilles.Get<frm_Configuration>();
+    const Artisanat& Métier = Chercher(Nom);
+    lbl_Artisanat.Caption = Nom;
+    pct_Artisanat.Picture = Configuration.imglst_CraftGrand.Picture(Métier.Image);
+    if (Métier.Marge != nullptr)
+        LireRéglage(Configuration.*Métier.Marge, Marge);
+}
+
+void frm_ArtisanatsSecondaires::LireNiveauCraft()
+{
+    LireRéglage(App.Feuilles.Get<frm_Configuration>().*Chercher(lbl_Artisanat.Caption()).Niveau,
+                NiveauCraft);
+}
+
+// What both modes begin with.
+void frm_ArtisanatsSecondaires::ViderListes()
+{
+    cbo_ObjetSecondaire.Clear();
+    cbo_Degré.Clear();
+    img_Icône.Picture = {};
+    lbl_Niveau.Caption = "";
+    img_Niveau.Picture = {};
+}
+
+// Choices, pictures and level stay. A row that was hidden for want of a material comes back.
+void frm_ArtisanatsSecondaires::ViderChamps()
+{
+    WriteAll(txt_Matériaux, "");
+    WriteAll(txt_MatériauxBruts, "");
+    WriteAll(txt_MatériauxQté, "0");
+    WriteAll(txt_PrixMatUnitaire, "0");
+    WriteAll(txt_PrixMat, "0");
+    txt_PrixRevente.Text = "0";
+    txt_SellerieNbObjets.Text = "1";
+    WriteAll({&txt_PrixCoûtant, &txt_SelleriePrixCoûtant, &txt_SelleriePrixVente, &txt_CoûtSuppl},
+             "0");
+    txt_NbObjet.Text = "1";
+    txt_Gain.Text = "0";
+}
+
+void frm_ArtisanatsSecondaires::AfficherVente(bool Visible)
+{
+    ShowAll({&shp_InfosVente, &lbl_InfosVente, &lbl_SellerieNbObjets, &txt_SellerieNbObjets,
+             &lbl_SelleriePrixCoûtant, &txt_SelleriePrixCoûtant, &lbl_SelleriePrixVente,
+             &txt_SelleriePrixVente, &shp_ImageObjet, &img_Objet},
+            Visible);
+}
+
+void frm_ArtisanatsSecondaires::AfficherRecyclage(bool Visible)
+{
+    ShowAll({&shp_Recyclage, &lbl_Recyclage, &lbl_RecyclageMatPremière, &lbl_RecyclageNbObjets,
+             &lbl_RecyclageGain, &txt_CoûtSuppl, &txt_NbObjet, &txt_Gain},
+            Visible);
+}
+
+void frm_ArtisanatsSecondaires::txt_Matériaux_Change(int i)
+{
+    Montrer(Ligne(i), !(txt_Matériaux[i].Text == SansNom && EnSellerie()));
+}
+
+void frm_ArtisanatsSecondaires::cmd_AjouterPanier_Click()
+{
+    if (cbo_ObjetSecondaire.Text() == "") {
+        App.MsgBox("Aucun objet sélectionné.");
+        return;
+    }
+    AjouterLigne(App, {cbo_ObjetSecondaire.Text, txt_SellerieNbObjets, txt_SelleriePrixCoûtant,
+                       txt_SelleriePrixVente});
+}
+
+} // namespace orvane

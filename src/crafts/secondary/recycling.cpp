@@ -1,0 +1,107 @@
+#include "base/number_text.h"
+#include "base/text.h"
+#include "crafts/common/material_codes.h"
+#include "crafts/secondary/frm_artisanats_secondaires.h"
+#include "settings/affichage.h"
+#include "shell/queries.h"
+#include "toolkit/calculation.h"
+#include "toolkit/visibility.h"
+
+#include <array>
+
+// What making an object only to sell it to a merchant gains. What counts as cost is what the
+// crafter types; the bill of materials is there to look at, and nothing reaches the basket.
+namespace orvane {
+
+void frm_ArtisanatsSecondaires::PréparerRecyclage()
+{
+    ViderListes();
+    lbl_Zone1.Caption = "Objet :";
+    lbl_Zone2.Caption = "Degré :";
+    ShowAll({&lbl_Zone2, &cbo_Degré}, true);
+    Montrer(Ligne(4), false);
+    cmd_AjouterPanier.Visible = false;
+    LireNiveauCraft();
+
+    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    Globals.TexteSQL = "SELECT DISTINCT * FROM R_Secondaire WHERE (Artisanat_Liste.Nom=" +
+                       Quoted(lbl_Artisanat.Caption()) + ")";
+    RemplirListe(Globals, cbo_ObjetSecondaire, "Secondaire_Produits.Nom");
+}
+
+// Nothing is named or priced before a degree is picked.
+void frm_ArtisanatsSecondaires::ChoisirRecyclage()
+{
+    cbo_Degré.Clear();
+    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    Globals.TexteSQL = "SELECT * FROM R_SecondaireObjets WHERE Secondaire_Produits.Nom=" +
+                       Quoted(cbo_ObjetSecondaire.Text());
+    const Recordset& Objet = PremierEnregistrement(Globals);
+    for (int i = 1; i <= 3; ++i)
+        txt_MatériauxBruts[i].Text = Objet.Text("Mat" + std::to_string(i));
+    for (int i = 1; i <= 3; ++i)
+        txt_MatériauxQté[i].Text = Objet.Text("Qté" + std::to_string(i));
+    txt_Icône.Text = Objet.TextOrEmpty("Icône");
+
+    Globals.TexteSQL =
+        "SELECT * FROM R_Secondaire WHERE (Artisanat_Liste.Nom=" + Quoted(lbl_Artisanat.Caption()) +
+        " AND Secondaire_Produits.Nom=" + Quoted(cbo_ObjetSecondaire.Text()) + ")";
+    NuméroDegré = PremierEnregistrement(Globals).Whole("Degré");
+    Globals.TexteSQL = "SELECT * FROM Degrés_ListeTypes";
+    ColonneDegré = "DegréType" + std::to_string(NuméroDegré);
+    RemplirListe(Globals, cbo_Degré, ColonneDegré);
+}
+
+void frm_ArtisanatsSecondaires::ChoisirDegré()
+{
+    ReadOrStale({&txt_PrixCoûtant, &txt_Gain}, [&] { LireDegré(); });
+    ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
+    CalculerMatériaux();
+    CalculerGain();
+}
+
+void frm_ArtisanatsSecondaires::LireDegré()
+{
+    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    Globals.TexteSQL =
+        "SELECT * FROM Degrés_ListeTypes WHERE " + ColonneDegré + "=" + Quoted(cbo_Degré.Text());
+    NuméroDegré = PremierEnregistrement(Globals).Whole("NuméroDegré");
+    const bool Couronne = Contains(cbo_ObjetSecondaire.Text(), "couronne");
+    for (int i = 1; i <= 3; ++i)
+        RésoudreMatériau(Globals, txt_MatériauxBruts[i].Text, NuméroDegré, Couronne,
+                         txt_Matériaux[i], txt_PrixMatUnitaire[i]);
+
+    Globals.TexteSQL = "SELECT * FROM R_SecondaireObjets WHERE Secondaire_Produits.Nom=" +
+                       Quoted(cbo_ObjetSecondaire.Text());
+    const Recordset& Objet = PremierEnregistrement(Globals);
+    txt_Icône.Text = Objet.TextOrEmpty("Icône");
+    ColonneRevente = "PrixReventeDegré" + std::to_string(NuméroDegré);
+    txt_PrixRevente.Text = Objet.Text(ColonneRevente);
+    lbl_Niveau.Caption = T(Objet.Number("NiveauCraft") + Entier16(NuméroDegré * 100));
+    Globals.Enregistrements.Empty();
+}
+
+void frm_ArtisanatsSecondaires::CalculerMatériaux()
+{
+    Calculate({&txt_PrixCoûtant}, [&] {
+        std::array<Montant, 3> Lignes;
+        Montant Coût;
+        for (int i = 1; i <= 3; ++i) {
+            Montant& Prix = Lignes[static_cast<std::size_t>(i - 1)];
+            if (i == 1 || txt_MatériauxBruts[i].Text != CodeSansMatériau)
+                Prix = M(txt_PrixMatUnitaire[i]) * M(txt_MatériauxQté[i]);
+            Coût = Coût + Prix;
+        }
+        for (int i = 1; i <= 3; ++i)
+            txt_PrixMat[i].Text = T(Lignes[static_cast<std::size_t>(i - 1)]);
+        txt_PrixCoûtant.Text = T(Coût);
+    });
+}
+
+void frm_ArtisanatsSecondaires::CalculerGain()
+{
+    Calculate({&txt_Gain},
+              [&] { txt_Gain.Text = T(M(txt_PrixRevente) * M(txt_NbObjet) - M(txt_CoûtSuppl)); });
+}
+
+} // namespace orvane
