@@ -10,26 +10,35 @@ namespace orvane::bench {
 
 namespace {
 
-// Every column but Num; the name takes the copy's number.
-void Multiply(const std::filesystem::path& File, int Times)
+// Copies the rows of a table, every column but Num; the column that names them takes the copy's
+// number.
+void Multiply(const std::filesystem::path& File, const TableDefinition& Table,
+              const std::string& NameColumn, int Times)
 {
     std::string Names;
     std::string Values;
-    for (const TableDefinition& Table : RoyaumeDefinition().Tables)
-        if (Table.Name == "Classique_ListeObjets")
-            for (const ColumnDefinition& Column : Table.Columns) {
-                if (Column.Type == ColumnType::Key)
-                    continue;
-                Names += (Names.empty() ? "" : ", ") + QuotedName(Column.Name);
-                Values += (Values.empty() ? "" : ", ") + QuotedName(Column.Name) +
-                          (Column.Name == "Nom" ? " || ' ' || Copie" : "");
-            }
+    for (const ColumnDefinition& Column : Table.Columns) {
+        if (Column.Type == ColumnType::Key)
+            continue;
+        Names += (Names.empty() ? "" : ", ") + QuotedName(Column.Name);
+        Values += (Values.empty() ? "" : ", ") + QuotedName(Column.Name) +
+                  (Column.Name == NameColumn ? " || ' ' || Copie" : "");
+    }
+    const std::string Into = QuotedName(Table.Name);
     SQLite::Database Base(File.string(), SQLite::OPEN_READWRITE);
-    Base.exec("INSERT INTO Classique_ListeObjets (" + Names +
+    Base.exec("INSERT INTO " + Into + " (" + Names +
               ") WITH RECURSIVE Copies(Copie) AS (SELECT 2 UNION ALL SELECT Copie + 1 FROM Copies "
               "WHERE Copie < " +
-              std::to_string(Times) + ") SELECT " + Values +
-              " FROM Copies CROSS JOIN Classique_ListeObjets");
+              std::to_string(Times) + ") SELECT " + Values + " FROM Copies CROSS JOIN " + Into);
+}
+
+void Multiply(const std::filesystem::path& File, const DatabaseDefinition& Definition, int Times)
+{
+    for (const TableDefinition& Table : Definition.Tables)
+        if (Table.Name == "Classique_ListeObjets" || Table.Name == "ListeObjets")
+            Multiply(File, Table, "Nom", Times);
+        else if (Table.Name == "Arcanes_ListeObjets")
+            Multiply(File, Table, "Bonus", Times);
 }
 
 } // namespace
@@ -44,9 +53,11 @@ void CopyCatalogue(const std::filesystem::path& From, const std::filesystem::pat
             std::filesystem::copy_file(Entry.path(), Copy,
                                        std::filesystem::copy_options::overwrite_existing);
         }
+    if (Times == 1)
+        return;
     for (const std::string& Royaume : Royaumes())
-        if (Times > 1)
-            Multiply(To / ("Artisanat_" + Royaume + ".mdb"), Times);
+        Multiply(To / ("Artisanat_" + Royaume + ".mdb"), RoyaumeDefinition(), Times);
+    Multiply(To / "Artisanat_Alchimie.mdb", AlchimieDefinition(), Times);
 }
 
 void ChooseStart(const std::filesystem::path& Folder, const std::string& Realm,

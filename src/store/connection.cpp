@@ -51,13 +51,13 @@ struct Prepared
     Prepared(SQLite::Database& Base, Translation Given)
         : Statement(Base, Given.Sql),
           Query(std::move(Given)),
-          Columns(std::make_shared<const std::vector<std::string>>(Query.Columns))
+          Columns(std::make_shared<const ColumnNames>(Query.Columns, Query.Source))
     {
     }
 
     SQLite::Statement Statement;
     Translation Query;
-    std::shared_ptr<const std::vector<std::string>> Columns;
+    std::shared_ptr<const ColumnNames> Columns;
 };
 
 } // namespace
@@ -160,7 +160,7 @@ RowSet Connection::Select(std::string_view Sql)
         for (std::size_t i = 0; i < Parameters.size(); ++i)
             BindValue(Statement, static_cast<int>(i) + 1, Parameters[i]);
         std::unordered_set<std::string> Seen;
-        const int Count = static_cast<int>(Ready.Columns->size());
+        const int Count = static_cast<int>(Ready.Columns->Count());
         while (Statement.executeStep()) {
             std::vector<Value> Row;
             Row.reserve(static_cast<std::size_t>(Count));

@@ -15,7 +15,7 @@ namespace orvane {
 // The rows of a query, all read: walking and changing them needs no open cursor.
 struct RowSet
 {
-    std::shared_ptr<const std::vector<std::string>> Columns;
+    std::shared_ptr<const ColumnNames> Columns;
     std::string Source;                   // what was selected from
     std::string Table;                    // set when the rows can be changed
     std::vector<std::vector<Value>> Rows; // in the order of Columns

@@ -123,7 +123,7 @@ const Value& Recordset::Cell(std::string_view Name) const
 
 std::size_t Recordset::ColumnAt(std::string_view Name) const
 {
-    const int Found = FindColumn(*Rows.Columns, Rows.Source, Name);
+    const int Found = Rows.Columns->Find(Name);
     if (Found < 0)
         throw Failure(FailureKind::DatabaseIncomplete, Rows.Source + "." + std::string(Name));
     return static_cast<std::size_t>(Found);

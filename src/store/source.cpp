@@ -41,4 +41,12 @@ int FindColumn(const std::vector<std::string>& Columns, std::string_view SourceN
     return OnlyOne(Columns, [&](const std::string& Column) { return Prefix + Column == Wanted; });
 }
 
+int ColumnNames::Find(std::string_view Name) const
+{
+    const auto Remembered = Known.find(Name);
+    if (Remembered != Known.end())
+        return Remembered->second;
+    return Known[std::string(Name)] = FindColumn(Names, SourceName, Name);
+}
+
 } // namespace orvane

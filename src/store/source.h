@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,5 +26,25 @@ using SourceFinder = std::function<const Source&(const std::string& Name)>;
 // source's name, a dot and the column's. Case is ignored. -1 when there is none, or more than one.
 int FindColumn(const std::vector<std::string>& Columns, std::string_view SourceName,
                std::string_view Name);
+
+// The columns of one prepared query. What callers name them is looked up once and remembered.
+class ColumnNames
+{
+  public:
+    ColumnNames(std::vector<std::string> Names, std::string SourceName)
+        : Names(std::move(Names)),
+          SourceName(std::move(SourceName))
+    {
+    }
+
+    std::size_t Count() const { return Names.size(); }
+    const std::string& operator[](std::size_t At) const { return Names[At]; }
+    int Find(std::string_view Name) const; // as FindColumn
+
+  private:
+    std::vector<std::string> Names;
+    std::string SourceName;
+    mutable std::map<std::string, int, std::less<>> Known;
+};
 
 } // namespace orvane

@@ -15,6 +15,7 @@ void ConstruireMenu(SideMenu& Menu, frm_Configuration& Configuration,
 {
     Menu.Attach(Configuration.imglst_CraftPetit, Configuration.imglst_CraftGrand);
     std::vector<SideMenu::Bar> Barres;
+    Barres.reserve(Groupes.size() + 1);
     for (const GroupeMenu& Each : Groupes)
         Barres.push_back({Each.Clé, Each.Titre, Each.Tip, Couleurs, Configuration.pct_Logo.Picture,
                           Each.Entrées});

@@ -76,6 +76,7 @@ template <class Entries>
 std::vector<SideMenu::Item> Items(const Entries& Entrées)
 {
     std::vector<SideMenu::Item> Result;
+    Result.reserve(Entrées.size());
     for (const EntréeMétier& Each : Entrées) // the small icons count from 0
         Result.push_back({Each.Texte, Each.Texte, Chercher(Each.Métier).Image - 1, Each.Tip});
     return Result;
