@@ -2,8 +2,11 @@
 
 #include "base/failure.h"
 #include "base/number_text.h"
+#include "base/text.h"
 #include "shell/queries.h"
 #include "skins/skin_assets.h"
+
+#include <unordered_map>
 
 namespace orvane {
 
@@ -68,6 +71,32 @@ std::string TableDe(Application& App, const Screen& Feuille, const std::string& 
     return Table;
 }
 
+// The rows of one screen's table, read at once and found by name without regard to case. The first
+// row for a name counts, in the order of Num.
+class Lignes
+{
+  public:
+    explicit Lignes(Recordset Toutes) : Toutes(std::move(Toutes))
+    {
+        for (std::size_t i = 0; !this->Toutes.Eof(); this->Toutes.MoveNext(), ++i)
+            ParNom.emplace(FoldedCase(this->Toutes.TextOrEmpty("NomControl")), i);
+    }
+
+    // On the row of that name, or nothing.
+    const Recordset* Pour(const std::string& Nom)
+    {
+        const auto Trouvée = ParNom.find(FoldedCase(Nom));
+        if (Trouvée == ParNom.end())
+            return nullptr;
+        Toutes.MoveTo(Trouvée->second);
+        return &Toutes;
+    }
+
+  private:
+    Recordset Toutes;
+    std::unordered_map<std::string, std::size_t> ParNom;
+};
+
 } // namespace
 
 void AppliquerRésolution(Application& App, std::int16_t IndexFeuille, const std::string& Résolution)
@@ -76,20 +105,18 @@ void AppliquerRésolution(Application& App, std::int16_t IndexFeuille, const std
     Screen& Feuille = App.Feuilles[IndexFeuille];
     const std::string Table = TableDe(App, Feuille, Résolution);
     const Database Base = App.Bases.Open(Globals.CheminBaseSkin);
-    const auto Lignes = [&](const std::string& Nom) {
-        Globals.TexteSQL =
-            "SELECT * FROM [" + Table + "] WHERE NomControl=" + Quoted(Nom) + " ORDER BY Num";
-        return Base.OpenRecordset(Globals.TexteSQL);
-    };
-    Recordset Propre = Lignes(Feuille.Name());
-    Propre.MoveFirst();
-    if (Vaut(Propre, "ChangeWidth"))
-        Feuille.Width = Twips(Propre, "Width");
-    if (Vaut(Propre, "ChangeHeight"))
-        Feuille.Height = Twips(Propre, "Height");
+    Globals.TexteSQL = "SELECT * FROM [" + Table + "] ORDER BY Num";
+    Lignes Rangées(Base.OpenRecordset(Globals.TexteSQL));
+    const Recordset* Propre = Rangées.Pour(Feuille.Name());
+    if (Propre == nullptr)
+        throw Failure(FailureKind::NoRow, Feuille.Name());
+    if (Vaut(*Propre, "ChangeWidth"))
+        Feuille.Width = Twips(*Propre, "Width");
+    if (Vaut(*Propre, "ChangeHeight"))
+        Feuille.Height = Twips(*Propre, "Height");
     for (Control* Contrôle : Feuille.Controls())
-        if (const Recordset Trouvées = Lignes(Contrôle->Name()); Trouvées.RecordCount() > 0)
-            Appliquer(*Contrôle, Trouvées);
+        if (const Recordset* Sienne = Rangées.Pour(Contrôle->Name()))
+            Appliquer(*Contrôle, *Sienne);
 }
 
 void AppliquerRésolutionPartout(Application& App, const std::string& Résolution)

@@ -45,6 +45,12 @@ void Recordset::MoveNext()
         ++At;
 }
 
+void Recordset::MoveTo(std::size_t Row)
+{
+    DropChanges();
+    At = std::min(Row, Rows.Rows.size());
+}
+
 bool Recordset::IsNull(std::string_view Name) const
 {
     return Cell(Name).IsNull();

@@ -24,6 +24,7 @@ class Recordset
     // text.
     void MoveFirst();
     void MoveNext();
+    void MoveTo(std::size_t Row); // from 0; at or behind RecordCount is the end
 
     // Cells of the present row. Text, Whole and Number fail on a null (Kind::NullValue); Whole and
     // Number also on a text that is no number.
