@@ -10,7 +10,7 @@ template <class Number>
 Number OrMarked(std::optional<Number> Read, TextBox& Box)
 {
     Box.Marked = !Read;
-    if (!Read)
+    if (!Read || Box.Stale)
         throw Failure(FailureKind::WrongText, Box.Text, Box.Name());
     return *Read;
 }

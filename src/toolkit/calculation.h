@@ -11,8 +11,8 @@
 // The reading half of the number rules' notation, and the frame of every calculation.
 namespace orvane {
 
-// The text of a box as a Montant. A text that is no number marks the box and ends the calculation
-// (Failure, Kind::WrongText).
+// The text of a box as a Montant. A text that is no number marks the box; it ends the calculation,
+// as a stale figure does (Failure, Kind::WrongText).
 Montant M(TextBox& Box);
 
 // The text of a box as a 16-bit whole number, likewise.
@@ -42,16 +42,17 @@ bool Calculate(const std::vector<TextBox*>& Results, Formula Run)
     return Good;
 }
 
-// Runs the part of a pick that reads what the results rest on. When it is given up, the results on
-// screen belong to another choice: they are shown as stale, and the failure goes on its way.
+// Runs the part of a pick that reads what prices rest on. When it is given up, the figures that it
+// renews belong to another choice, or to none: they are shown as stale until they are written
+// again, and the failure goes on its way.
 template <class Reading>
-void ReadOrStale(const std::vector<TextBox*>& Results, Reading Run)
+void ReadOrStale(const std::vector<TextBox*>& Renewed, Reading Run)
 {
     try {
         Run();
     } catch (...) {
-        for (TextBox* Result : Results)
-            Result->Stale = true;
+        for (TextBox* Each : Renewed)
+            Each->Stale = true;
         throw;
     }
 }

@@ -22,6 +22,7 @@ TextBox::TextBox(Screen& Owner, std::string Name)
 
 TextBox::TextProperty& TextBox::TextProperty::operator=(const std::string& Given)
 {
+    Box.Stale = false;
     if (Value != Given) {
         Value = Given;
         Box.TextChanged();

@@ -16,6 +16,7 @@ class TextBox : public Control
     TextBox(Screen& Owner, std::string Name);
 
     // Assigning a different text runs OnChange inside the assignment; the same text runs nothing.
+    // Whatever is written is no longer stale.
     class TextProperty
     {
       public:
@@ -46,7 +47,8 @@ class TextBox : public Control
     // The text is no number of the kind that the box accepts, or that a calculation needed.
     Property<bool> Marked{AsOwner(), PropertyId::Marked};
 
-    // The figure is from before an input went wrong.
+    // The figure is from before an input went wrong or a pick was given up: no calculation rests on
+    // it.
     Property<bool> Stale{AsOwner(), PropertyId::Stale};
 
     Alignment Align = Alignment::Centre;

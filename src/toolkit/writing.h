@@ -5,6 +5,7 @@
 
 #include <initializer_list>
 #include <string>
+#include <vector>
 
 namespace orvane {
 
@@ -20,6 +21,18 @@ void WriteAll(Family<TextBox, Count>& Boxes, const std::string& Text)
 {
     for (TextBox& Each : Boxes)
         Each.Text = Text;
+}
+
+// Single boxes and whole families in one list.
+template <class... Families>
+std::vector<TextBox*> Together(std::vector<TextBox*> Boxes, Families&... More)
+{
+    const auto Append = [&](auto& Family) {
+        for (TextBox& Each : Family)
+            Boxes.push_back(&Each);
+    };
+    (Append(More), ...);
+    return Boxes;
 }
 
 } // namespace orvane

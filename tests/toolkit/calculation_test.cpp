@@ -60,6 +60,20 @@ TEST_F(CalculationTest, AnOverflowMarksNoInputButTheResultsAreStale)
     EXPECT_EQ(A.txt_Prix.Text(), "922337203685477,5807");
 }
 
+TEST_F(CalculationTest, WhatAGivenUpPickLeavesIsUsedByNoCalculationUntilItIsWrittenAgain)
+{
+    EXPECT_FAILS(NoRow,
+                 ReadOrStale({&A.txt_Mat[1]}, [] { throw Failure(FailureKind::NoRow, "a"); }));
+    EXPECT_TRUE(A.txt_Mat[1].Stale());
+    A.txt_Nb.Text = "4";
+    EXPECT_FALSE(CalculerPrix());
+    EXPECT_TRUE(A.txt_Prix.Stale());
+    EXPECT_FALSE(A.txt_Mat[1].Marked()) << "the crafter typed nothing wrong";
+    A.txt_Mat[1].Text = "12,5"; // the same text is fresh all the same
+    EXPECT_TRUE(CalculerPrix());
+    EXPECT_EQ(A.txt_Prix.Text(), "50");
+}
+
 TEST_F(CalculationTest, AnyOtherFailureTravelsOn)
 {
     EXPECT_FAILS(NullValue,

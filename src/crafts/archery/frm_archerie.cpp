@@ -8,6 +8,7 @@
 #include "settings/affichage.h"
 #include "shell/queries.h"
 #include "toolkit/calculation.h"
+#include "toolkit/writing.h"
 
 #include <array>
 
@@ -56,7 +57,7 @@ void frm_Archerie::cbo_Type_Click()
 
 void frm_Archerie::cbo_Objet_Click()
 {
-    ReadOrStale({&txt_PrixCoûtant, &txt_PrixVente}, [&] { LireCarquois(); });
+    ReadOrStale(Together({&txt_PrixCoûtant, &txt_PrixVente}, txt_PrixMat), [&] { LireCarquois(); });
     const bool Juste = Calculate({&txt_PrixCoûtant, &txt_PrixVente}, [&] {
         std::array<std::string, 3> Prix;
         for (int i = 1; i <= 3; ++i)

@@ -35,16 +35,9 @@ void CalculerPrixLigne(TextBox& PrixUnitaire, TextBox& Qté, TextBox& Prix)
         Prix.Text = Produit;
 }
 
-Montant PrixÀJour(TextBox& Prix)
-{
-    if (Prix.Stale)
-        throw Failure(FailureKind::WrongText, Prix.Text, Prix.Name());
-    return M(Prix);
-}
-
 Montant PrixLigne(TextBox& Prix)
 {
-    return Prix.Text == "" ? Montant() : PrixÀJour(Prix);
+    return Prix.Text == "" ? Montant() : M(Prix);
 }
 
 void PoserVerrou(TextBox& Prix, bool Libre, const TextBox& Ouverte, const TextBox& Fermée)

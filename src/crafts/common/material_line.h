@@ -37,10 +37,7 @@ void Montrer(const LigneMatériau& Ligne, bool Montrée);
 // give "0". A wrong text leaves the price as it was, shown as stale.
 void CalculerPrixLigne(TextBox& PrixUnitaire, TextBox& Qté, TextBox& Prix);
 
-// A price that another one rests on: a stale one ends the calculation as a wrong text does.
-Montant PrixÀJour(TextBox& Prix);
-
-// The same for a line price in a sum: the empty text, as before the first object, counts as 0.
+// A line price in a sum: the empty text, as before the first object, counts as 0.
 Montant PrixLigne(TextBox& Prix);
 
 // Opens a line price to typing, or closes it, with the ground of the box that looks so.

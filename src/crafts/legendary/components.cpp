@@ -25,12 +25,16 @@ std::string NiveauComposant(const Recordset& Composant)
 void frm_ArmesLégendaires::cbo_Arme_Click()
 {
     RemettreQuantités();
-    ReadOrStale(PrixDuChoix({&txt_PrixCoûtantArme, &txt_PrixCoûtantGemme}), [&] {
-        LireArme();
-        ChargerArmeEtGemme();
+    ReadOrStale(PrixDuChoix({&txt_PrixCoûtantArme, &txt_PrixCoûtantGemme, &txt_PrixUnitaireMatériau,
+                             &txt_PrixRevente}),
+                [&] {
+                    LireArme();
+                    ChargerArmeEtGemme();
+                });
+    ReadOrStale(PrixDuChoix(), [&] {
         ChargerImages();
+        ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
     });
-    ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
     CalculerComposants();
     CalculerTotaux();
 }
@@ -67,8 +71,8 @@ void frm_ArmesLégendaires::cbo_Type_Click()
     ReadOrStale(PrixDuChoix({&txt_PrixCoûtantTeinture}), [&] {
         LireType();
         ChargerTeinture();
-        ChargerImages();
     });
+    ReadOrStale(PrixDuChoix(), [&] { ChargerImages(); });
     CalculerComposants();
     CalculerTotaux();
 }

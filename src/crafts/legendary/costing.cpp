@@ -13,7 +13,7 @@ namespace {
 void Multiplier(TextBox& Unitaire, TextBox& Qté, TextBox& Prix)
 {
     std::string Produit;
-    if (Calculate({&Prix}, [&] { Produit = T(I(Qté) * PrixÀJour(Unitaire)); }))
+    if (Calculate({&Prix}, [&] { Produit = T(I(Qté) * M(Unitaire)); }))
         Prix.Text = Produit;
 }
 
@@ -34,7 +34,7 @@ void frm_ArmesLégendaires::CalculerBloc(const Bloc& Composant)
     Calculate({&Composant.PrixCoûtant}, [&] {
         Montant Somme;
         for (TextBox& Prix : Composant.Prix)
-            Somme = Somme + PrixÀJour(Prix);
+            Somme = Somme + M(Prix);
         Composant.PrixCoûtant.Text = T(Somme);
     });
 }
@@ -62,7 +62,7 @@ void frm_ArmesLégendaires::CalculerPrixCoûtant()
         Montant Somme;
         for (TextBox* Prix : {&txt_PrixArme, &txt_PrixGemme, &txt_PrixTeinture, &txt_PrixMatériau,
                               &txt_PrixSpécial})
-            Somme = Somme + PrixÀJour(*Prix);
+            Somme = Somme + M(*Prix);
         txt_PrixCoûtant.Text = T(Somme);
     });
 }
@@ -72,7 +72,7 @@ void frm_ArmesLégendaires::CalculerPrixCoûtant()
 void frm_ArmesLégendaires::CalculerTotaux()
 {
     Calculate({&txt_PrixCoûtantTotal, &txt_PrixVente}, [&] {
-        const Montant Perte = PrixÀJour(txt_PrixCoûtant) - M(txt_PrixRevente);
+        const Montant Perte = M(txt_PrixCoûtant) - M(txt_PrixRevente);
         const Montant CoûtObjets = I(txt_NbObjet) * M(txt_PrixCoûtant);
         const Montant CoûtEssais = I(txt_NbEssais) * Perte;
         const Montant Total = CoûtObjets + CoûtEssais;
@@ -84,13 +84,11 @@ void frm_ArmesLégendaires::CalculerTotaux()
     });
 }
 
-std::vector<TextBox*> frm_ArmesLégendaires::PrixDuChoix(std::initializer_list<TextBox*> Blocs)
+std::vector<TextBox*> frm_ArmesLégendaires::PrixDuChoix(std::vector<TextBox*> Siens)
 {
-    std::vector<TextBox*> Prix{&txt_PrixArme,     &txt_PrixGemme,   &txt_PrixTeinture,
-                               &txt_PrixMatériau, &txt_PrixCoûtant, &txt_PrixCoûtantTotal,
-                               &txt_PrixVente};
-    Prix.insert(Prix.end(), Blocs);
-    return Prix;
+    Siens.insert(Siens.end(), {&txt_PrixArme, &txt_PrixGemme, &txt_PrixTeinture, &txt_PrixMatériau,
+                               &txt_PrixCoûtant, &txt_PrixCoûtantTotal, &txt_PrixVente});
+    return Siens;
 }
 
 } // namespace orvane

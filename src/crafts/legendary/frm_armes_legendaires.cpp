@@ -37,8 +37,7 @@ void frm_ArmesLégendaires::Relier()
     };
     txt_PrixUnitaireMatériau.OnChange = [this] { CalculerPrixMatériau(); };
     for (TextBox* Libre : {&txt_PrixGemme, &txt_PrixTeinture, &txt_PrixSpécial})
-        Libre->OnChange = [this, Libre] {
-            Libre->Stale = false; // what is typed stands for itself
+        Libre->OnChange = [this] {
             CalculerPrixCoûtant();
             CalculerTotaux();
         };

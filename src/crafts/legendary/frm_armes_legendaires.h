@@ -212,8 +212,8 @@ class frm_ArmesLégendaires : public Feuille
     void CalculerPrixCoûtant();
     void CalculerTotaux();
 
-    // Every price that a pick renews, the totals of its blocks included.
-    std::vector<TextBox*> PrixDuChoix(std::initializer_list<TextBox*> Blocs);
+    // The prices that every pick renews, and those that only this one does.
+    std::vector<TextBox*> PrixDuChoix(std::vector<TextBox*> Siens = {});
 
     void cmd_AjouterPanier_Click();
 

@@ -101,11 +101,13 @@ void frm_ArtisanatsMagiques::cbo_Type_Click()
 void frm_ArtisanatsMagiques::cbo_Objet_Click()
 {
     EffacerMatériaux();
-    ReadOrStale(PrixDuChoix(), [&] { LireObjet(); });
-    ChangerCouleurCraft(App, lbl_NiveauAlchimie.Caption, NiveauAlchimie, img_NiveauAlchimie);
-    if (txt_AlchimieObjetSup.Text != "")
-        ChangerCouleurCraft(App, lbl_AlchimieObjetSupNiveauCraft.Caption, NiveauAlchimie,
-                            img_AlchimieObjetSupNiveau);
+    ReadOrStale(PrixDuChoix(), [&] {
+        LireObjet();
+        ChangerCouleurCraft(App, lbl_NiveauAlchimie.Caption, NiveauAlchimie, img_NiveauAlchimie);
+        if (txt_AlchimieObjetSup.Text != "")
+            ChangerCouleurCraft(App, lbl_AlchimieObjetSupNiveauCraft.Caption, NiveauAlchimie,
+                                img_AlchimieObjetSupNiveau);
+    });
     CalculerPrixAlchimie();
 }
 

@@ -134,8 +134,6 @@ void frm_ArtisanatsMagiques::EffacerSélectionGemmes(std::int16_t Palier)
 // on what is still there, and what that leaves stands.
 void frm_ArtisanatsMagiques::EffacerMatériaux()
 {
-    for (TextBox* Prix : PrixLignes())
-        Prix->Stale = false; // a pick that was given up is over
     WriteAll(txt_Ingdt, "");
     WriteAll(txt_IngdtQté, "0");
     WriteAll(txt_PrixIngdtUnitaire, "0");

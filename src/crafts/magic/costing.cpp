@@ -1,6 +1,7 @@
 #include "base/number_text.h"
 #include "crafts/magic/frm_artisanats_magiques.h"
 #include "toolkit/calculation.h"
+#include "toolkit/writing.h"
 
 // From line prices, counts and margins to the prices of both crafts.
 namespace orvane {
@@ -74,21 +75,11 @@ std::vector<TextBox*> frm_ArtisanatsMagiques::RésultatsArcanes()
             &txt_ArcanesPrixVenteTotal};
 }
 
-std::vector<TextBox*> frm_ArtisanatsMagiques::PrixLignes()
-{
-    std::vector<TextBox*> Prix;
-    for (TextBox& Each : txt_PrixIngdt)
-        Prix.push_back(&Each);
-    for (TextBox& Each : txt_PrixMatSup)
-        Prix.push_back(&Each);
-    return Prix;
-}
-
 std::vector<TextBox*> frm_ArtisanatsMagiques::PrixDuChoix()
 {
-    std::vector<TextBox*> Prix = PrixLignes();
-    for (const auto& Each : {RésultatsAlchimie(), RésultatsArcanes()})
-        Prix.insert(Prix.end(), Each.begin(), Each.end());
+    std::vector<TextBox*> Prix = Together(RésultatsAlchimie(), txt_PrixIngdt, txt_PrixMatSup);
+    for (TextBox* Each : RésultatsArcanes())
+        Prix.push_back(Each);
     return Prix;
 }
 

@@ -214,7 +214,6 @@ class frm_ArtisanatsMagiques : public Feuille
     void LireIcône();
     void cbo_DegréGemmes_Click();
     void cbo_DegréBonus_Click();
-    void FinirDegré();
 
     // Loading a gem
     bool PremierDegréSeul() const;
@@ -241,7 +240,6 @@ class frm_ArtisanatsMagiques : public Feuille
     Montant CoûtMatériaux();
     std::vector<TextBox*> RésultatsAlchimie();
     std::vector<TextBox*> RésultatsArcanes();
-    std::vector<TextBox*> PrixLignes();  // of the table and of the extra object
     std::vector<TextBox*> PrixDuChoix(); // lines and results: what a pick renews
 
     void cmd_AjouterPanier_Click();

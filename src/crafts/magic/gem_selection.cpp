@@ -141,8 +141,9 @@ void frm_ArtisanatsMagiques::cbo_DegréGemmes_Click()
         RemplirTexte(Degrés + " WHERE DegréType1=" + Quoted(cbo_DegréGemmes.Text()), cbo_DegréBonus,
                      ColonneDegré());
         ChargerGemme();
+        ChangerCouleurCraft(App, lbl_NiveauAlchimie.Caption, NiveauArcanes, img_NiveauAlchimie);
     });
-    FinirDegré();
+    CalculerPrixArcanes();
 }
 
 void frm_ArtisanatsMagiques::cbo_DegréBonus_Click()
@@ -156,13 +157,8 @@ void frm_ArtisanatsMagiques::cbo_DegréBonus_Click()
                          ColonneDegré() + "=" + Quoted(cbo_DegréBonus.Text()),
                      cbo_DegréGemmes, "DegréType1");
         ChargerGemme();
+        ChangerCouleurCraft(App, lbl_NiveauAlchimie.Caption, NiveauArcanes, img_NiveauAlchimie);
     });
-    FinirDegré();
-}
-
-void frm_ArtisanatsMagiques::FinirDegré()
-{
-    ChangerCouleurCraft(App, lbl_NiveauAlchimie.Caption, NiveauArcanes, img_NiveauAlchimie);
     CalculerPrixArcanes();
 }
 

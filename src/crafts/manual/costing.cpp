@@ -48,6 +48,7 @@ void frm_ArtisanatsManuels::CalculerPrixVente()
         txt_PrixVente.Text = T(Vente);
     };
     const bool Périmés = txt_PrixCoûtant.Stale;
+    txt_PrixCoûtant.Stale = false; // whatever that run left is what the loss rests on
     if (Calculate(Résultats(), Formule) && Périmés)
         Calculate(Résultats(), Formule);
 }

@@ -7,6 +7,7 @@
 #include "shell/queries.h"
 #include "toolkit/calculation.h"
 #include "toolkit/visibility.h"
+#include "toolkit/writing.h"
 
 #include <array>
 
@@ -41,8 +42,10 @@ std::string TexteNiveau(double NiveauObjet, std::int16_t Degré)
 
 void frm_ArtisanatsManuels::cbo_Degré_Click()
 {
-    ReadOrStale(Résultats(), [&] { LireDegré(); });
-    ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
+    ReadOrStale(Together(Résultats(), txt_PrixMat), [&] {
+        LireDegré();
+        ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
+    });
     CalculerPrixMatériaux();
     CalculerPrixVente();
     for (int i = 1; i <= 6; ++i)

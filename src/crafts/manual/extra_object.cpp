@@ -71,7 +71,9 @@ void frm_ArtisanatsManuels::cbo_TypeDégats_Click()
         return;
     }
     txt_ObjetSup.Text = txt_ObjetSup.Text() + Degré->Suffixe;
-    ReadOrStale(Résultats(), [&] { LireObjetSup(); });
+    std::vector<TextBox*> Renouvelés = Résultats();
+    Renouvelés.push_back(&txt_ObjetSUpPrixCoûtant);
+    ReadOrStale(Renouvelés, [&] { LireObjetSup(); });
     if (txt_ObjetSup.Text != "")
         ChangerCouleurCraft(App, lbl_ObjetSupNiveauCraft.Caption, NiveauAlchimie,
                             img_ObjetSupNiveau);

@@ -54,8 +54,10 @@ void frm_ArtisanatsSecondaires::ChoisirRecyclage()
 
 void frm_ArtisanatsSecondaires::ChoisirDegré()
 {
-    ReadOrStale({&txt_PrixCoûtant, &txt_Gain}, [&] { LireDegré(); });
-    ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
+    ReadOrStale({&txt_PrixCoûtant, &txt_PrixRevente, &txt_Gain}, [&] {
+        LireDegré();
+        ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
+    });
     CalculerMatériaux();
     CalculerGain();
 }

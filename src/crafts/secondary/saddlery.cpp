@@ -5,6 +5,7 @@
 #include "shell/queries.h"
 #include "toolkit/calculation.h"
 #include "toolkit/visibility.h"
+#include "toolkit/writing.h"
 
 #include <array>
 
@@ -55,9 +56,12 @@ void frm_ArtisanatsSecondaires::FiltrerSellerie()
 void frm_ArtisanatsSecondaires::ChoisirSellerie()
 {
     ViderChamps();
-    ReadOrStale({&txt_PrixCoûtant, &txt_SelleriePrixCoûtant, &txt_SelleriePrixVente},
-                [&] { LireSellerie(); });
-    ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
+    ReadOrStale(Together({&txt_PrixCoûtant, &txt_SelleriePrixCoûtant, &txt_SelleriePrixVente},
+                         txt_PrixMatUnitaire),
+                [&] {
+                    LireSellerie();
+                    ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
+                });
     CalculerSellerie();
 }
 
