@@ -1,0 +1,41 @@
+#pragma once
+
+#include "tour/step.h"
+
+#include <QTimer>
+
+#include <deque>
+
+class QDialog;
+
+namespace orvane::tour {
+
+class Camera;
+
+// Answers the boxes that come up in the middle of a click, which waits for them. A box that nobody
+// expects is closed and remembered as a complaint.
+class Boxes
+{
+  public:
+    explicit Boxes(Camera& TheCamera);
+
+    void Expect(const Step& Await) { Awaited.push_back(Await); } // one after the other
+
+    // Throws what was wrong with the boxes up to now: an unexpected one, or one that never came.
+    void Check();
+
+    void Complain(const QString& Text);
+
+  private:
+    void Look();
+    void Answer(QDialog& Box);
+    void Give(QDialog& Box, const Step& Await) const;
+
+    Camera& TheCamera;
+    QTimer Glances;
+    std::deque<Step> Awaited;
+    bool IsBusy = false;
+    QString Complaint;
+};
+
+} // namespace orvane::tour
