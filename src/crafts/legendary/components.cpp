@@ -1,6 +1,7 @@
 #include "base/number_text.h"
 #include "crafts/common/alchemy_object.h"
 #include "crafts/common/joined_column.h"
+#include "crafts/common/object_pictures.h"
 #include "crafts/legendary/frm_armes_legendaires.h"
 #include "settings/affichage.h"
 #include "shell/queries.h"
@@ -103,6 +104,7 @@ void frm_ArmesLégendaires::ChargerArmeEtGemme()
         }
         lbl_NiveauArme.Caption = NiveauComposant(Objet);
         txt_IcôneArme.Text = Objet.TextOrEmpty("Icône");
+        MontrerIcôneRoyaume(App, txt_IcôneArme, img_IcôneArme); // an activation took it away
         ChargerGemme();
         for (int i = 1; i <= 3; ++i)
             ChercherMatériauArme(txt_MatArme[i], txt_PrixMatUnitaireArme[i]);
@@ -128,6 +130,7 @@ void frm_ArmesLégendaires::ChargerGemme()
     txt_QtéGemmeN[3].Text = "10";
     lbl_NiveauGemme.Caption = NiveauComposant(Gemme);
     txt_IcôneGemme.Text = Gemme.TextOrEmpty("Icône");
+    MontrerIcôneCommune(App, txt_IcôneGemme, img_IcôneGemme);
 
     Globals.TexteSQL =
         "SELECT * FROM Matériaux_Arcanes WHERE Degré=" + std::to_string(DernierDegré);
@@ -163,6 +166,7 @@ void frm_ArmesLégendaires::ChargerTeinture()
         }
         lbl_NiveauTeinture.Caption = Teinture.Text("NiveauCraft"); // a dye has no degrees
         txt_IcôneTeinture.Text = Teinture.TextOrEmpty("Icône");
+        MontrerIcôneOuPasImage(App, txt_IcôneTeinture, img_IcôneTeinture);
         RemplacerDernierCaractère(Globals, txt_MatTeinture[1]);
     }
     CalculerBloc(BlocTeinture());

@@ -140,6 +140,8 @@ void frm_ArtisanatsMagiques::LireObjet()
                          txt_MatSupQté, txt_PrixMatSuptUnitaire});
 }
 
+// Boxes that the last flip has shown or hidden follow their texts again, also when those are the
+// same.
 void frm_ArtisanatsMagiques::LireCaractéristiques(const Recordset& Objet)
 {
     txt_NiveauObjet.Text = Objet.Text("Niveau");
@@ -148,6 +150,10 @@ void frm_ArtisanatsMagiques::LireCaractéristiques(const Recordset& Objet)
     txt_ValeurObjet.Text = Objet.Text("Valeur");
     txt_RésistObjet.Text = Objet.Text("Résistance");
     txt_ChargesObjet.Text = Objet.Text("Charges");
+    MontrerCaractéristique(txt_DuréeObjet, lbl_DuréeObjet);
+    MontrerCaractéristique(txt_ValeurObjet, lbl_valeurObjet);
+    MontrerCaractéristique(txt_RésistObjet, lbl_RésistObjet);
+    MontrerCaractéristique(txt_ChargesObjet, lbl_ChargesObjet);
 }
 
 void frm_ArtisanatsMagiques::MontrerCaractéristique(TextBox& Valeur, Label& Titre)

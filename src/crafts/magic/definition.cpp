@@ -205,8 +205,8 @@ void frm_ArtisanatsMagiques::DéfinirPrixAlchimie()
 
 void frm_ArtisanatsMagiques::DéfinirPrixArcanes()
 {
-    constexpr int Wide = 104;
-    constexpr int Step = 116;
+    constexpr int Wide = 102;
+    constexpr int Step = 118;
     constexpr int One = MiddleX + Margin;
     constexpr int WithTrials = One + Step;
     constexpr int Several = WithTrials + Step;

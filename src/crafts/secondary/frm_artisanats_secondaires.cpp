@@ -222,6 +222,14 @@ void frm_ArtisanatsSecondaires::AfficherRecyclage(bool Visible)
             Visible);
 }
 
+// The change of a mode takes the picture away and leaves its file's name: the same name must bring
+// it back.
+void frm_ArtisanatsSecondaires::MontrerIcône(const Recordset& Objet)
+{
+    txt_Icône.Text = Objet.TextOrEmpty("Icône");
+    MontrerIcôneRoyaume(App, txt_Icône, img_Icône);
+}
+
 void frm_ArtisanatsSecondaires::txt_Matériaux_Change(int i)
 {
     Montrer(Ligne(i), !(txt_Matériaux[i].Text == SansNom && EnSellerie()));

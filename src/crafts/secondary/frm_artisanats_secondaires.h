@@ -104,6 +104,7 @@ class frm_ArtisanatsSecondaires : public Feuille
     void ViderChamps();
     void AfficherVente(bool Visible);
     void AfficherRecyclage(bool Visible);
+    void MontrerIcône(const Recordset& Objet);
     void txt_Matériaux_Change(int i);
     void cmd_AjouterPanier_Click();
 

@@ -41,7 +41,7 @@ void frm_ArtisanatsSecondaires::ChoisirRecyclage()
         txt_MatériauxBruts[i].Text = Objet.Text("Mat" + std::to_string(i));
     for (int i = 1; i <= 3; ++i)
         txt_MatériauxQté[i].Text = Objet.Text("Qté" + std::to_string(i));
-    txt_Icône.Text = Objet.TextOrEmpty("Icône");
+    MontrerIcône(Objet);
 
     Globals.TexteSQL =
         "SELECT * FROM R_Secondaire WHERE (Artisanat_Liste.Nom=" + Quoted(lbl_Artisanat.Caption()) +
@@ -76,7 +76,7 @@ void frm_ArtisanatsSecondaires::LireDegré()
     Globals.TexteSQL = "SELECT * FROM R_SecondaireObjets WHERE Secondaire_Produits.Nom=" +
                        Quoted(cbo_ObjetSecondaire.Text());
     const Recordset& Objet = PremierEnregistrement(Globals);
-    txt_Icône.Text = Objet.TextOrEmpty("Icône");
+    MontrerIcône(Objet);
     ColonneRevente = "PrixReventeDegré" + std::to_string(NuméroDegré);
     txt_PrixRevente.Text = Objet.Text(ColonneRevente);
     lbl_Niveau.Caption = T(Objet.Number("NiveauCraft") + Entier16(NuméroDegré * 100));

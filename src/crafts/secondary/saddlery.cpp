@@ -71,7 +71,7 @@ void frm_ArtisanatsSecondaires::LireSellerie()
     Globals.TexteSQL = "SELECT * FROM R_SellerieObjets WHERE Sellerie_ListeObjets.Nom =" +
                        Quoted(cbo_ObjetSecondaire.Text());
     const Recordset& Objet = PremierEnregistrement(Globals);
-    txt_Icône.Text = Objet.TextOrEmpty("Icône");
+    MontrerIcône(Objet);
     txt_Image.Text = Objet.TextOrEmpty("Image");
     txt_PrixRevente.Text = Objet.Text("PrixRevente");
     lbl_Niveau.Caption = Objet.Text("NiveauCraft");
