@@ -1,3 +1,4 @@
+#include "crafts/common/craft_frame.h"
 #include "crafts/magic/frm_artisanats_magiques.h"
 #include "toolkit/visibility.h"
 
@@ -6,18 +7,14 @@
 // right. The two crafts take the same places.
 namespace orvane {
 
+using namespace cadre;
+
 namespace {
 
-constexpr int MiddleX = 214;
-constexpr int MiddleWide = 480;
-constexpr int RightX = 704;
-constexpr int RightWide = 296;
 constexpr int ChoiceY = 86;
 constexpr int ChoiceHigh = 166;
 constexpr int MaterialsY = 262;
 constexpr int PricesY = 482;
-constexpr int High = 24;
-constexpr int Margin = 14;
 
 // A caption above its box.
 void PlaceStacked(Label& Name, const char* Words, TextBox& Value, int X, int Y, int Wide)
@@ -40,12 +37,8 @@ LigneMatériau frm_ArtisanatsMagiques::LigneSup(int i)
 
 void frm_ArtisanatsMagiques::Définir()
 {
-    SizeScreen(*this, 1008, 700);
-    Place(Bar_Menus, {12, 10, 190, 680});
-    Place(img_Bannière, {MiddleX - 4, 10, 590, 64});
-    PlacePanel(shp_Artisanat, {812, 10, 188, 64});
-    Place(pct_Artisanat, {824, 26, 32, 32});
-    PlaceTitle(lbl_Artisanat, "Alchimie", {864, 24, 132, 36});
+    cadre::Placer(*this, {Bar_Menus, img_Bannière, shp_Artisanat, pct_Artisanat, lbl_Artisanat});
+    lbl_Artisanat.Caption = "Alchimie";
     DéfinirChoixAlchimie();
     DéfinirCaractéristiques();
     DéfinirChoixArcanes();
@@ -61,9 +54,7 @@ void frm_ArtisanatsMagiques::Définir()
         Holder.Visible = false;
     for (TextBox& Holder : txt_PrixMatSuptUnitaire)
         Holder.Visible = false;
-    PlaceButton(cmd_AjouterPanier, "Ajouter au panier", "Ajouter l’objet à la commande en cours",
-                {RightX, 644, 168, 46});
-    PlaceButton(cmd_Retour, "Retour", "Revenir à l’accueil", {RightX + 180, 644, 116, 46});
+    PlacerBoutons(cmd_AjouterPanier, cmd_Retour);
 }
 
 void frm_ArtisanatsMagiques::DéfinirChoixAlchimie()

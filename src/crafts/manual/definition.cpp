@@ -1,3 +1,4 @@
+#include "crafts/common/craft_frame.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "toolkit/placing.h"
 #include "toolkit/visibility.h"
@@ -6,15 +7,7 @@
 // columns: the menu, the walk with the bill of materials, the object.
 namespace orvane {
 
-namespace {
-
-constexpr int MiddleX = 214;
-constexpr int MiddleWide = 480;
-constexpr int RightX = 704;
-constexpr int RightWide = 296;
-constexpr int High = 24;
-
-} // namespace
+using namespace cadre;
 
 LigneMatériau frm_ArtisanatsManuels::Ligne(int i)
 {
@@ -28,12 +21,7 @@ LigneMatériau frm_ArtisanatsManuels::LigneSup(int i)
 
 void frm_ArtisanatsManuels::Définir()
 {
-    SizeScreen(*this, 1008, 700);
-    Place(img_Bannière, {MiddleX - 4, 10, 590, 64});
-    Place(Bar_Menus, {12, 10, 190, 680});
-    PlacePanel(shp_Artisanat, {812, 10, 188, 64});
-    Place(pct_Artisanat, {824, 26, 32, 32});
-    PlaceTitle(lbl_Artisanat, "", {864, 24, 132, 36});
+    cadre::Placer(*this, {Bar_Menus, img_Bannière, shp_Artisanat, pct_Artisanat, lbl_Artisanat});
     DéfinirChoix();
     DéfinirObjet();
     DéfinirMatériaux();
@@ -49,9 +37,7 @@ void frm_ArtisanatsManuels::Définir()
     for (TextBox* Holder : {&txt_Sup, &txt_Image, &txt_Icône, &txt_IconeObjetSup, &txt_ObjetSupBis})
         Holder->Visible = false;
     txt_Image.StartWith("Vide"); // so that the first empty text shows the placeholder
-    PlaceButton(cmd_AjouterPanier, "Ajouter au panier", "Ajouter l’objet à la commande en cours",
-                {RightX, 644, 168, 46});
-    PlaceButton(cmd_Retour, "Retour", "Revenir à l’accueil", {RightX + 180, 644, 116, 46});
+    PlacerBoutons(cmd_AjouterPanier, cmd_Retour);
 }
 
 void frm_ArtisanatsManuels::DéfinirChoix()

@@ -1,19 +1,16 @@
+#include "crafts/common/craft_frame.h"
 #include "crafts/secondary/frm_artisanats_secondaires.h"
 
 // Where the controls of the secondary crafts stand and what they say until a skin moves them. Sale
 // and recycling take the same place below the materials.
 namespace orvane {
 
+using namespace cadre;
+
 namespace {
 
-constexpr int MiddleX = 214;
-constexpr int MiddleWide = 480;
-constexpr int RightX = 704;
-constexpr int RightWide = 296;
 constexpr int MaterialsY = 196;
 constexpr int BottomY = 448;
-constexpr int High = 24;
-constexpr int Margin = 14;
 
 } // namespace
 
@@ -24,12 +21,7 @@ LigneMatériau frm_ArtisanatsSecondaires::Ligne(int i)
 
 void frm_ArtisanatsSecondaires::Définir()
 {
-    SizeScreen(*this, 1008, 700);
-    Place(Bar_Menus, {12, 10, 190, 680});
-    Place(img_Bannière, {MiddleX - 4, 10, 590, 64});
-    PlacePanel(shp_Artisanat, {812, 10, 188, 64});
-    Place(pct_Artisanat, {824, 26, 32, 32});
-    PlaceTitle(lbl_Artisanat, "", {864, 24, 132, 36});
+    cadre::Placer(*this, {Bar_Menus, img_Bannière, shp_Artisanat, pct_Artisanat, lbl_Artisanat});
     DéfinirChoix();
     DéfinirMatériaux();
     DéfinirVente();
@@ -44,9 +36,7 @@ void frm_ArtisanatsSecondaires::Définir()
     txt_Icône.Visible = false;
     txt_Image.Visible = false;
     txt_Image.StartWith("Vide"); // so that the first empty text shows the placeholder
-    PlaceButton(cmd_AjouterPanier, "Ajouter au panier", "Ajouter l’objet à la commande en cours",
-                {RightX, 644, 168, 46});
-    PlaceButton(cmd_Retour, "Retour", "Revenir à l’accueil", {RightX + 180, 644, 116, 46});
+    PlacerBoutons(cmd_AjouterPanier, cmd_Retour);
 }
 
 void frm_ArtisanatsSecondaires::DéfinirChoix()
