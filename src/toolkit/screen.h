@@ -70,9 +70,6 @@ class Screen : private PropertyOwner
 
     void Observe(ScreenObserver* NewObserver) { Observer = NewObserver; }
 
-  protected:
-    Forms& TheForms() const { return Owner; }
-
   private:
     friend class Control;
 
