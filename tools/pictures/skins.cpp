@@ -58,11 +58,24 @@ double NumberOf(const TableRow& Row, const QString& Column)
     return Result;
 }
 
+// The screens that the skin's layouts say are alike at every resolution, without their prefix.
+QStringList CommonScreens(const QString& Folder, const QString& Skin)
+{
+    const QString Prefix = QStringLiteral("frm_");
+    QStringList Result;
+    for (const TableRow& Row :
+         ReadTable(QDir(Folder).filePath("../skins/" + Skin + "/RésolutionCommune.tsv"),
+                   {"Nom", "Commun"})
+             .Rows)
+        if (Row.Cells["Commun"] == QStringLiteral("O"))
+            Result << Row.Cells["Nom"].mid(Prefix.size());
+    return Result;
+}
+
 std::vector<Skin> SkinsOf(const QString& Folder)
 {
     const Table Colours = ReadSkinTable(Folder, "palettes.tsv", {"palette"});
-    const Table Skins =
-        ReadSkinTable(Folder, "skins.tsv", {"skin", "palette", "drawings", "font", "common"});
+    const Table Skins = ReadSkinTable(Folder, "skins.tsv", {"skin", "palette", "drawings", "font"});
     std::vector<Skin> Result;
     for (const TableRow& Row : Skins.Rows) {
         const auto Same = [&](const TableRow& Each) {
@@ -74,7 +87,7 @@ std::vector<Skin> SkinsOf(const QString& Folder)
                                   .arg(Row.Place, Row.Cells["palette"]));
         RefuseOutsidePath(Row, Row.Cells["skin"]);
         Result.push_back({Row.Cells["skin"], Row.Cells["drawings"], Row.Cells["font"],
-                          Row.Cells["common"].split(' ', Qt::SkipEmptyParts), Found->Cells});
+                          CommonScreens(Folder, Row.Cells["skin"]), Found->Cells});
     }
     return Result;
 }
