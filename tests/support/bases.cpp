@@ -132,6 +132,7 @@ void FaireAlchimie(const fs::path& Dossier)
                   "2|1|Essence de glace d'arme de néthérium|505||6|2|4|3|2|2|6",
                   "3|1|Essence d'énergie d'arme de néthérium|560||1|2|5|5|3|0|0",
                   "4|1|Essence de feu d'arme d'arcanium|1000|essence.gif|2|3|4|5|2|4|0"});
+    AjouterMagie(Base);
     Base.Finir();
 }
 
@@ -150,6 +151,7 @@ void FaireRoyaume(const fs::path& Dossier, int Royaume)
     FaireMatériaux(Base, Royaume);
     FaireObjets(Base);
     FaireArcherie(Base);
+    FaireArcanes(Base);
     Base.Finir();
 }
 

@@ -2,6 +2,7 @@
 
 #include "basket/frm_panier.h"
 #include "crafts/archery/frm_archerie.h"
+#include "crafts/magic/frm_artisanats_magiques.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "settings/frm_configuration.h"
 #include "shell/application.h"
@@ -41,10 +42,11 @@ class BoîtesDuDossier : public ScriptedDialogs
 // The unit price of a material at degree d is base × (d + 1); merchants pay 4 + d for any object.
 //   type 1 "lin" 5 (Corvane "laine" 6, Brenmoor "chanvre" 7), type 2 "fil" 0,5, type 3 "bouton" 0,
 //   type 4 "(aucun)" 0, type 9 "perle" 3, type 5 "rareté" 1: no price at degree 1, no row at 3.
-// Extra objects: contenu.h. Quivers: Flèches "simple" has lines of 1,5 and 2 and 0,25, "barbelé" of
-// 0,5 each; Carreaux "simple" of 0,5 and 1 and 0,25; "Billes" has none.
+// Extra objects and magic crafts: contenu.h. Quivers: Flèches "simple" has lines of 1,5 and 2 and
+// 0,25, "barbelé" of 0,5 each; Carreaux "simple" of 0,5 and 1 and 0,25; "Billes" has none.
 // Valdren, level/margin/margin on trials: Armurerie 200/30/5, Couture 100/20/10, Empennage
-// 300/40/15, Forge 400/50/25. Corvane has one more everywhere, Brenmoor two more.
+// 300/40/15, Forge 400/50/25, Alchimie 505/65, Arcanes 506/66/76. Corvane has one more everywhere,
+// Brenmoor two more.
 class PetitDossier : public testing::Test
 {
   protected:
@@ -55,10 +57,12 @@ class PetitDossier : public testing::Test
     frm_Accueil& Accueil() { return App.Feuilles.Get<frm_Accueil>(); }
     frm_Configuration& Réglages() { return App.Feuilles.Get<frm_Configuration>(); }
     frm_ArtisanatsManuels& Atelier() { return App.Feuilles.Get<frm_ArtisanatsManuels>(); }
+    frm_ArtisanatsMagiques& Magie() { return App.Feuilles.Get<frm_ArtisanatsMagiques>(); }
     frm_Archerie& Archerie() { return App.Feuilles.Get<frm_Archerie>(); }
     frm_Panier& Panier() { return App.Feuilles.Get<frm_Panier>(); }
 
     void OuvrirAtelier() { Door.Click(Accueil().cmd_ArtisanatsManuels); }
+    void OuvrirMagie() { Door.Click(Accueil().cmd_ArtisanatsMagiques); }
     void OuvrirPanier() { Door.ClickItem(Atelier().Bar_Menus, "OuvrirPanier"); }
 
     // From the home screen: the settings stay open under the craft screen.
