@@ -11,15 +11,23 @@
 #include <QTimer>
 
 #include <cstdlib>
+#include <filesystem>
+#include <future>
 
 using namespace orvane;
 
 namespace {
 
+std::filesystem::path ProgramFolder()
+{
+    return std::filesystem::read_symlink("/proc/self/exe").parent_path();
+}
+
 // Runs start-up behind one boundary: what stops it is told in one box.
-bool Started(Application& App, Dialogs& Boxes)
+bool Started(Application& App, std::future<void>& Loading, Dialogs& Boxes)
 {
     try {
+        Loading.get();
         Démarrer(App);
         return true;
     } catch (const Failure& Given) {
@@ -34,23 +42,26 @@ bool Started(Application& App, Dialogs& Boxes)
 
 int main(int Count, char** Arguments)
 {
+    QtDialogs Boxes;
+    Application App(ProgramFolder(), Boxes);
+    // Quitting ends the process at once, as nothing is left to save.
+    App.OnQuit = [] { std::_Exit(EXIT_SUCCESS); };
+    EnregistrerFeuilles(App);
+    // The core loads while the toolkit sets itself up; from then on there is one thread.
+    std::future<void> Loading = std::async(std::launch::async, [&App] { Charger(App); });
+
     QApplication Toolkit(Count, Arguments);
     QApplication::setApplicationName(QString::fromStdString(ProgramTitle));
     QApplication::setStyle(new Style);
     InstallFrench(Toolkit);
-    const QString Folder = QApplication::applicationDirPath();
-
-    QtDialogs Boxes;
-    Application App(Folder.toStdString(), Boxes);
+    Loading.wait();
     Boxes.StandAbove(App.Feuilles);
     Desktop Windows(App.Feuilles, App.Door);
-    // Quitting ends the process at once, as nothing is left to save.
-    App.OnQuit = [] { std::_Exit(EXIT_SUCCESS); };
-    EnregistrerFeuilles(App);
-    if (!Started(App, Boxes))
+    if (!Started(App, Loading, Boxes))
         return EXIT_FAILURE;
     QTimer::singleShot(0, &Toolkit, [&] { // the first picture doesn't wait for it
-        QApplication::setWindowIcon(QIcon(Folder + QStringLiteral("/Interface/Orvane.png")));
+        const std::string Icon = App.Chemin("/Interface/Orvane.png");
+        QApplication::setWindowIcon(QIcon(QString::fromStdString(Icon)));
     });
     return QApplication::exec();
 }

@@ -58,8 +58,14 @@ void EnregistrerFeuilles(Application& App)
         App.Feuilles.Register(Each.Nom, [&App, &Each] { return Each.Faire(App); });
 }
 
+void Charger(Application& App)
+{
+    App.Feuilles.Touch(frm_Accueil::ScreenName);
+}
+
 void Démarrer(Application& App)
 {
+    Charger(App);
     App.Feuilles.Get<frm_Accueil>().Show();
     App.EmptySlots();
     App.TellNotices();
