@@ -74,7 +74,7 @@ TEST_F(Activation, TheBasketClearsTheScreenButForTotalsOfBlocksAndFilesOfIcons)
     Arme("Lame du couchant"); // the files of the icons are the same, and they are shown again
     EXPECT_EQ(Images(), "Valdren/béret.gif | Valdren/Icônes/carquois.gif | "
                         "Valdren/Icônes/béret.gif | Commun/essence.gif | Commun/essence.gif");
-    Door.Close(Armes());
+    Door.Click(Armes().cmd_Retour);
     EXPECT_EQ(Visibles(), "frm_ArtisanatsManuels");
 }
 

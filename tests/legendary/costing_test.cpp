@@ -92,15 +92,17 @@ TEST_F(CoûtLégendaire, AnEmptiedOrWrongPriceIsMarkedAndTheBasketRefusesUntilIt
 // What has been read belongs half to one choice and half to another.
 TEST_F(CoûtLégendaire, ALookUpWithoutARowIsToldAndThePricesWaitForTheNextPick)
 {
-    for (const auto& [Liste, Entrée, Juste] :
-         {std::tuple{&Armes().cbo_Arme, "Masse perdue", "Lame du couchant"}, // a material
-          {&Armes().cbo_Type, "du néant", "d'aube"}}) {                      // the dye
+    for (const auto& [Liste, Entrée, Juste, Autre] :
+         {std::tuple{&Armes().cbo_Arme, "Masse perdue", "Lame du couchant", &Armes().cbo_Type},
+          {&Armes().cbo_Type, "du néant", "d'aube", &Armes().cbo_Arme}}) { // a material, the dye
         SCOPED_TRACE(Entrée);
         Boîtes.ExpectMsgBoxBeginning("Aucune donnée pour «\u00A0");
         Door.Pick(*Liste, Entrée);
         Compter("4", "1");
         Door.Type(Armes().txt_PrixGemme, "1");
         EXPECT_TRUE(Prix().ends_with("?")) << "neither a count nor a price mends it";
+        Door.Pick(*Autre, Autre->Text());
+        EXPECT_TRUE(Prix().ends_with("?")) << "nor does a pick in the other list";
         Refuser();
         Door.Pick(*Liste, Juste);
         EXPECT_EQ(Prix(), "100 | 100 | 110");

@@ -51,6 +51,10 @@ TEST_F(SellerieDeBardes, PicturesFollowTheObject)
         EXPECT_EQ(Écran().img_Objet.Picture().File, Dossier / "Objets/Valdren/béret.gif");
         EXPECT_EQ(Écran().img_Icône.Picture().File, Dossier / "Objets/Valdren/Icônes/carquois.gif");
     }
+    Menu("Bardes");
+    EXPECT_TRUE(Écran().img_Icône.Picture().IsEmpty());
+    Objet("Barde lourde"); // of the same file as before
+    EXPECT_EQ(Écran().img_Icône.Picture().File, Dossier / "Objets/Valdren/Icônes/carquois.gif");
 }
 
 TEST_F(SellerieDeBardes, TheFilterFindsItsWordAnywhereWithoutRegardToCase)

@@ -39,7 +39,8 @@ INSERT INTO ArmesLégendaires_Type (Num, Nom, Teinture, ObjetSpécial, TypeDég�
   (1, 'du néant', 599, 'Rien', 'Vide'), (2, 'de brume', 501, 'Larme de givre', 'Froid'),
   (3, 'd''aube', 502, 'Plume de phénix', 'Feu');
 INSERT INTO ArmesLégendaires_Images (Arme, Type, Image, Icône) VALUES
-  (1, 2, 'béret.gif', 'carquois.gif'), (1, 3, NULL, NULL), (2, 3, 'béret.gif', 'béret.gif');
+  (1, 2, 'béret.gif', 'carquois.gif'), (1, 3, NULL, NULL), (2, 3, 'béret.gif', 'béret.gif'),
+  (1, 1, NULL, NULL), (3, 3, NULL, NULL);
 COMMIT)";
 
 const char* const RangéesTeintures = R"(BEGIN;
