@@ -56,10 +56,20 @@ TEST_F(NamesOfInputs, TheLabelAtTheLeftWithoutItsColon)
     EXPECT_EQ(Of(Liste.txt_Dehors), "Dehors");
 }
 
-TEST_F(NamesOfInputs, ASignNamesNothingSoTheHeadingAboveDoes)
+TEST_F(NamesOfInputs, BoxesBehindSignsAreNamedAfterTheFirstOfTheirRow)
 {
-    EXPECT_EQ(Of(Liste.txt_Nom), "Matériaux");
-    EXPECT_EQ(Of(Liste.txt_Nombre), "Matériaux");
+    EXPECT_EQ(Of(Liste.txt_Nom), "Matériaux") << "the heading above";
+    EXPECT_EQ(Of(Liste.txt_Nombre), "Matériaux, quantité");
+    Liste.lbl_Fois.Caption = "=";
+    Liste.lbl_Titre.Visible = false;
+    PlaceLabel(Liste.lbl_Dehors, "Gemme :", {0, 40, 10, 24});
+    EXPECT_EQ(Of(Liste.txt_Nombre), "Gemme, prix");
+}
+
+TEST_F(NamesOfInputs, AHiddenBoxTakesNoLabelAway)
+{
+    Liste.txt_Prix.Visible = false;
+    EXPECT_EQ(Of(Liste.txt_Seul), "Prix coûtant");
 }
 
 TEST_F(NamesOfInputs, ALabelThatNamesANeighbourIsNoHeading)
