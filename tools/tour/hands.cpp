@@ -15,6 +15,8 @@ namespace orvane::tour {
 
 namespace {
 
+constexpr int Patience = 5000; // milliseconds
+
 void ScrollTo(QWidget& Target)
 {
     for (QWidget* Each = Target.parentWidget(); Each != nullptr; Each = Each->parentWidget())
@@ -59,10 +61,13 @@ void Hands::Type(const QString& Box, const QString& Text) const
 {
     QWidget& Target = TheEyes.The(Box);
     Click(Target);
-    const QWidget* Focused = QApplication::focusWidget();
-    if (Focused != &Target && (Focused == nullptr || !Target.isAncestorOf(Focused)))
+    const auto HasKeyboard = [&] { // a window gets it back some time after a box has closed
+        const QWidget* Focused = QApplication::focusWidget();
+        return Focused == &Target || (Focused != nullptr && Target.isAncestorOf(Focused));
+    };
+    if (!QTest::qWaitFor(HasKeyboard, Patience))
         throw CannotGoOn(QStringLiteral("%1 doesn't take the keyboard").arg(Box));
-    if (const auto* Field = dynamic_cast<const QLineEdit*>(Focused);
+    if (const auto* Field = dynamic_cast<const QLineEdit*>(QApplication::focusWidget());
         Field != nullptr && Field->isReadOnly())
         throw CannotGoOn(QStringLiteral("%1 is locked").arg(Box));
     TypeInto(Target, Text);
