@@ -26,10 +26,15 @@ Recordset& OuvrirEnregistrements2(Variables& Globals)
 
 void RemplirListe(Variables& Globals, ListControl& Liste, std::string_view Colonne)
 {
-    for (Recordset& Lignes = OuvrirEnregistrements(Globals); !Lignes.Eof(); Lignes.MoveNext())
+    RemplirListe(OuvrirEnregistrements(Globals), Liste, Colonne);
+    Globals.Enregistrements.Empty();
+}
+
+void RemplirListe(Recordset& Lignes, ListControl& Liste, std::string_view Colonne)
+{
+    for (; !Lignes.Eof(); Lignes.MoveNext())
         if (!Lignes.IsNull(Colonne))
             Liste.AddItem(Lignes.Text(Colonne));
-    Globals.Enregistrements.Empty();
 }
 
 } // namespace orvane

@@ -37,4 +37,7 @@ Recordset& OuvrirEnregistrements2(Variables& Globals);
 // query without rows adds nothing. Rows without a value are passed over.
 void RemplirListe(Variables& Globals, ListControl& Liste, std::string_view Colonne);
 
+// The same from a set that is open already.
+void RemplirListe(Recordset& Lignes, ListControl& Liste, std::string_view Colonne);
+
 } // namespace orvane

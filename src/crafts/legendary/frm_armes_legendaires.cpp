@@ -61,13 +61,13 @@ void frm_ArmesLégendaires::Activate()
     RemettreQuantités();
     CheminArtisanat = App.Chemin("/Artisanat_" + Globals.RoyaumeCourant + ".mdb");
     CheminTeintures = App.Chemin("/Artisanat_Alchimie.mdb");
-    RemplirChoix();
-    LireRéglages(App.Feuilles.Get<frm_ArtisanatsManuels>().lbl_Artisanat.Caption);
+    const std::string& Métier = App.Feuilles.Get<frm_ArtisanatsManuels>().lbl_Artisanat.Caption;
+    RemplirChoix(Métier);
+    LireRéglages(Métier);
 }
 
-void frm_ArmesLégendaires::RemplirChoix()
+void frm_ArmesLégendaires::RemplirChoix(const std::string& Métier)
 {
-    const std::string& Métier = App.Feuilles.Get<frm_ArtisanatsManuels>().lbl_Artisanat.Caption;
     const Ouverture Base(App, Globals.BaseDonnées, CheminArtisanat);
     Globals.TexteSQL = "SELECT ArmesLégendaires_ListeObjets.Nom FROM R_ArmesLégendairesObjets "
                        "WHERE Artisanat_Liste.Nom=" +

@@ -190,7 +190,7 @@ class frm_ArmesLégendaires : public Feuille
 
     // Activation
     void EffacerArme();
-    void RemplirChoix();
+    void RemplirChoix(const std::string& Métier);
     void LireRéglages(const std::string& Métier);
 
     // Components

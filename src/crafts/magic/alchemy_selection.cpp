@@ -92,10 +92,11 @@ void frm_ArtisanatsMagiques::cbo_Type_Click()
                        " AND ProduitsDétaillés.Nom=" + Quoted(cbo_ProduitDétaillé.Text()) +
                        " AND ListeObjets.Nom LIKE " + Quoted("*" + cbo_Type.Text + "*") +
                        ") ORDER BY NiveauCraft";
-    if (OuvrirEnregistrements(Globals).RecordCount() == 0)
+    Recordset& Objets = OuvrirEnregistrements(Globals);
+    if (Objets.RecordCount() == 0)
         return;
     EffacerSélection(4);
-    orvane::RemplirListe(Globals, cbo_Objet, "Nom");
+    orvane::RemplirListe(Objets, cbo_Objet, "Nom");
 }
 
 void frm_ArtisanatsMagiques::cbo_Objet_Click()

@@ -30,10 +30,8 @@ void frm_ArtisanatsSecondaires::PréparerSellerie()
     Globals.TexteSQL = "SELECT * FROM R_SellerieProduits WHERE Artisanat_Liste.Nom = " +
                        Quoted(lbl_Artisanat.Caption());
     RemplirListe(Globals, cbo_Degré, "Sellerie_ProduitsDétaillés.Nom");
-    if (cbo_Degré.ListCount() == 0) {
-        cbo_Degré.Clear();
+    if (cbo_Degré.ListCount() == 0) // a trade without filters
         ShowAll({&cbo_Degré, &lbl_Zone2}, false);
-    }
 }
 
 // The bill of the object chosen last stays on screen.
@@ -43,14 +41,15 @@ void frm_ArtisanatsSecondaires::FiltrerSellerie()
     Globals.TexteSQL = "SELECT DISTINCT * FROM R_SellerieObjets WHERE (Artisanat_Liste.Nom =" +
                        Quoted(lbl_Artisanat.Caption()) + " AND Sellerie_ListeObjets.Nom LIKE " +
                        Quoted("*" + cbo_Degré.Text + "*") + ")";
-    if (OuvrirEnregistrements(Globals).RecordCount() == 0) {
+    Recordset& Objets = OuvrirEnregistrements(Globals);
+    if (Objets.RecordCount() == 0) {
         App.MsgBox(Typeset("Aucun objet ne porte « " + cbo_Degré.Text +
                            " » dans son nom : la "
                            "liste reste la même."));
         return;
     }
     cbo_ObjetSecondaire.Clear();
-    RemplirListe(Globals, cbo_ObjetSecondaire, "Sellerie_ListeObjets.Nom");
+    RemplirListe(Objets, cbo_ObjetSecondaire, "Sellerie_ListeObjets.Nom");
 }
 
 void frm_ArtisanatsSecondaires::ChoisirSellerie()
