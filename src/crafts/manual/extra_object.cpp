@@ -73,16 +73,18 @@ void frm_ArtisanatsManuels::cbo_TypeDégats_Click()
     txt_ObjetSup.Text = txt_ObjetSup.Text() + Degré->Suffixe;
     std::vector<TextBox*> Renouvelés = Résultats();
     Renouvelés.push_back(&txt_ObjetSUpPrixCoûtant);
-    ReadOrStale(Renouvelés, [&] { LireObjetSup(); });
-    if (txt_ObjetSup.Text != "")
-        ChangerCouleurCraft(App, lbl_ObjetSupNiveauCraft.Caption, NiveauAlchimie,
-                            img_ObjetSupNiveau);
-    if (Type != nullptr) {
-        const bool Durable = ContainsIgnoringCase(cbo_Objet.Text(), "durable");
-        lbl_Niveau.Caption = WithoutLastCharacters(lbl_Niveau.Caption(), 2) +
-                             (Durable ? Type->NiveauDurable : Type->Niveau);
-    }
-    ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
+    ReadOrStale(Renouvelés, [&] {
+        LireObjetSup();
+        if (txt_ObjetSup.Text != "")
+            ChangerCouleurCraft(App, lbl_ObjetSupNiveauCraft.Caption, NiveauAlchimie,
+                                img_ObjetSupNiveau);
+        if (Type != nullptr) {
+            const bool Durable = ContainsIgnoringCase(cbo_Objet.Text(), "durable");
+            lbl_Niveau.Caption = WithoutLastCharacters(lbl_Niveau.Caption(), 2) +
+                                 (Durable ? Type->NiveauDurable : Type->Niveau);
+        }
+        ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
+    });
     if (CalculerPrixObjetSup() && txt_PrixVente.Stale) // the same price runs nothing by itself
         CalculerPrixVente();
 }
