@@ -4,8 +4,10 @@
 #include "base/text.h"
 #include "base/typography.h"
 #include "shell/queries.h"
+#include "store/catalogue.h"
 
 #include <algorithm>
+#include <set>
 #include <vector>
 
 namespace orvane {
@@ -101,6 +103,18 @@ void Habiller(Application& App, const ImagesFeuille& Fichiers)
 }
 
 } // namespace
+
+std::vector<std::string> ImagesDeSkin()
+{
+    std::set<std::string> Fichiers;
+    for (const ImagesFeuille& Feuille : Images())
+        for (const std::string& Royaume : Royaumes()) {
+            Fichiers.insert(AvecRoyaume(Feuille.Fond, Royaume));
+            for (const ImageBouton& Each : Feuille.Boutons)
+                Fichiers.insert(AvecRoyaume(Each.Fichier, Royaume));
+        }
+    return {Fichiers.begin(), Fichiers.end()};
+}
 
 bool SkinExiste(Application& App, const std::string& Skin)
 {

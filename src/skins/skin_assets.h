@@ -8,6 +8,9 @@
 // Where a skin's files lie, and the pictures that dress the ten screens.
 namespace orvane {
 
+// The pictures that a skin holds below each of its image folders: "Accueil/Fond.jpg".
+std::vector<std::string> ImagesDeSkin();
+
 // Whether the skin's layout database is there and can be opened.
 bool SkinExiste(Application& App, const std::string& Skin);
 
