@@ -48,17 +48,14 @@ void MakeSkin(const fs::path& Folder)
 void MakeModelFolder(const fs::path& Tables, const fs::path& Folder)
 {
     tools::MakeDatabases(Tables, Folder, false);
+    fs::copy(Tables / "Objets", Folder / "Objets", fs::copy_options::recursive);
     for (const std::string& Royaume : Royaumes()) {
         for (const std::string& Stem :
              {"Ecu" + Royaume, "Ecu" + Royaume + "Ombre", "Bannière" + Royaume, "Bouton" + Royaume})
             Touch(Folder / "Interface" / (Stem + ".gif"));
         Touch(Folder / "Interface/Icônes" / (Royaume + ".ico"));
     }
-    for (const std::string File :
-         {"Interface/Logo.png", "Objets/Commun/PasImage.gif", "Objets/Commun/essence.gif",
-          "Objets/Valdren/Icônes/carquois.gif", "Objets/Valdren/béret.gif",
-          "Objets/Valdren/Icônes/béret.gif"})
-        Touch(Folder / File);
+    Touch(Folder / "Interface/Logo.png");
     for (const std::string Skin : {"Parchemin", "Forge nocturne"})
         MakeSkin(Folder / "Skins" / Skin);
 }

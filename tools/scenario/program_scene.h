@@ -23,6 +23,8 @@ class ProgramScene : public Scene
 
     void Act(const Step& Which) override;
 
+    const std::filesystem::path& Path() const { return Folder.Path(); }
+
   protected:
     // The run, started when it isn't yet.
     virtual Application& Running() = 0;

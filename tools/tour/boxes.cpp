@@ -1,15 +1,20 @@
 #include "tour/boxes.h"
 
+#include "scenario/stage.h"
 #include "tour/camera.h"
 #include "tour/hands.h"
+#include "tour/names.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+
+#include <utility>
 
 namespace orvane::tour {
 
@@ -44,9 +49,9 @@ void Boxes::Check()
 {
     if (!Awaited.empty())
         Complain(
-            QStringLiteral("no box with the words « %1 » came up").arg(Awaited.front().Target));
+            QStringLiteral("no box came up: %1").arg(QString::fromStdString(Awaited.front().Text)));
     if (!Complaint.isEmpty())
-        throw CannotGoOn(Complaint);
+        throw Because(std::exchange(Complaint, {}));
 }
 
 void Boxes::Look()
@@ -68,26 +73,31 @@ void Boxes::Look()
 void Boxes::Answer(QDialog& Box)
 {
     if (Awaited.empty())
-        throw CannotGoOn(QStringLiteral("a box that nobody expected: %1").arg(WordsOf(Box)));
-    const Step Await = Awaited.front();
+        throw Because(QStringLiteral("a box that nobody expected: %1").arg(WordsOf(Box)));
+    const scenario::AwaitedBox Wanted = Awaited.front();
     Awaited.pop_front();
-    if (!WordsOf(Box).contains(Await.Target))
-        throw CannotGoOn(
-            QStringLiteral("the box doesn't say « %1 », but: %2").arg(Await.Target, WordsOf(Box)));
+    if (!scenario::IsWanted(WordsOf(Box).toStdString(), Wanted.Text))
+        throw Because(QStringLiteral("the box doesn't say « %1 », but: %2")
+                          .arg(QString::fromStdString(Wanted.Text), WordsOf(Box)));
     if (!QTest::qWaitForWindowActive(&Box))
-        throw CannotGoOn(QStringLiteral("the box doesn't get the keyboard: %1").arg(Await.Target));
-    Give(Box, Await);
+        throw Because(QStringLiteral("the box doesn't get the keyboard: %1").arg(WordsOf(Box)));
+    Give(Box, Wanted);
 }
 
-void Boxes::Give(QDialog& Box, const Step& Await) const
+void Boxes::Give(QDialog& Box, const scenario::AwaitedBox& Wanted) const
 {
-    if (auto* Field = Box.findChild<QLineEdit*>())
-        Hands::TypeInto(*Field, Await.Text);
-    else if (!Await.Text.isEmpty())
-        throw CannotGoOn(QStringLiteral("the box has no field to type in: %1").arg(Await.Target));
-    if (!Await.Picture.isEmpty())
-        TheCamera.Photograph(Await.Picture);
-    Hands::Click(*Box.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok));
+    const QString Answer = QString::fromStdString(Wanted.Answer);
+    if (auto* Colours = dynamic_cast<QColorDialog*>(&Box))
+        Colours->setCurrentColor(QColor(Answer));
+    else if (auto* Field = Box.findChild<QLineEdit*>())
+        Hands::TypeInto(*Field, Answer);
+    else if (!Answer.isEmpty())
+        throw Because(QStringLiteral("the box has no field to type in: %1").arg(WordsOf(Box)));
+    if (!Wanted.Photo.empty())
+        TheCamera.Photograph(QString::fromStdString(Wanted.Photo));
+    Hands::Click(*Box.findChild<QDialogButtonBox*>()->button(
+        Wanted.Kind != "boîte" && Answer.isEmpty() ? QDialogButtonBox::Cancel
+                                                   : QDialogButtonBox::Ok));
 }
 
 } // namespace orvane::tour

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "tour/step.h"
+#include "scenario/script.h"
 
+#include <QString>
 #include <QTimer>
 
 #include <deque>
@@ -19,9 +20,14 @@ class Boxes
   public:
     explicit Boxes(Camera& TheCamera);
 
-    void Expect(const Step& Await) { Awaited.push_back(Await); } // one after the other
+    // One after the other.
+    void Await(const std::vector<scenario::AwaitedBox>& Boxes)
+    {
+        Awaited.assign(Boxes.begin(), Boxes.end());
+    }
 
-    // Throws what was wrong with the boxes up to now: an unexpected one, or one that never came.
+    // CannotGoOn tells what was wrong with the boxes up to now: an unexpected one, or one that
+    // never came.
     void Check();
 
     void Complain(const QString& Text);
@@ -29,11 +35,11 @@ class Boxes
   private:
     void Look();
     void Answer(QDialog& Box);
-    void Give(QDialog& Box, const Step& Await) const;
+    void Give(QDialog& Box, const scenario::AwaitedBox& Wanted) const;
 
     Camera& TheCamera;
     QTimer Glances;
-    std::deque<Step> Awaited;
+    std::deque<scenario::AwaitedBox> Awaited;
     bool IsBusy = false;
     QString Complaint;
 };

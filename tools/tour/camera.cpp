@@ -1,7 +1,6 @@
 #include "tour/camera.h"
 
 #include "tour/names.h"
-#include "tour/step.h"
 
 #include <QImage>
 #include <QScreen>
@@ -36,10 +35,10 @@ void Camera::CheckSize() const
 {
     const QSize Size = TheEyes.Window().size();
     if (Size.width() > Resolution.width() || Size.height() > Resolution.height())
-        throw CannotGoOn(QStringLiteral("%1 is larger than the resolution: %2 x %3")
-                             .arg(ControlOf(&TheEyes.Window()))
-                             .arg(Size.width())
-                             .arg(Size.height()));
+        throw Because(QStringLiteral("%1 is larger than the resolution: %2 x %3")
+                          .arg(ControlOf(&TheEyes.Window()))
+                          .arg(Size.width())
+                          .arg(Size.height()));
 }
 
 // What the screen shows at the window's place: a box above it is in the picture too.
@@ -58,10 +57,10 @@ void Camera::Photograph(const QString& Stop)
     QTest::qWait(Repainting);
     const QImage Picture = Seen();
     if (Picture.isNull() || IsBlank(Picture))
-        throw CannotGoOn(QStringLiteral("%1 shows nothing").arg(ControlOf(&TheEyes.Window())));
+        throw Because(QStringLiteral("%1 shows nothing").arg(ControlOf(&TheEyes.Window())));
     LastFile = QStringLiteral("%1-%2-%3.png").arg(Look).arg(++Number, 2, 10, QChar(u'0')).arg(Stop);
     if (const QString File = Pictures.filePath(LastFile); !Picture.save(File))
-        throw CannotGoOn(QStringLiteral("%1 can't be written").arg(File));
+        throw Because(QStringLiteral("%1 can't be written").arg(File));
     ++Total;
 }
 

@@ -1,13 +1,10 @@
 #include "tour/eyes.h"
 
 #include "tour/names.h"
-#include "tour/step.h"
 #include "view/screen_window.h"
 
 #include <QApplication>
 #include <QTest>
-
-#include <algorithm>
 
 namespace orvane::tour {
 
@@ -32,14 +29,20 @@ void Eyes::TurnTo(const QString& Screen)
         return Before != nullptr && QApplication::activeWindow() == Before;
     };
     if (!QTest::qWaitFor(IsActive, Patience))
-        throw CannotGoOn(QStringLiteral("%1 isn't the active window, which is: %2")
-                             .arg(Screen, ControlOf(QApplication::activeWindow())));
+        throw Because(QStringLiteral("%1 isn't the active window, which is: %2")
+                          .arg(Screen, ControlOf(QApplication::activeWindow())));
+}
+
+void Eyes::Activate(const QString& Screen)
+{
+    if (QWidget* Wanted = WindowNamed(Screen); Wanted != nullptr)
+        Wanted->activateWindow();
 }
 
 QWidget& Eyes::Window() const
 {
     if (Before == nullptr)
-        throw CannotGoOn(QStringLiteral("no window to look at yet"));
+        throw Because(QStringLiteral("no window to look at yet"));
     return *Before;
 }
 
@@ -47,10 +50,10 @@ QWidget& Eyes::The(const QString& Control) const
 {
     auto* Found = Window().findChild<QWidget*>(Control);
     if (Found == nullptr)
-        throw CannotGoOn(QStringLiteral("%1 isn't in %2, or was never visible there")
-                             .arg(Control, ControlOf(Before)));
+        throw Because(QStringLiteral("%1 isn't in %2, or was never visible there")
+                          .arg(Control, ControlOf(Before)));
     if (!Found->isVisible())
-        throw CannotGoOn(QStringLiteral("%1 of %2 is hidden").arg(Control, ControlOf(Before)));
+        throw Because(QStringLiteral("%1 of %2 is hidden").arg(Control, ControlOf(Before)));
     return *Found;
 }
 
@@ -60,27 +63,9 @@ bool Eyes::Sees(const QString& Control) const
     return Found != nullptr && Found->isVisible();
 }
 
-bool Eyes::SeesAll(const QString& Controls) const
+bool Eyes::SeesMark(const QString& Control) const
 {
-    const QStringList Names = Controls.split(u' ', Qt::SkipEmptyParts);
-    return std::ranges::all_of(Names, [this](const QString& Name) {
-        return Name.startsWith(u'!') ? !Sees(Name.mid(1)) : Sees(Name);
-    });
-}
-
-void Eyes::Expect(const QString& Controls) const
-{
-    for (const QString& Each : Controls.split(u' ', Qt::SkipEmptyParts))
-        if (!SeesAll(Each))
-            throw CannotGoOn(Each.startsWith(u'!')
-                                 ? QStringLiteral("%1 can be seen").arg(Each.mid(1))
-                                 : QStringLiteral("%1 can't be seen").arg(Each));
-}
-
-void Eyes::ExpectWrong(const QString& Control) const
-{
-    if (!The(Control).accessibleDescription().contains(QStringLiteral("pas un nombre")))
-        throw CannotGoOn(QStringLiteral("%1 isn't marked").arg(Control));
+    return The(Control).accessibleDescription().contains(QStringLiteral("pas un nombre"));
 }
 
 } // namespace orvane::tour

@@ -1,6 +1,6 @@
 #include "tour/folder_copy.h"
 
-#include "tour/step.h"
+#include "tour/names.h"
 
 namespace fs = std::filesystem;
 
@@ -9,10 +9,10 @@ namespace orvane::tour {
 FolderCopy::FolderCopy(const fs::path& Program)
 {
     if (!Folder.isValid())
-        throw CannotGoOn(Folder.errorString());
+        throw Because(Folder.errorString());
     if (!fs::exists(Program / "Config.mdb"))
-        throw CannotGoOn(QStringLiteral("%1 is no program folder: no Config.mdb in it")
-                             .arg(QString::fromStdString(Program.string())));
+        throw Because(QStringLiteral("%1 is no program folder: no Config.mdb in it")
+                          .arg(QString::fromStdString(Program.string())));
     const fs::path Source = fs::canonical(Program);
     for (const auto& Entry : fs::recursive_directory_iterator(Source)) {
         const fs::path Target = Path() / fs::relative(Entry.path(), Source);

@@ -2,7 +2,6 @@
 
 #include "tour/eyes.h"
 #include "tour/names.h"
-#include "tour/step.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -33,8 +32,8 @@ void Hands::Click(QWidget& Target, QPoint At)
     const QPoint Place = Target.mapTo(&Window, At);
     const QWidget* Hit = Window.childAt(Place);
     if (Hit == nullptr || (Hit != &Target && !Target.isAncestorOf(Hit)))
-        throw CannotGoOn(QStringLiteral("%1 can't be reached by the mouse: %2 lies there")
-                             .arg(ControlOf(&Target), ControlOf(Hit)));
+        throw Because(QStringLiteral("%1 can't be reached by the mouse: %2 lies there")
+                          .arg(ControlOf(&Target), ControlOf(Hit)));
     QCursor::setPos(Window.mapToGlobal(Place)); // what lies there lights up
     QTest::mouseClick(Window.windowHandle(), Qt::LeftButton, {}, Place);
 }
@@ -53,7 +52,7 @@ void Hands::ClickItem(const QString& Menu, const QString& Key) const
 {
     auto* Entry = TheEyes.The(Menu).findChild<QWidget*>(Key);
     if (Entry == nullptr)
-        throw CannotGoOn(QStringLiteral("%1 has no entry %2").arg(Menu, Key));
+        throw Because(QStringLiteral("%1 has no entry %2").arg(Menu, Key));
     Click(*Entry);
 }
 
@@ -66,10 +65,10 @@ void Hands::Type(const QString& Box, const QString& Text) const
         return Focused == &Target || (Focused != nullptr && Target.isAncestorOf(Focused));
     };
     if (!QTest::qWaitFor(HasKeyboard, Patience))
-        throw CannotGoOn(QStringLiteral("%1 doesn't take the keyboard").arg(Box));
+        throw Because(QStringLiteral("%1 doesn't take the keyboard").arg(Box));
     if (const auto* Field = dynamic_cast<const QLineEdit*>(QApplication::focusWidget());
         Field != nullptr && Field->isReadOnly())
-        throw CannotGoOn(QStringLiteral("%1 is locked").arg(Box));
+        throw Because(QStringLiteral("%1 is locked").arg(Box));
     TypeInto(Target, Text);
 }
 

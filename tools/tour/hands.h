@@ -29,7 +29,6 @@ class Hands
     // Combo boxes are opened first, list boxes lie open.
     void Open(const QString& Combo) const;
     QStringList Entries(const QString& List) const;
-    void Pick(const QString& List, const QString& Expression) const;
     void Pick(const QString& List, int Row) const;
 
     // Leaves the mouse where it lights nothing up.

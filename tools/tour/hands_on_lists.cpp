@@ -1,11 +1,9 @@
 #include "tour/eyes.h"
 #include "tour/hands.h"
-#include "tour/step.h"
+#include "tour/names.h"
 #include "view/combo_box_view.h"
 #include "view/entry_popup.h"
 #include "view/list_box_view.h"
-
-#include <QRegularExpression>
 
 namespace orvane::tour {
 
@@ -31,12 +29,12 @@ QAbstractItemView& Hands::Opened(const QString& List) const
         return *Lying;
     const auto* Box = dynamic_cast<ComboBoxView*>(&Target);
     if (Box == nullptr)
-        throw CannotGoOn(QStringLiteral("%1 is no list").arg(List));
+        throw Because(QStringLiteral("%1 is no list").arg(List));
     if (ListOf(*Box) == nullptr)
         Click(Target, {Target.width() - FromRightEdge, Target.height() / 2});
     EntryPopup* Popup = ListOf(*Box);
     if (Popup == nullptr)
-        throw CannotGoOn(QStringLiteral("the list of %1 doesn't open: it is empty").arg(List));
+        throw Because(QStringLiteral("the list of %1 doesn't open: it is empty").arg(List));
     return *Popup;
 }
 
@@ -52,17 +50,6 @@ QStringList Hands::Entries(const QString& List) const
     for (int Row = 0; Row < Rows.rowCount(); ++Row)
         Result << Rows.index(Row, 0).data().toString();
     return Result;
-}
-
-void Hands::Pick(const QString& List, const QString& Expression) const
-{
-    const QRegularExpression Wanted(QRegularExpression::anchoredPattern(Expression));
-    const QStringList Given = Entries(List);
-    const auto Row = Given.indexOf(Wanted);
-    if (Row < 0)
-        throw CannotGoOn(QStringLiteral("no such entry in %1, which offers: %2")
-                             .arg(List, Given.join(QStringLiteral(", "))));
-    Pick(List, static_cast<int>(Row));
 }
 
 void Hands::Pick(const QString& List, int Row) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "scenario/script.h"
+
 #include <QString>
 
 class QWidget;
@@ -12,5 +14,11 @@ QString FileNamePart(const QString& Name);
 
 // The control that a widget is, or is a part of: parts bear no name of their own.
 QString ControlOf(const QWidget* Which);
+
+// A step that can't be done, for that reason.
+inline scenario::CannotGoOn Because(const QString& Why)
+{
+    return scenario::CannotGoOn(Why.toStdString());
+}
 
 } // namespace orvane::tour

@@ -1,9 +1,8 @@
 #include "tour/tour.h"
 
+#include "scenario/lines.h"
 #include "tour/names.h"
-#include "tour/stops.h"
 
-#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -40,7 +39,31 @@ QString OtherThan(const QString& One, const QStringList& Names)
     return Found == Names.end() ? One : *Found;
 }
 
+scenario::Script StopsOf(const char* File)
+{
+    return scenario::ReadScript(std::filesystem::path(ORVANE_STOPS) / File);
+}
+
 } // namespace
+
+void PlayAll(WindowScene& Scene, const scenario::Script& Script)
+{
+    scenario::Stage Stage(
+        Scene, Script.TheViews,
+        [](const scenario::Place&, const std::string& Wanted, const std::string& Seen) {
+            throw scenario::CannotGoOn("expected " + Wanted + ", seen " + Seen);
+        });
+    for (const scenario::Scenario& Each : Script.Scenarios)
+        Stage.Play(Each);
+}
+
+Tour::Tour(WindowScene& Scene)
+    : Scene(Scene),
+      Look(StopsOf("apparence.txt")),
+      Stops(StopsOf("visite.txt")),
+      Boxes(StopsOf("boîtes.txt"))
+{
+}
 
 void Tour::Walk(const QStringList& Filter)
 {
@@ -49,96 +72,58 @@ void Tour::Walk(const QStringList& Filter)
     const QStringList Skins = Chosen(AllSkins, Unknown);
     const QStringList Resolutions = Chosen(AllResolutions, Unknown);
     if (!Unknown.isEmpty())
-        throw CannotGoOn(QStringLiteral("neither skin nor resolution: %1; there are: %2")
-                             .arg(Unknown.join(QStringLiteral(", ")),
-                                  (AllSkins + AllResolutions).join(QStringLiteral(", "))));
+        throw Because(QStringLiteral("neither skin nor resolution: %1; there are: %2")
+                          .arg(Unknown.join(QStringLiteral(", ")),
+                               (AllSkins + AllResolutions).join(QStringLiteral(", "))));
     for (const QString& Skin : Skins)
         for (const QString& Resolution : Resolutions)
             Visit(Skin, Resolution);
-    Do({{Deed::Click, "cmd_Quitter"}});
+    Scene.Click("cmd_Quitter");
+    if (Scene.Ends() == 0)
+        throw scenario::CannotGoOn("the program doesn't quit");
 }
 
 void Tour::ReadLooks()
 {
-    Do({{Deed::On, "frm_Accueil"},
-        {Deed::Click, "cmd_Configuration"},
-        {Deed::On, "frm_Configuration"}});
-    AllSkins = TheHands.Entries(QStringLiteral("cbo_Skin"));
-    AllResolutions = TheHands.Entries(QStringLiteral("cbo_Résolution"));
-    Do({{Deed::Click, "cmd_Validation"}});
+    const auto Listed = [this](const std::string& List) {
+        QStringList Names;
+        for (const std::string& Each : Scene.Entries(List))
+            Names << QString::fromStdString(Each);
+        return Names;
+    };
+    Scene.Click("cmd_Configuration");
+    AllSkins = Listed("cbo_Skin");
+    AllResolutions = Listed("cbo_Résolution");
+    Scene.Click("cmd_Validation");
 }
 
 void Tour::Visit(const QString& Skin, const QString& Resolution)
 {
-    Place = Skin + QStringLiteral(", ") + Resolution;
-    TheCamera.BeginLook(FileNamePart(Skin) + u'-' + FileNamePart(Resolution), SizeOf(Resolution));
-    for (const QString& Each : {OtherThan(Resolution, AllResolutions), Resolution})
-        Do(ChangeLook(QRegularExpression::escape(Skin), QRegularExpression::escape(Each)));
-    for (const Script& Each : {HomeAndSettings(), ManualCrafts(), Archery(), LegendaryWeapons(),
-                               Alchemy(), Gems(), SecondaryCrafts(), Basket(), News(), Realms()})
-        Do(Each);
-    if (!SeenOnce)
-        Do(BoxesAndLists());
+    Scene.Photographer().BeginLook(FileNamePart(Skin) + u'-' + FileNamePart(Resolution),
+                                   SizeOf(Resolution));
+    try {
+        for (const QString& Each : {OtherThan(Resolution, AllResolutions), Resolution})
+            ChangeLook(Skin, Each);
+        PlayAll(Scene, Stops);
+        if (!SeenOnce)
+            PlayAll(Scene, Boxes);
+    } catch (const scenario::CannotGoOn& Given) {
+        throw Because(QStringLiteral("%1, %2, after picture %3: %4")
+                          .arg(Skin, Resolution, Scene.Photographer().Last(),
+                               QString::fromUtf8(Given.what())));
+    }
     SeenOnce = true;
 }
 
-void Tour::Do(const Script& Steps)
+void Tour::ChangeLook(const QString& Skin, const QString& Resolution)
 {
-    for (const Step& Each : Steps)
-        Do(Each);
-}
-
-void Tour::Do(const Step& Which)
-{
-    try {
-        Try(Which);
-        QCoreApplication::processEvents();
-        if (Which.What != Deed::Await)
-            TheBoxes.Check();
-    } catch (const CannotGoOn& Given) {
-        throw CannotGoOn(QStringLiteral("%1, after picture %2: %3: %4")
-                             .arg(Place, TheCamera.Last(), Told(Which), QString(Given.what())));
-    }
-}
-
-void Tour::Try(const Step& Which)
-{
-    switch (Which.What) {
-    case Deed::On:
-        return TheEyes.TurnTo(Which.Target);
-    case Deed::Click:
-        return TheHands.Click(Which.Target);
-    case Deed::Item:
-        return TheHands.ClickItem(Which.Target, Which.Text);
-    case Deed::Pick:
-        return TheHands.Pick(Which.Target, Which.Text);
-    case Deed::Search:
-        return Search(Which);
-    case Deed::Type:
-        return TheHands.Type(Which.Target, Which.Text);
-    case Deed::Open:
-        return TheHands.Open(Which.Target);
-    case Deed::See:
-        return TheEyes.Expect(Which.Target);
-    case Deed::Wrong:
-        return TheEyes.ExpectWrong(Which.Target);
-    case Deed::Await:
-        return TheBoxes.Expect(Which);
-    case Deed::Photo:
-        TheHands.PutMouseAside();
-        return TheCamera.Photograph(Which.Target);
-    }
-}
-
-void Tour::Search(const Step& Which)
-{
-    const auto Count = TheHands.Entries(Which.Target).size();
-    for (int Row = 0; Row < Count; ++Row) {
-        TheHands.Pick(Which.Target, Row);
-        if (TheEyes.SeesAll(Which.Text))
-            return;
-    }
-    throw CannotGoOn(QStringLiteral("none of the %1 entries shows that").arg(Count));
+    scenario::Script Filled = Look;
+    for (scenario::Scenario& Each : Filled.Scenarios)
+        for (scenario::Step& Step : Each.Steps) {
+            Step.Text = scenario::Replaced(Step.Text, "<skin>", Skin.toStdString());
+            Step.Text = scenario::Replaced(Step.Text, "<résolution>", Resolution.toStdString());
+        }
+    PlayAll(Scene, Filled);
 }
 
 } // namespace orvane::tour

@@ -1,45 +1,35 @@
 #pragma once
 
-#include "tour/boxes.h"
-#include "tour/camera.h"
-#include "tour/hands.h"
+#include "tour/window_scene.h"
 
 #include <QStringList>
 
 namespace orvane::tour {
 
-// A person with eyes and hands, who walks through the program look by look.
+// A visitor who walks through the program look by look, as the scenarios of tools/tour/stops tell.
 class Tour
 {
   public:
-    explicit Tour(const QDir& Pictures) : TheCamera(TheEyes, Pictures) {}
+    explicit Tour(WindowScene& Scene);
 
     // All looks that the settings screen offers, or those that the names in Filter leave: a skin, a
-    // resolution, in any order. Throws CannotGoOn at the first step that can't be done.
+    // resolution, in any order; then the way out. CannotGoOn at the first step that can't be done
+    // or shows something else.
     void Walk(const QStringList& Filter);
-
-    void Do(const Script& Steps);
-
-    // Something that went wrong without stopping anything; the step in hand fails by it.
-    void Complain(const QString& Text) { TheBoxes.Complain(Text); }
-
-    int Pictures() const { return TheCamera.Count(); }
 
   private:
     void ReadLooks();
     void Visit(const QString& Skin, const QString& Resolution);
-    void Do(const Step& Which);
-    void Try(const Step& Which);
-    void Search(const Step& Which);
+    void ChangeLook(const QString& Skin, const QString& Resolution);
 
-    Eyes TheEyes;
-    Camera TheCamera;
-    Hands TheHands{TheEyes};
-    Boxes TheBoxes{TheCamera};
+    WindowScene& Scene;
+    scenario::Script Look, Stops, Boxes;
     QStringList AllSkins;
     QStringList AllResolutions;
-    QString Place = QStringLiteral("at the start"); // the look and the last picture, for messages
     bool SeenOnce = false;
 };
+
+// Plays scenarios one after the other in the present run. CannotGoOn at the first difference.
+void PlayAll(WindowScene& Scene, const scenario::Script& Script);
 
 } // namespace orvane::tour

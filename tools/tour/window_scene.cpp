@@ -1,0 +1,110 @@
+#include "tour/window_scene.h"
+
+#include "tour/names.h"
+
+#include <QCoreApplication>
+#include <QWidget>
+
+namespace orvane::tour {
+
+void WindowScene::Enter(Application& NewRun)
+{
+    Run = &NewRun;
+    Run->OnQuit = [this] { ++Quits; };
+}
+
+Application& WindowScene::Running()
+{
+    if (Run == nullptr)
+        throw scenario::CannotGoOn("the program doesn't run");
+    return *Run;
+}
+
+void WindowScene::Bring(Screen& Which)
+{
+    const QString Name = QString::fromStdString(Which.Name());
+    if (&ActiveScreen() != &Which)
+        TheEyes.Activate(Name);
+    TheEyes.TurnTo(Name);
+}
+
+QString WindowScene::TurnTo(const std::string& Control)
+{
+    const orvane::Control& Wanted = Named(Control);
+    Bring(Wanted.Owner());
+    return QString::fromStdString(Wanted.Name());
+}
+
+void WindowScene::Click(const std::string& Control)
+{
+    TheHands.Click(TurnTo(Control));
+}
+
+void WindowScene::ClickItem(const std::string& Entry)
+{
+    TheHands.ClickItem(TurnTo("Bar_Menus"), QString::fromStdString(Entry));
+}
+
+std::vector<std::string> WindowScene::Entries(const std::string& List)
+{
+    std::vector<std::string> Result;
+    for (const QString& Each : TheHands.Entries(TurnTo(List)))
+        Result.push_back(Each.toStdString());
+    return Result;
+}
+
+void WindowScene::Pick(const std::string& List, std::size_t Row)
+{
+    TheHands.Pick(TurnTo(List), static_cast<int>(Row));
+}
+
+void WindowScene::Type(const std::string& Box, const std::string& Text)
+{
+    TheHands.Type(TurnTo(Box), QString::fromStdString(Text));
+}
+
+void WindowScene::CloseByFrame()
+{
+    Bring(ActiveScreen());
+    TheEyes.Window().close();
+}
+
+bool WindowScene::IsVisible(const std::string& Control)
+{
+    return TheEyes.Sees(TurnTo(Control));
+}
+
+std::string WindowScene::Look(const std::string& What)
+{
+    const std::string Told = ProgramScene::Look(What);
+    if (Told.ends_with(" !") && !TheEyes.SeesMark(TurnTo(What)))
+        return Told + " (without a mark in its window)";
+    return Told;
+}
+
+void WindowScene::Act(const scenario::Step& Which)
+{
+    if (Which.Verb == "activer")
+        Bring(Running().Feuilles.Touch(Which.Target));
+    else if (Which.Verb == "ouvrir")
+        TheHands.Open(TurnTo(Which.Target));
+    else if (Which.Verb == "photo") {
+        Bring(ActiveScreen());
+        TheHands.PutMouseAside();
+        TheCamera.Photograph(QString::fromStdString(Which.Target));
+    } else
+        ProgramScene::Act(Which);
+}
+
+void WindowScene::Await(const std::vector<scenario::AwaitedBox>& Boxes)
+{
+    TheBoxes.Await(Boxes);
+}
+
+void WindowScene::CheckBoxes()
+{
+    QCoreApplication::processEvents();
+    TheBoxes.Check();
+}
+
+} // namespace orvane::tour
