@@ -50,6 +50,20 @@ std::string Told(const SideMenu& Menu)
     return Joined(Bars, " | ");
 }
 
+// Tips, or icons, of a menu as its bars are told: "Métier: Armures, Habits | Panier: Commandes".
+std::string Told(const SideMenu& Menu, const std::string& Side)
+{
+    std::vector<std::string> Bars;
+    for (const SideMenu::Bar& Each : Menu.Bars()) {
+        std::vector<std::string> Entries;
+        for (const SideMenu::Item& Entry : Each.Items)
+            Entries.push_back(Side == "bulles" ? Entry.Tip : std::to_string(Entry.Icon));
+        Bars.push_back((Side == "bulles" ? Each.Tip : StemOf(Each.Picture)) + ": " +
+                       Joined(Entries, ", "));
+    }
+    return Joined(Bars, " | ");
+}
+
 std::string Told(const TextBox& Box)
 {
     std::string Result = Box.Text();
@@ -119,6 +133,9 @@ std::string Appearance::Of(const Control& Which, const std::string& Side) const
         if (Side == "index")
             return std::to_string(List->ListIndex);
     }
+    if (const auto* Menu = dynamic_cast<const SideMenu*>(&Which))
+        if (Side == "bulles" || Side == "icônes")
+            return Told(*Menu, Side);
     if (const auto* Shown = dynamic_cast<const PictureControl*>(&Which))
         if (Side == "fichier")
             return File(Shown->Picture);

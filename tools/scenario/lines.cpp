@@ -1,6 +1,7 @@
 #include "scenario/lines.h"
 
 #include <fstream>
+#include <unicode/unistr.h>
 
 namespace orvane::scenario {
 
@@ -66,6 +67,15 @@ std::string Joined(const std::vector<std::string>& Cells, std::string_view Separ
     for (std::size_t i = 0; i < Cells.size(); ++i)
         Result += (i == 0 ? "" : std::string(Separator)) + Cells[i];
     return Result;
+}
+
+std::string Unescaped(const std::string& Text)
+{
+    icu::UnicodeString Result = icu::UnicodeString::fromUTF8(Text);
+    if (Text.find("\\u") != std::string::npos)
+        Result = Result.unescape();
+    std::string Utf8;
+    return Result.toUTF8String(Utf8);
 }
 
 std::string Replaced(std::string Text, std::string_view From, std::string_view To)

@@ -27,6 +27,9 @@ std::pair<std::string, std::string> Halves(const std::string& Text, std::string_
 // Put together again.
 std::string Joined(const std::vector<std::string>& Cells, std::string_view Separator);
 
+// With the character itself for each "\\u" and four hexadecimal digits.
+std::string Unescaped(const std::string& Text);
+
 std::string Replaced(std::string Text, std::string_view From, std::string_view To);
 
 } // namespace orvane::scenario

@@ -106,6 +106,9 @@ class Maker
     {
         const auto [Acts, Seen] = Halves(Header, "->");
         Columns = Parts(Acts, "|");
+        for (std::string& Each : Columns)
+            if (Each == "boîte" || Each == "question")
+                Each += ":";
         Looks = Parts(Seen, ";");
     }
 
@@ -122,12 +125,12 @@ class Maker
             Statement(Looks[i] + ": " + Wanted[i]);
     }
 
-    // Blanks at the ends of a text, or a text of nothing but blanks, stand in quotes.
+    // Blanks at the ends of a text, or a text of nothing but blanks, stand in quotes; characters
+    // that can't be seen by their numbers: \u0301.
     static std::string Unquoted(const std::string& Text)
     {
-        return Text.size() > 1 && Text.starts_with('"') && Text.ends_with('"')
-                   ? Text.substr(1, Text.size() - 2)
-                   : Text;
+        const bool IsQuoted = Text.size() > 1 && Text.starts_with('"') && Text.ends_with('"');
+        return Unescaped(IsQuoted ? Text.substr(1, Text.size() - 2) : Text);
     }
 
     const Shorthands& Short;
