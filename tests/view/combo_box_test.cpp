@@ -3,222 +3,102 @@
 #include "view/entry_popup.h"
 
 #include <QLineEdit>
+#include <QWheelEvent>
 
 namespace orvane {
 
 class ComboBoxOnScreen : public Stage
 {
   protected:
-    void Open()
+    void SetUp() override
     {
-        Box().OnClick = [this] { ++Clicks; };
-        Show();
-        View().setFocus();
-        Field().selectAll();
+        Deeds["arrow"] = [this](auto&) { Click(View(), {View().width() - 8, 12}); };
+        Deeds["row"] = [this](auto& Row) { ClickRow(List(), Row.toInt()); };
+        Deeds["elsewhere"] = [this](auto&) { Click(Window(), {400, 580}); };
+        Deeds["wheel"] = [this](auto&) {
+            for (QWidget* Over : std::initializer_list<QWidget*>{&View(), &Field()}) {
+                const QPointF At = Over->rect().center();
+                QWheelEvent Turn(At, Over->mapToGlobal(At), {}, {0, -120}, Qt::NoButton,
+                                 Qt::NoModifier, Qt::NoScrollPhase, false);
+                QApplication::sendEvent(Over, &Turn);
+            }
+        };
+        Deeds["choose"] = [this](const QString& Entry) { Box().ListIndex = Entry.toInt(); };
+        Deeds["write"] = [this](const QString& Text) { Box().Text = FromQt(Text); };
+        Deeds["fill"] = [this](const QString& Entries) {
+            Box().Clear();
+            for (const QString& Each : Entries.split(',', Qt::SkipEmptyParts))
+                Box().AddItem(FromQt(Each));
+        };
+        Play("<in cbo_Objet>");
     }
     ComboBox& Box() { return Atelier().cbo_Objet; }
-    ComboBoxView& View() { return The<ComboBoxView>(Box()); }
+    ComboBoxView& View() { return The<ComboBoxView>("cbo_Objet"); }
     QLineEdit& Field() { return *View().lineEdit(); }
-    bool IsOpen() { return View().Popup() != nullptr && View().Popup()->isVisible(); }
-    QStringList Offered()
-    {
-        QStringList Result;
-        if (IsOpen())
-            for (int Row = 0; Row < View().Popup()->model()->rowCount(); ++Row)
-                Result << View().Popup()->model()->index(Row, 0).data().toString();
-        return Result;
-    }
-    void ClickRow(int Row)
-    {
-        const EntryPopup& Popup = *View().Popup();
-        QTest::mouseClick(Popup.viewport(), Qt::LeftButton, {},
-                          Popup.visualRect(Popup.model()->index(Row, 0)).center());
-    }
-    void ClickArrow()
-    {
-        QTest::mouseClick(&View(), Qt::LeftButton, {}, {View().width() - 8, View().height() / 2});
-    }
+    const EntryPopup& List() { return Checked(View().Popup(), "list"); }
 
-    int Clicks = 0;
+    // "text#index (picks) [open list, its highlighted entry with a star]"
+    std::string Seen() override
+    {
+        EXPECT_EQ(FromQt(Field().text()), Box().Text());
+        QStringList Offered;
+        if (const EntryPopup* List = View().Popup(); List != nullptr && List->isVisible())
+            for (int Row = 0; Row < List->model()->rowCount(); ++Row)
+                Offered << (Row == List->currentIndex().row() ? "*" : "") +
+                               List->model()->index(Row, 0).data().toString();
+        return Box().Text() + "#" + std::to_string(Box().ListIndex) + " (" + Stage::Seen() + ") [" +
+               FromQt(Offered.join('/')) + "]";
+    }
 };
 
-TEST_F(ComboBoxOnScreen, TypingRunsAndChoosesNothing)
-{
-    Open();
-    Type("Cape");
-    EXPECT_EQ(Box().Text(), "Cape");
-    EXPECT_EQ(Box().ListIndex, -1);
-    Press(Qt::Key_Tab);
-    EXPECT_FALSE(View().hasFocus());
-    EXPECT_EQ(Box().ListIndex, -1) << "leaving the box isn't a pick either";
-    EXPECT_EQ(Clicks, 0);
-}
+constexpr Row ComboBoxRows[] = {
+    {"TypingChoosesNothing", "Cape", "Cape#-1 () [*Cape]"},
+    {"LeavingIsNoPick", "Cape<Tab>", "Cape#-1 () []"},
+    {"CaseAndAccentsAside", "ep", "ep#-1 () [Épée courte/Grande épée]"},
+    {"BeginningsFirst", "<fill Grande épée,Épée>ep", "ep#-1 () [Épée/Grande épée]"},
+    {"CapitalsAndAccents", "GRANDE ÉP", "GRANDE ÉP#-1 () [Grande épée]"},
+    {"NoOffer", "epx", "epx#-1 () []"},
+    {"NothingForNothing", "e<Backspace>", "#-1 () []"},
+    {"GoingThroughOffers", "ep<Down><Down>", "ep#-1 () [Épée courte/*Grande épée]"},
+    {"EnterTakesTheHighlighted", "ep<Down><Down><Return>", "Grande épée#2 (2) []"},
+    {"EnterTakesWhatIsTypedInFull", "cape<Enter>", "Cape#0 (0) []"},
+    {"InFullWithoutItsAccent", "echarpe<Return>", "Écharpe#3 (3) []"},
+    {"EnterWithoutHighlight", "ca<Return><Return>", "ca#-1 () []"},
+    {"MousePickKeepsTheKeyboard", "ep<row 1><Down>", "Écharpe#3 (2|3) []"},
+    {"ArrowOpens", "<arrow>", "#-1 () [Cape/Épée courte/Grande épée/Écharpe]"},
+    {"ArrowCloses", "<arrow><arrow>", "#-1 () []"},
+    {"ListOpensAtTheChoice", "<choose 1><F4>",
+     "Épée courte#1 (1) [Cape/*Épée courte/Grande épée/Écharpe]"},
+    {"SameEntryByMouse", "<choose 1><arrow><row 1>", "Épée courte#1 (1|1) []"},
+    {"SameEntryByKey", "<choose 1><F4><Return>", "Épée courte#1 (1|1) []"},
+    {"NoneBeforeTheFirst", "<Up><Down><Up>", "Cape#0 (0) []"},
+    {"NeighboursOfTheChoice", "<Down><Down><Up>", "Cape#0 (0|1|0) []"},
+    {"PageInTheOpenList", "<F4><PgDown>", "#-1 () [Cape/Épée courte/*Grande épée/Écharpe]"},
+    {"AltDownOpens", "<Alt+Down>", "#-1 () [Cape/Épée courte/Grande épée/Écharpe]"},
+    {"EscapeClosesTheList", "<Alt+Down><Esc>", "#-1 () []"},
+    {"EscapeThenLeaves", "<Alt+Down><Esc><Esc>", "#-1 (back) []"},
+    {"WheelPicksNothing", "<choose 1><wheel>", "Épée courte#1 (1) []"},
+    {"APressElsewhereCloses", "<arrow><elsewhere>", "#-1 () []"},
+    {"TheProgramsTextIsNoEntry", "<choose 2><write rien de tel>", "rien de tel#2 (2) []"},
+    {"TheProgramEmptiesIt", "<choose 2><fill>", "#-1 (2) []"},
+    {"ARefilledListOffersAnew", "ep<fill Épinglette,b,c,d>epi", "epi#-1 () [Épinglette]"},
+};
+EACH_ROW(ComboBoxOnScreen, ComboBoxRows);
 
-TEST_F(ComboBoxOnScreen, TypingOffersWithoutRegardToCaseAndAccentsBeginningsFirst)
-{
-    Open();
-    Type("ep");
-    EXPECT_EQ(Offered(), (QStringList{"Épée courte", "Grande épée"}));
-    Field().selectAll();
-    Type("GRANDE ÉP");
-    EXPECT_EQ(Offered(), QStringList{"Grande épée"});
-    Type("x");
-    EXPECT_FALSE(IsOpen());
-}
+using LongEntry = ComboBoxOnScreen;
 
-TEST_F(ComboBoxOnScreen, EnterTakesTheHighlightedOffer)
+TEST_F(LongEntry, IsReadableInTheListAndInATip)
 {
-    Open();
-    Type("ep");
-    Press(Qt::Key_Down);
-    Press(Qt::Key_Down);
-    EXPECT_EQ(Clicks, 0) << "going through the offers picks none";
-    Press(Qt::Key_Return);
-    EXPECT_EQ(Box().ListIndex, 2);
-    EXPECT_EQ(Field().text(), "Grande épée");
-    EXPECT_EQ(Clicks, 1);
-    EXPECT_FALSE(IsOpen());
-}
-
-TEST_F(ComboBoxOnScreen, AnEntryTypedInFullIsTakenByEnter)
-{
-    Open();
-    Type("cape");
-    Press(Qt::Key_Enter);
-    EXPECT_EQ(Box().ListIndex, 0);
-    EXPECT_EQ(Box().Text(), "Cape");
-}
-
-TEST_F(ComboBoxOnScreen, EnterWithoutAHighlightKeepsTheTypedText)
-{
-    Open();
-    Type("ca");
-    Press(Qt::Key_Return);
-    Press(Qt::Key_Return);
-    EXPECT_EQ(Box().Text(), "ca");
-    EXPECT_EQ(Box().ListCount(), 4) << "nothing is inserted into the list";
-    EXPECT_EQ(Clicks, 0);
-}
-
-TEST_F(ComboBoxOnScreen, AnOfferIsPickedByTheMouse)
-{
-    Open();
-    Type("ep");
-    ClickRow(1);
-    EXPECT_EQ(Box().ListIndex, 2);
-    EXPECT_EQ(Clicks, 1);
-    EXPECT_TRUE(View().hasFocus());
-}
-
-TEST_F(ComboBoxOnScreen, TheArrowOpensAndClosesTheWholeList)
-{
-    Open();
-    ClickArrow();
-    EXPECT_EQ(Offered(), (QStringList{"Cape", "Épée courte", "Grande épée", "Écharpe"}));
-    ClickArrow();
-    EXPECT_FALSE(IsOpen());
-    EXPECT_EQ(Clicks, 0);
-}
-
-TEST_F(ComboBoxOnScreen, PickingTheChosenEntryAgainIsAPick)
-{
-    Box().ListIndex = 1;
-    Open();
-    ClickArrow();
-    ClickRow(1);
-    EXPECT_EQ(Clicks, 1);
-    Press(Qt::Key_F4);
-    ASSERT_TRUE(IsOpen());
-    EXPECT_EQ(View().Popup()->Highlighted(), 1);
-    Press(Qt::Key_Return);
-    EXPECT_EQ(Clicks, 2);
-    EXPECT_EQ(Box().ListIndex, 1);
-}
-
-TEST_F(ComboBoxOnScreen, ArrowKeysOnTheClosedListPickTheNeighbour)
-{
-    Open();
-    Press(Qt::Key_Up);
-    EXPECT_EQ(Clicks, 0);
-    Press(Qt::Key_Down);
-    Press(Qt::Key_Down);
-    EXPECT_EQ(Field().text(), "Épée courte");
-    Press(Qt::Key_Up);
-    EXPECT_EQ(Field().text(), "Cape");
-    EXPECT_EQ(Clicks, 3);
-    Press(Qt::Key_Up);
-    EXPECT_EQ(Clicks, 3) << "the first entry has none before it";
-}
-
-TEST_F(ComboBoxOnScreen, AltDownOpensAndEscapeClosesTheListBeforeTheWindow)
-{
-    Open();
-    Press(Qt::Key_Down, Qt::AltModifier);
-    ASSERT_TRUE(IsOpen());
-    Press(Qt::Key_Escape);
-    EXPECT_FALSE(IsOpen());
-    EXPECT_EQ(Atelier().WaysBack, 0);
-    Press(Qt::Key_Escape);
-    EXPECT_EQ(Atelier().WaysBack, 1);
-}
-
-TEST_F(ComboBoxOnScreen, TheWheelPicksNothing)
-{
-    Box().ListIndex = 1;
-    Open();
-    Wheel(View(), -120);
-    Wheel(Field(), -120);
-    EXPECT_EQ(Box().ListIndex, 1);
-    EXPECT_EQ(Field().text(), "Épée courte");
-    EXPECT_EQ(Clicks, 0);
-}
-
-TEST_F(ComboBoxOnScreen, APressElsewhereClosesTheList)
-{
-    Open();
-    ClickArrow();
-    QTest::mouseClick(&Window(), Qt::LeftButton, {}, {400, 580});
-    EXPECT_FALSE(IsOpen());
-    EXPECT_EQ(Clicks, 0);
-}
-
-TEST_F(ComboBoxOnScreen, TheProgramsTextIsShownAlsoWhenItIsNoEntry)
-{
-    Open();
-    Box().ListIndex = 2;
-    EXPECT_EQ(Field().text(), "Grande épée");
-    Box().Text = "rien de tel";
-    EXPECT_EQ(Field().text(), "rien de tel");
-    Box().Clear();
-    EXPECT_EQ(Field().text(), "");
-    EXPECT_EQ(Clicks, 1) << "of the assignment, without echo";
-}
-
-TEST_F(ComboBoxOnScreen, ALongEntryIsReadableInTheListAndInATip)
-{
-    const std::string Long = "Grande pelisse d'apparat du conseil des Neuf Foyers de la Marche";
-    Box().AddItem(Long);
-    Open();
-    ClickArrow();
-    EXPECT_GT(View().Popup()->width(), View().fontMetrics().horizontalAdvance(ToQt(Long)));
-    EXPECT_TRUE(Window().rect().contains(View().Popup()->geometry()));
-    ClickRow(4);
+    const QString Long = "Grande pelisse d'apparat du conseil des Neuf Foyers de la Marche";
+    Box().AddItem(FromQt(Long));
+    Play("<arrow>");
+    EXPECT_GT(List().width(), View().fontMetrics().horizontalAdvance(Long));
+    EXPECT_TRUE(Window().rect().contains(List().geometry()));
+    Play("<row 4>");
     EXPECT_EQ(Field().cursorPosition(), 0) << "the field shows its beginning";
-    EXPECT_EQ(View().toolTip(), ToQt(Long));
+    EXPECT_EQ(View().toolTip(), Long);
     Box().ListIndex = 0;
     EXPECT_EQ(View().toolTip(), "");
-}
-
-TEST_F(ComboBoxOnScreen, ARefilledListOffersItsNewEntries)
-{
-    Open();
-    Type("ep");
-    Box().Clear();
-    for (const char* Each : {"Épinglette", "b", "c", "d"}) // as many as before
-        Box().AddItem(Each);
-    Field().selectAll();
-    Type("epi");
-    EXPECT_EQ(Offered(), QStringList{"Épinglette"});
 }
 
 } // namespace orvane

@@ -1,5 +1,6 @@
 #include "stage.h"
 
+#include <QDialog>
 #include <QEvent>
 
 namespace orvane {
@@ -8,111 +9,88 @@ namespace orvane {
 class frm_Voisin : public Screen
 {
   public:
-    explicit frm_Voisin(Forms& Owner) : Screen(Owner, "frm_Voisin", "Voisin")
+    frm_Voisin(Forms& Owner, QStringList& Log) : Screen(Owner, "frm_Voisin", "Voisin"), Log(Log)
     {
         SizeScreen(*this, 300, 200);
         Place(txt_Note, {10, 10, 100, 24});
         txt_Note.Locked = false;
+        txt_Note.OnChange = [this] { this->Log << ToQt(txt_Note.Text()); };
     }
-    void Activate() override { ++Activations; }
+    void Activate() override { Log << "activated"; }
 
+    QStringList& Log;
     TextBox NAMED(txt_Note);
-    int Activations = 0;
 };
 
 class TwoWindows : public Stage
 {
   protected:
-    TwoWindows()
+    void SetUp() override
     {
-        TheForms.Register("frm_Voisin", [this] { return std::make_unique<frm_Voisin>(TheForms); });
-    }
-    frm_Voisin& Voisin() { return static_cast<frm_Voisin&>(TheForms.Touch("frm_Voisin")); }
-    ScreenWindow& VoisinWindow() { return *Windows.WindowOf(Voisin()); }
-
-    // Both visible, the made-up one on top.
-    void ShowBoth()
-    {
+        TheForms.Register("frm_Voisin",
+                          [this] { return std::make_unique<frm_Voisin>(TheForms, Atelier().Log); });
+        Deeds["press"] = [this](auto&) { Click(Lower(), {150, 150}); };
+        Deeds["type"] = [this](auto&) {
+            QTest::keyClicks(&Checked(Lower().findChild<QWidget*>("txt_Note"), "field"), "a");
+        };
+        Deeds["focus"] = [this](auto&) { Lower().activateWindow(), Await(); };
+        Deeds["ask"] = [this](auto&) { // the desktop hasn't answered yet
+            Voisin().Show();
+            PassThrough(Window());
+        };
+        Deeds["box"] = [this](auto&) {
+            QDialog Box;
+            Box.open();
+            PassThrough(Lower());
+            Log() << "box";
+        };
+        Deeds["leave"] = [this](auto&) { Atelier().Hide(), Await(); };
         Voisin().Show();
         Show();
-        Voisin().Activations = 0;
+        Log().clear();
+    }
+    frm_Voisin& Voisin() { return static_cast<frm_Voisin&>(TheForms.Touch("frm_Voisin")); }
+    ScreenWindow& Lower() { return Checked(Windows.WindowOf(Voisin()), "lower window"); }
+    void Await() { EXPECT_TRUE(QTest::qWaitForWindowActive(&Lower())); }
+
+    static void PassThrough(QWidget& Which) // the focus, on its way elsewhere
+    {
+        QEvent Passing(QEvent::WindowActivate);
+        QApplication::sendEvent(&Which, &Passing);
+    }
+
+    // What has run on the lower one, which is the active one at the end.
+    std::string Seen() override
+    {
+        EXPECT_EQ(TheForms.Active(), &Voisin());
+        EXPECT_EQ(Window().isVisible(), Atelier().IsVisible());
+        return Stage::Seen();
     }
 };
 
-TEST_F(TwoWindows, AWindowIsBuiltAtItsFirstShowingAndKept)
-{
-    EXPECT_EQ(Windows.WindowOf(Voisin()), nullptr);
-    Voisin().Show();
-    ScreenWindow* First = Windows.WindowOf(Voisin());
-    ASSERT_NE(First, nullptr);
-    Voisin().Hide();
-    EXPECT_FALSE(First->isVisible());
-    Voisin().Show();
-    EXPECT_EQ(Windows.WindowOf(Voisin()), First);
-    EXPECT_TRUE(First->isVisible());
-}
+constexpr Row TurnRows[] = {
+    {"APressActivates", "<press>", "activated"},
+    {"TheDesktopsFocusActivates", "<focus>", "activated"},
+    {"TypingActivatesFirst", "<type>", "activated|a"},
+    {"TheOneBelowIsActivatedOnce", "<leave>", "activated"},
+    {"AFocusPassingByIsNobodysWish", "<ask>", "activated"},
+    {"ABoxKeepsTheScreenActive", "<box><press>", "box|activated"},
+};
+EACH_ROW(TwoWindows, TurnRows);
 
-TEST_F(TwoWindows, APressOnALowerWindowActivatesItsScreen)
-{
-    ShowBoth();
-    QTest::mouseClick(&VoisinWindow(), Qt::LeftButton, {}, {150, 150});
-    EXPECT_EQ(TheForms.Active(), &Voisin());
-    EXPECT_EQ(Voisin().Activations, 1);
-}
+using BuiltWindow = Stage;
 
-TEST_F(TwoWindows, TheFocusGivenByTheDesktopActivatesTheScreen)
-{
-    ShowBoth();
-    VoisinWindow().activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&VoisinWindow()));
-    EXPECT_EQ(TheForms.Active(), &Voisin());
-    EXPECT_EQ(Voisin().Activations, 1);
-}
-
-TEST_F(TwoWindows, TheFocusComingBackToTheActiveWindowActivatesNothing)
-{
-    Voisin().Show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&VoisinWindow()));
-    const int Before = Voisin().Activations;
-    QWidget Other; // another window, as of another application
-    Other.show();
-    Other.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&Other));
-    VoisinWindow().activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&VoisinWindow()));
-    EXPECT_EQ(Voisin().Activations, Before);
-}
-
-TEST_F(TwoWindows, WhileTheModelsWindowAwaitsTheFocusAnothersFocusIsNobodysWish)
-{
-    ShowBoth();
-    Voisin().Show(); // the desktop hasn't answered yet
-    QEvent Passing(QEvent::WindowActivate);
-    QApplication::sendEvent(&Window(), &Passing);
-    EXPECT_EQ(TheForms.Active(), &Voisin());
-}
-
-TEST_F(TwoWindows, HidingActivatesTheOneBelowOnce)
-{
-    ShowBoth();
-    Atelier().Hide();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&VoisinWindow()));
-    QCoreApplication::processEvents();
-    EXPECT_EQ(Voisin().Activations, 1);
-    EXPECT_FALSE(Window().isVisible());
-}
-
-TEST_F(TwoWindows, TypingInALowerWindowActivatesItFirst)
-{
-    ShowBoth();
-    QTest::keyClicks(&VoisinWindow().findChild<QWidget*>("txt_Note")[0], "a");
-    EXPECT_EQ(TheForms.Active(), &Voisin());
-    EXPECT_EQ(Voisin().txt_Note.Text(), "a");
-}
-
-TEST_F(TwoWindows, TheLastWindowHiddenDoesNotQuit)
+TEST_F(BuiltWindow, IsMadeAtTheFirstShowingAndKept)
 {
     EXPECT_FALSE(QApplication::quitOnLastWindowClosed());
+    EXPECT_EQ(Windows.WindowOf(Atelier()), nullptr);
+    Show();
+    const ScreenWindow& First = Window();
+    Atelier().Hide();
+    EXPECT_FALSE(First.isVisible());
+    Atelier().Show();
+    EXPECT_EQ(&Window(), &First);
+    EXPECT_TRUE(First.isVisible());
 }
 
 } // namespace orvane

@@ -2,120 +2,102 @@
 #include "view/qt_dialogs.h"
 
 #include <QColorDialog>
-#include <QLineEdit>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+
+#include <clocale>
 
 namespace orvane {
 
 class DialogsOverScreen : public Stage
 {
   protected:
-    DialogsOverScreen() { Real.StandAbove(TheForms); }
-
-    // Does something to the next box as soon as it is up.
-    template <class Action>
-    void WhenUp(Action Do)
+    DialogsOverScreen()
     {
-        QTimer::singleShot(0, [Do] {
-            auto* Box = QApplication::activeModalWidget();
+        Real.StandAbove(TheForms);
+        Deeds["button"] = [](const QString& Words) {
+            for (QPushButton* Each : Focused().window()->findChildren<QPushButton*>())
+                if (Each->text().remove(u'&') == Words)
+                    Click(*Each);
+        };
+    }
+
+    // Does something to the next box as soon as it is up, which then goes away.
+    static void WhenUp(std::function<void(QDialog&)> Do)
+    {
+        QTimer::singleShot(0, [Do = std::move(Do)] {
+            auto* Box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
             ASSERT_NE(Box, nullptr);
-            Do(*Box);
+            EXPECT_NO_THROW(Do(*Box)); // through the toolkit
+            EXPECT_FALSE(Box->isVisible());
             if (Box->isVisible())
-                static_cast<QDialog*>(Box)->reject(); // a test that failed shall not hang
+                Box->reject(); // a test that failed shall not hang
         });
     }
+    static void Escape(QWidget& From) { QTest::keyClick(&From, Qt::Key_Escape); }
 
     QtDialogs Real;
 };
 
 TEST_F(DialogsOverScreen, AMessageBearsTheProgramsTitleOneButtonAndPlainText)
 {
-    Show();
-    WhenUp([this](QWidget& Box) {
-        auto& Message = static_cast<QMessageBox&>(Box);
-        EXPECT_EQ(Message.windowTitle(), "Orvane - Artisanat");
-        EXPECT_EQ(Message.text(), "Un <b>prix</b>");
-        EXPECT_EQ(Message.textFormat(), Qt::PlainText);
-        EXPECT_EQ(Message.buttons().size(), 1);
-        EXPECT_EQ(Message.parentWidget(), &Window());
-        QTest::keyClick(&Message, Qt::Key_Escape);
-        EXPECT_FALSE(Message.isVisible());
-    });
-    Real.MsgBox("Un <b>prix</b>");
+    QWidget* Below = nullptr;
+    for (const bool HasWindow : {false, true}) {
+        WhenUp([&](QDialog& Box) {
+            auto& Message = dynamic_cast<QMessageBox&>(Box);
+            EXPECT_EQ(Message.windowTitle(), "Orvane - Artisanat");
+            EXPECT_EQ(Message.text(), "Un <b>prix</b>");
+            EXPECT_EQ(Message.textFormat(), Qt::PlainText);
+            EXPECT_EQ(Message.buttons().size(), 1);
+            EXPECT_EQ(Message.parentWidget(), Below) << HasWindow;
+            Escape(Box);
+        });
+        Real.MsgBox("Un <b>prix</b>");
+        Show();
+        Below = &Window();
+    }
 }
 
-TEST_F(DialogsOverScreen, AMessageComesUpBeforeThereIsAnyWindow)
-{
-    WhenUp([](QWidget& Box) {
-        EXPECT_EQ(Box.parentWidget(), nullptr);
-        QTest::keyClick(&Box, Qt::Key_Return);
-    });
-    Real.MsgBox("Base absente");
-}
-
-TEST_F(DialogsOverScreen, APromptGivesWhatWasTyped)
+TEST_F(DialogsOverScreen, APromptGivesWhatWasTypedUnlessItIsCancelled)
 {
     Show();
-    WhenUp([](QWidget& Box) {
-        EXPECT_EQ(Box.windowTitle(), "Commande");
-        auto* Field = Box.findChild<QLineEdit*>();
-        EXPECT_EQ(Field->accessibleName(), "Nom de l'acheteur ?");
-        EXPECT_EQ(Box.focusWidget(), Field);
-        QTest::keyClicks(Field, "Ana");
-        QTest::keyClick(Field, Qt::Key_Return);
-    });
-    EXPECT_EQ(Real.InputBox("Nom de l'acheteur ?", "Commande"), "Ana");
-}
-
-TEST_F(DialogsOverScreen, ACancelledPromptGivesNothing)
-{
-    Show();
-    WhenUp([](QWidget& Box) {
-        QTest::keyClicks(Box.findChild<QLineEdit*>(), "Bob");
-        QTest::keyClick(&Box, Qt::Key_Escape);
-    });
-    EXPECT_EQ(Real.InputBox("Nom ?", "Commande"), "");
-}
-
-TEST_F(DialogsOverScreen, ItsButtonsSpeakFrench)
-{
-    Show();
-    QStringList Words;
-    WhenUp([&](QWidget& Box) {
-        for (const QPushButton* Each : Box.findChildren<QPushButton*>())
-            Words << Each->text().remove(u'&');
-    });
-    Real.InputBox("Nom ?", "Commande");
-    EXPECT_TRUE(Words.contains("Annuler")) << Words.join(", ").toStdString();
+    for (const auto& [Deeds, Answer] :
+         {std::pair("Ana<Return>", "Ana"), {"Bob<Esc>", ""}, {"Bob<button Annuler>", ""}}) {
+        WhenUp([&](QDialog& Box) {
+            EXPECT_EQ(Box.windowTitle(), "Commande");
+            EXPECT_EQ(Focused().accessibleName(), "Nom de l'acheteur ?");
+            Play(Deeds);
+        });
+        EXPECT_EQ(Real.InputBox("Nom de l'acheteur ?", "Commande"), Answer) << Deeds;
+    }
 }
 
 TEST_F(DialogsOverScreen, AColourIsGivenInTheModelsNumbers)
 {
     Show();
-    WhenUp([](QWidget& Box) {
-        auto& Chooser = static_cast<QColorDialog&>(Box);
-        Chooser.setCurrentColor(QColor(1, 2, 3));
-        Chooser.accept();
+    WhenUp([](QDialog& Box) {
+        dynamic_cast<QColorDialog&>(Box).setCurrentColor(QColor(1, 2, 3));
+        Box.accept();
     });
     EXPECT_EQ(Real.ShowColor(), RGB(1, 2, 3));
-    WhenUp([](QWidget& Box) { QTest::keyClick(&Box, Qt::Key_Escape); });
+    WhenUp(Escape);
     EXPECT_EQ(Real.ShowColor(), std::nullopt);
 }
 
-TEST_F(DialogsOverScreen, AClosingBoxActivatesNothing)
+TEST_F(DialogsOverScreen, GiveTheKeyboardBackToTheWindow)
 {
     Show();
-    TheForms.Touch("frm_Atelier");
-    WhenUp([this](QWidget& Box) {
-        QEvent Passing(QEvent::WindowActivate);
-        QApplication::sendEvent(&Window(), &Passing);
-        QTest::keyClick(&Box, Qt::Key_Return);
-    });
+    WhenUp(Escape);
     Real.MsgBox("Fait");
-    EXPECT_EQ(TheForms.Active(), &Atelier());
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&Window())) << "the keyboard is back in the window";
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Window().isActiveWindow(); }));
+}
+
+TEST(French, IsSpokenByTheToolkitAndLeavesTheCoresNumbersAlone)
+{
+    EXPECT_EQ(QLocale().toString(1.5), "1,5");
+    EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C");
 }
 
 } // namespace orvane

@@ -8,125 +8,81 @@ namespace orvane {
 class ListBoxOnScreen : public Stage
 {
   protected:
-    void Open(int Count)
+    void SetUp() override
     {
-        Atelier().Fill(Count);
-        Names().OnClick = [this] { ++Clicks; };
-        Show();
-        QCoreApplication::processEvents();
-        View().setFocus();
+        Deeds["row"] = [this](auto& Row) { ClickRow(View(), Row.toInt()); };
+        Deeds["below"] = [this](auto&) { Click(*View().viewport(), {10, View().height() - 8}); };
+        Deeds["choose"] = [this](const QString& Entry) { Names().ListIndex = Entry.toInt(); };
+        Deeds["add"] = [this](const QString& Entry) { Names().AddItem(FromQt(Entry)); };
+        Deeds["scroll"] = [this](const QString& Row) { PriceBar().setValue(Row.toInt()); };
+        Deeds["fill"] = [this](const QString& Count) {
+            Names().Clear();
+            Atelier().lst_Prix.Clear();
+            for (int i = 0; i < Count.toInt(); ++i) {
+                Names().AddItem("Objet " + std::to_string(i));
+                Atelier().lst_Prix.AddItem(std::to_string(10 * i));
+            }
+        };
+        Play("<in lst_Noms>");
     }
     ListBox& Names() { return Atelier().lst_Noms; }
-    ListBoxView& View() { return The<ListBoxView>(Names()); }
-    ListBoxView& PriceView() { return The<ListBoxView>(Atelier().lst_Prix); }
-    void ClickRow(int Row)
-    {
-        QTest::mouseClick(View().viewport(), Qt::LeftButton, {},
-                          View().visualRect(View().model()->index(Row, 0)).center());
-    }
-    int ShownRow() { return View().currentIndex().isValid() ? View().currentIndex().row() : -1; }
+    ListBoxView& View() { return The<ListBoxView>("lst_Noms"); }
+    QScrollBar& PriceBar() { return *The<ListBoxView>("lst_Prix").verticalScrollBar(); }
 
-    int Clicks = 0;
+    // The picks that have run. The list shows the model's entries and its choice.
+    std::string Seen() override
+    {
+        std::vector<std::string> Texts;
+        for (int Row = 0; Row < View().model()->rowCount(); ++Row)
+            Texts.push_back(FromQt(View().model()->index(Row, 0).data().toString()));
+        EXPECT_EQ(Texts, Names().Items());
+        const QModelIndexList Chosen = View().selectionModel()->selectedIndexes();
+        EXPECT_EQ(Chosen.isEmpty() ? -1 : Chosen[0].row(), Names().ListIndex);
+        return Stage::Seen();
+    }
 };
 
-TEST_F(ListBoxOnScreen, AClickPicksAlsoTheChosenEntry)
-{
-    Open(3);
-    ClickRow(1);
-    EXPECT_EQ(Names().ListIndex, 1);
-    ClickRow(1);
-    EXPECT_EQ(Clicks, 2);
-    EXPECT_EQ(ShownRow(), 1);
-}
+constexpr Row PickRows[] = {
+    {"AClickAlsoOfTheChosenEntry", "<fill 3><row 1><row 1>", "1|1"},
+    {"NothingBelowTheEntries", "<fill 1><below>", ""},
+    {"Keys", "<fill 4><Down><Down><End><Down><Up><Home><Up>", "0|1|3|3|2|0|0"},
+    {"KeysForTheChosenEntry", "<fill 4><Down><Space><Return><Enter>", "0|0|0|0"},
+    {"LettersWithoutRegardToAccents", "<fill 2><add Écharpe>e", "2"},
+    {"TheProgramsChoice", "<fill 3><choose 2>", "2"},
+    {"TheProgramsChoiceOfNone", "<fill 3><choose 2><choose -1>", "2|-1"},
+    {"RefilledAfterAPick", "<fill 3><row 2><fill 2>", "2"},
+};
+EACH_ROW(ListBoxOnScreen, PickRows);
 
-TEST_F(ListBoxOnScreen, AClickBelowTheEntriesPicksNothing)
+class ListColumns : public ListBoxOnScreen
 {
-    Open(1);
-    QTest::mouseClick(View().viewport(), Qt::LeftButton, {}, {10, View().height() - 8});
-    EXPECT_EQ(Clicks, 0);
-    EXPECT_EQ(Names().ListIndex, -1);
-}
-
-TEST_F(ListBoxOnScreen, KeysPick)
-{
-    Open(4);
-    const std::pair<Qt::Key, int> Steps[] = {
-        {Qt::Key_Down, 0}, {Qt::Key_Down, 1}, {Qt::Key_End, 3}, {Qt::Key_Up, 2}, {Qt::Key_Home, 0}};
-    for (const auto& [Key, Expected] : Steps) {
-        Press(Key);
-        EXPECT_EQ(Names().ListIndex, Expected);
-        EXPECT_EQ(ShownRow(), Expected);
+  protected:
+    // Whether the names and the prices have their bar, and where the names are scrolled.
+    std::string Seen() override
+    {
+        const QScrollBar& Bar = *View().verticalScrollBar();
+        return std::string(Bar.isVisible() ? "bar " : "- ") +
+               (PriceBar().isVisible() ? "bar " : "- ") + std::to_string(Bar.value());
     }
-    EXPECT_EQ(Clicks, 5);
-}
+};
 
-TEST_F(ListBoxOnScreen, LettersFindAnEntryWithoutRegardToAccents)
-{
-    Open(2);
-    Names().AddItem("Écharpe");
-    Press(Qt::Key_E);
-    EXPECT_EQ(Names().ListIndex, 2);
-}
+constexpr Row ColumnRows[] = {
+    {"ByTheBar", "<fill 50><scroll 20>", "- bar 20"},
+    {"DifferentLengths", "<fill 50><add une de plus><scroll 20>", "bar bar 0"},
+    {"WithoutItsNeighbour", "<fill 50><hide lst_Prix>", "bar - 0"},
+};
+EACH_ROW(ListColumns, ColumnRows);
 
-TEST_F(ListBoxOnScreen, TheProgramsChoiceIsShownWithoutEcho)
-{
-    Open(3);
-    Names().ListIndex = 2;
-    EXPECT_EQ(ShownRow(), 2);
-    EXPECT_EQ(Clicks, 1) << "of the assignment";
-    Names().ListIndex = -1;
-    EXPECT_TRUE(View().selectionModel()->selectedIndexes().isEmpty());
-    EXPECT_EQ(Clicks, 2);
-}
+using ListBoxHandlers = ListBoxOnScreen;
 
-TEST_F(ListBoxOnScreen, ARefilledListIsShownAfterTheEvent)
+TEST_F(ListBoxHandlers, MayScrollAndEmptyTheList)
 {
-    Open(3);
-    ClickRow(2);
-    Atelier().Fill(2);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(View().model()->rowCount(), 2);
-    EXPECT_EQ(ShownRow(), -1);
-    EXPECT_EQ(View().model()->index(1, 0).data().toString(), "Objet 1");
-}
-
-TEST_F(ListBoxOnScreen, AHandlerThatEmptiesTheListIsSafe)
-{
-    Open(3);
+    Play("<fill 50><choose 49>");
+    EXPECT_GT(PriceBar().value(), 20) << "the columns go where the choice is";
+    EXPECT_EQ(PriceBar().value(), View().verticalScrollBar()->value());
     Names().OnClick = [this] { Names().Clear(); };
-    ClickRow(1);
-    EXPECT_EQ(View().model()->rowCount(), 0);
-    EXPECT_EQ(ShownRow(), -1);
-}
-
-TEST_F(ListBoxOnScreen, ColumnsScrollTogetherByTheBarAtTheRight)
-{
-    Open(50);
-    EXPECT_FALSE(View().verticalScrollBar()->isVisible());
-    EXPECT_TRUE(PriceView().verticalScrollBar()->isVisible());
-    PriceView().verticalScrollBar()->setValue(20);
-    EXPECT_EQ(View().verticalScrollBar()->value(), 20);
-    Names().ListIndex = 49;
-    EXPECT_EQ(PriceView().verticalScrollBar()->value(), View().verticalScrollBar()->value());
-    EXPECT_GT(View().verticalScrollBar()->value(), 20);
-}
-
-TEST_F(ListBoxOnScreen, ListsOfDifferentLengthsAreNoColumns)
-{
-    Open(50);
-    Names().AddItem("une de plus");
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(View().verticalScrollBar()->isVisible());
-    PriceView().verticalScrollBar()->setValue(20);
-    EXPECT_EQ(View().verticalScrollBar()->value(), 0);
-}
-
-TEST_F(ListBoxOnScreen, WithoutItsNeighbourAColumnHasItsBar)
-{
-    Open(50);
-    Atelier().lst_Prix.Visible = false;
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(View().verticalScrollBar()->isVisible());
+    Deeds["row"]("49");
+    EXPECT_EQ(Seen(), "49");
 }
 
 } // namespace orvane

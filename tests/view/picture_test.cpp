@@ -1,123 +1,139 @@
 #include "stage.h"
-#include "support/temp_folder.h"
-#include "view/button_view.h"
-#include "view/picture_view.h"
+#include "view/picture_source.h"
 
+#include <QAbstractButton>
 #include <QImage>
+#include <QLabel>
+#include <QTemporaryDir>
 
 namespace orvane {
 
 class PicturesOnScreen : public Stage
 {
   protected:
-    // A plain red picture file.
-    Picture Red(int Width, int Height)
+    PicturesOnScreen()
     {
-        QImage Image(Width, Height, QImage::Format_RGB32);
-        Image.fill(Qt::red);
-        const auto File = Folder.Path() / "rouge.png";
-        EXPECT_TRUE(Image.save(ToQt(File.string())));
-        return {File};
+        Make("plate.png", {40, 20});
+        Make("high.png", {400, 200});
+        Make("dense.png", {20, 20});
+        Make("dense@2x.png", {40, 40}, Qt::blue);
+        Make("png.gif", {10, 10});
     }
-    static QColor PixelOf(QWidget& Widget, QPoint At)
+    void Make(const QString& Name, QSize Size, QColor Colour = Qt::red)
+    {
+        QImage Image(Size, QImage::Format_RGB32);
+        Image.fill(Colour);
+        EXPECT_TRUE(Image.save(Folder.filePath(Name), "PNG"));
+    }
+    Picture File(const QString& Name) { return {FromQt(Folder.filePath(Name))}; }
+    PictureControl& Model(const QString& Name) { return dynamic_cast<PictureControl&>(Find(Name)); }
+    static QColor Pixel(QWidget& Widget, QPoint At)
     {
         return Widget.grab().toImage().pixelColor(At);
     }
-    static bool IsRed(QColor Seen) { return Seen.red() > 200 && Seen.green() < 60; }
 
-    TempFolder Folder;
-    int Clicks = 0;
+    QTemporaryDir Folder;
 };
 
-TEST_F(PicturesOnScreen, AButtonIsClickedByMouseSpaceAndEnter)
+TEST_F(PicturesOnScreen, FillTheirBoxOrKeepTheirProportions)
 {
-    Atelier().cmd_Ajouter.OnClick = [this] { ++Clicks; };
-    Show();
-    auto& View = The<ButtonView>(Atelier().cmd_Ajouter);
-    QTest::mouseClick(&View, Qt::LeftButton);
-    EXPECT_EQ(Clicks, 1);
-    View.setFocus();
-    Press(Qt::Key_Space);
-    Press(Qt::Key_Return);
-    Press(Qt::Key_Enter);
-    EXPECT_EQ(Clicks, 4);
+    using enum PictureSource::Fit;
+    const std::tuple<const char*, int, double, PictureSource::Fit, const char*> Cases[] = {
+        {"plate.png", 100, 1, Whole, "100x100 #ff0000"},
+        {"plate.png", 20, 1, KeepingProportions, "20x10 #ff0000"},
+        {"plate.png", 90, 1, KeepingProportions, "40x20 #ff0000"}, // never larger than its file
+        {"dense.png", 20, 1, KeepingProportions, "20x20 #ff0000"},
+        {"dense.png", 20, 2, KeepingProportions, "40x40 #0000ff"},
+        {"png.gif", 10, 1, Whole, "10x10 #ff0000"}, // known by its content
+        {"absent.png", 10, 1, Whole, "0x0 "},
+    };
+    PictureSource Source;
+    std::string Last;
+    for (const auto& [Name, Side, Density, How, Expected] : Cases) {
+        if (Name != std::exchange(Last, Name))
+            Source.Set(File(Name));
+        const QPixmap& Seen = Source.For({Side, Side}, Density, How);
+        const QString Colour = Seen.isNull() ? "" : Seen.toImage().pixelColor(5, 5).name();
+        const auto Told = QString("%1x%2 %3").arg(Seen.width()).arg(Seen.height()).arg(Colour);
+        EXPECT_EQ(FromQt(Told), Expected) << Name;
+    }
 }
 
-TEST_F(PicturesOnScreen, AButtonTellsItsWordsAndItsTip)
+TEST_F(PicturesOnScreen, FillAButtonAndStandInTheMiddleOfAnImage)
 {
     Show();
-    EXPECT_EQ(The<ButtonView>(Atelier().cmd_Ajouter).accessibleName(), "Ajouter");
-    EXPECT_EQ(The<ButtonView>(Atelier().cmd_Ajouter).toolTip(), "Ajouter au panier");
-    EXPECT_EQ(The<ButtonView>(Atelier().cmd_Retour).toolTip(), "Retour");
+    const std::tuple<const char*, const char*, QPoint, bool> Cases[] = {
+        {"cmd_Ajouter", "plate.png", {10, 10}, true}, // 120 by 40
+        {"cmd_Ajouter", "plate.png", {110, 30}, true},
+        {"cmd_Ajouter", "absent.png", {10, 10}, false}, // its words on a plate
+        {"img_Blason", "high.png", {3, 50}, true},      // 100 by 100
+        {"img_Blason", "high.png", {50, 10}, false},
+        {"img_Blason", "dense.png", {50, 50}, true},
+        {"img_Blason", "dense.png", {30, 50}, false},
+    };
+    for (const auto& [Name, Picture, At, IsRed] : Cases) {
+        Model(Name).Picture = File(Picture);
+        EXPECT_EQ(Pixel(The<QWidget>(Name), At) == QColor(Qt::red), IsRed) << Name << Picture;
+    }
 }
 
-// Hovered and pressed pictures are tinted, and still to be seen; with and without transparency.
-TEST_F(PicturesOnScreen, AHoveredOrPressedButtonStillShowsItsPicture)
+// Hovered and pressed pictures are tinted, and still to be seen.
+TEST_F(PicturesOnScreen, AreSeenOnAHoveredOrPressedButton)
 {
-    Atelier().cmd_Ajouter.Picture = Red(60, 20);
     Show();
-    auto& View = The<ButtonView>(Atelier().cmd_Ajouter);
-    const QPoint Inside(30, 20);
-    const QColor AtRest = PixelOf(View, Inside);
+    Model("cmd_Ajouter").Picture = File("plate.png");
+    auto& View = The<QAbstractButton>("cmd_Ajouter");
+    EXPECT_EQ(Pixel(View, {30, 20}), QColor(Qt::red));
     View.setAttribute(Qt::WA_UnderMouse);
-    const QColor Hovered = PixelOf(View, Inside);
-    EXPECT_TRUE(Hovered.red() > 200 && Hovered.green() < 90);
-    EXPECT_NE(Hovered, AtRest);
+    const QColor Hovered = Pixel(View, {30, 20});
+    EXPECT_TRUE(Hovered.red() > 200 && Hovered.green() > 0 && Hovered.green() < 90);
     View.setAttribute(Qt::WA_UnderMouse, false);
     View.setDown(true);
-    const QColor Pressed = PixelOf(View, Inside);
-    EXPECT_TRUE(Pressed.red() > 150 && Pressed.green() < 60);
-    EXPECT_NE(Pressed, AtRest);
+    const QColor Pressed = Pixel(View, {30, 20});
+    EXPECT_TRUE(Pressed.red() > 150 && Pressed.red() < 255 && Pressed.green() < 60);
 }
 
-TEST_F(PicturesOnScreen, AButtonShowsItsPictureAndWithoutOneItsPlate)
+TEST_F(PicturesOnScreen, AreReachedByKeyboardWhenTheyListen)
 {
     Show();
-    auto& View = The<ButtonView>(Atelier().cmd_Ajouter);
-    const QPoint Corner(10, 10);
-    EXPECT_FALSE(IsRed(PixelOf(View, Corner)));
-    Atelier().cmd_Ajouter.Picture = Red(60, 20);
-    EXPECT_TRUE(IsRed(PixelOf(View, Corner)));
-    EXPECT_TRUE(IsRed(PixelOf(View, {View.width() - 10, View.height() - 10})));
-    std::filesystem::resize_file(Folder.Path() / "rouge.png", 10); // no picture any more
-    Atelier().cmd_Ajouter.Picture = Picture{};
-    Atelier().cmd_Ajouter.Picture = Picture{Folder.Path() / "rouge.png"};
-    EXPECT_FALSE(IsRed(PixelOf(View, Corner))) << "a damaged file falls back to the words";
-}
-
-TEST_F(PicturesOnScreen, AnImageIsMadeSmallerButNeverLarger)
-{
-    Show();
-    auto& View = The<PictureView>(Atelier().img_Blason); // 100 by 100
-    Atelier().img_Blason.Picture = Red(400, 200);
-    EXPECT_TRUE(IsRed(PixelOf(View, {3, 50})));
-    EXPECT_FALSE(IsRed(PixelOf(View, {50, 10}))) << "its proportions are kept";
-    Atelier().img_Blason.Picture = Picture{};
-    Atelier().img_Blason.Picture = Red(20, 20);
-    EXPECT_TRUE(IsRed(PixelOf(View, {50, 50}))) << "in the middle";
-    EXPECT_FALSE(IsRed(PixelOf(View, {30, 50})));
-}
-
-TEST_F(PicturesOnScreen, AnImageThatListensIsReachedByKeyboard)
-{
-    Atelier().img_Blason.OnClick = [this] { ++Clicks; };
-    Atelier().img_Blason.Tip = "Royaume de Valdren";
-    Atelier().img_Blason.Picture = Red(50, 50);
-    Show();
-    auto& View = The<PictureView>(Atelier().img_Blason);
-    EXPECT_TRUE(View.focusPolicy() & Qt::TabFocus);
+    auto& View = The<QWidget>("img_Blason");
+    Model("img_Blason").Tip = "Royaume de Valdren";
+    Model("img_Blason").Picture = File("plate.png");
     EXPECT_EQ(View.accessibleName(), "Royaume de Valdren");
-    View.setFocus();
-    Press(Qt::Key_Return);
-    QTest::mouseClick(&View, Qt::LeftButton);
-    EXPECT_EQ(Clicks, 2);
+    EXPECT_EQ(View.focusPolicy(), Qt::NoFocus);
+    Model("img_Blason").OnClick = [this] { Log() << "clic"; };
+    Model("img_Blason").Picture = File("dense.png");
+    EXPECT_TRUE(View.focusPolicy() & Qt::TabFocus);
+    Play("<in img_Blason><Return><click img_Blason>");
+    EXPECT_EQ(Seen(), "clic|clic");
 }
 
-TEST_F(PicturesOnScreen, AnImageThatDoesNotListenTakesNoFocus)
+using LabelOnScreen = Stage;
+
+TEST_F(LabelOnScreen, FitsItsCaptionIntoItsBox)
 {
-    Atelier().img_Blason.Picture = Red(50, 50);
     Show();
-    EXPECT_EQ(The<PictureView>(Atelier().img_Blason).focusPolicy(), Qt::NoFocus);
+    Label& Model = Atelier().lbl_Nom; // 100 by 24, 9 points
+    auto& View = The<QLabel>("lbl_Nom");
+    const char* Long = "Une légende bien trop longue pour sa boîte";
+    for (const auto& [Caption, Tip] : {std::pair(Long, Long), {"<b>Fer & a", ""}, {"Nom", ""}}) {
+        Model.Caption = Caption;
+        EXPECT_EQ(View.text(), Caption);
+        EXPECT_EQ(View.toolTip(), Tip);
+        EXPECT_EQ(View.font().pointSizeF() < 9, Caption == Long) << Caption;
+    }
+    EXPECT_EQ(View.textFormat(), Qt::PlainText);
+    Model.Bold = true;
+    Model.FontSize = 12;
+    EXPECT_TRUE(View.font().bold());
+    EXPECT_DOUBLE_EQ(View.font().pointSizeF(), 12);
+    Model.Caption = "■";
+    Model.ForeColor = RGB(0, 0, 255);
+    const QImage Drawn = Window().grab(View.geometry()).toImage();
+    bool IsBlue = false;
+    for (int At = 0; At < Drawn.width() * Drawn.height(); ++At)
+        IsBlue |= Drawn.pixel(At % Drawn.width(), At / Drawn.width()) == qRgb(0, 0, 255);
+    EXPECT_TRUE(IsBlue);
 }
 
 } // namespace orvane

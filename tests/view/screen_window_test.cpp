@@ -1,6 +1,6 @@
 #include "stage.h"
+#include "view/side_menu_view.h"
 
-#include <QIcon>
 #include <QLineEdit>
 
 namespace orvane {
@@ -8,20 +8,65 @@ namespace orvane {
 class WindowOfScreen : public Stage
 {
   protected:
-    QStringList TabOrder()
+    void SetUp() override
     {
-        QStringList Result;
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        const QWidget* First = QApplication::focusWidget();
-        do {
-            Result << QApplication::focusWidget()->objectName();
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        } while (QApplication::focusWidget() != First && Result.size() < 50);
-        return Result;
+        Deeds["raise"] = [this](const QString& Name) { Find(Name).Top = 15 * 15; };
+        Deeds["home"] = [this](auto&) { Atelier().GoesBack = false; };
+        Deeds["close"] = [this](auto&) { Window().close(); };
+        Deeds["where"] = [this](auto&) { Log() << Focused().objectName(); };
+        Deeds["tabs"] = [this](auto&) { // where Tab goes, until it comes back
+            const QWidget* Start = &Focused();
+            QStringList Stops;
+            do {
+                Play("<Tab>");
+                Stops << Focused().objectName().section('_', -1);
+            } while (&Focused() != Start && Stops.size() < 50);
+            Log() << Stops.join(' ');
+        };
+        const SideMenu::Item Couture{"Couture", "Couture", 0, "Coudre"},
+            Forge{"Forge", "Forge", 1, ""}, Ouvrir{"Ouvrir", "Voir le panier", 2, ""};
+        Menu().Build({{"Métiers", "Liste des métiers", "", {}, {}, {Couture, Forge}},
+                      {"Panier", "Panier", "", {}, {}, {Ouvrir}}});
+        Menu().OnItemClick = [this](const SideMenu::Item& Item) { Log() << ToQt(Item.Key); };
+    }
+    SideMenu& Menu() { return Atelier().Bar_Menus; }
+
+    // What has run and, where a deed has asked, what has the focus.
+    std::string Seen() override
+    {
+        EXPECT_EQ(Window().isVisible(), Atelier().IsVisible());
+        return Stage::Seen();
     }
 };
 
-TEST_F(WindowOfScreen, IsNamedTitledAndSizedByTheModel)
+constexpr Row WindowRows[] = {
+    {"AButtonByTheMouse", "<click cmd_Ajouter>", "Ajouter"},
+    {"AButtonByKeys", "<in cmd_Ajouter><Space><Return><Enter>", "Ajouter|Ajouter|Ajouter"},
+    {"AnEntryOfTheMenuByTheMouse", "<click Forge>", "Forge"},
+    {"TheMenuByKeysThroughAllBars",
+     "<in Couture><Up><Return><Down><Space><Down><Down><Enter><Up><where>",
+     "Couture|Forge|Ouvrir|Forge"},
+    {"TheMenuIsOneStopOfTab", "<in Couture><Down><Tab><where>", "txt_Nombre"},
+    {"TabComesBackWhereItLeftTheMenu", "<in Couture><Down><Tab><Shift+Backtab><where>", "Forge"},
+    {"EscapeFromATextBox", "<in txt_Nombre><Esc>", "back"},
+    {"EscapeFromACombo", "<in cbo_Objet><Esc>", "back"},
+    {"EscapeFromAList", "<in lst_Noms><Esc>", "back"},
+    {"EscapeFromAButton", "<in cmd_Ajouter><Esc>", "back"},
+    {"NoEscapeFromTheHomeScreen", "<home><in txt_Nombre><Esc><where>", "txt_Nombre"},
+    {"TheFrameAsksTheModel", "<close>", "back"},
+    {"TabGoesAsTheEyePastLockedBoxes", "<in cmd_Retour><tabs>",
+     "Couture Nombre Nom Objet Noms Prix Ajouter Retour"},
+    {"TabPassesTheHidden", "<hide txt_Nom><in cmd_Retour><tabs>",
+     "Couture Nombre Objet Noms Prix Ajouter Retour"},
+    {"TabStopsAtTheShownAgain", "<hide txt_Nom><show txt_Nom><in txt_Nombre><Tab><where>",
+     "txt_Nom"},
+    {"TabFollowsTheMoved", "<raise txt_Nom><in txt_Nom><Tab><where>", "txt_Nombre"},
+};
+EACH_ROW(WindowOfScreen, WindowRows);
+
+using WindowFollows = WindowOfScreen;
+
+TEST_F(WindowFollows, NameTitleAndSize)
 {
     Show();
     EXPECT_EQ(Window().objectName(), "frm_Atelier");
@@ -32,106 +77,68 @@ TEST_F(WindowOfScreen, IsNamedTitledAndSizedByTheModel)
     Atelier().Width = 9000;
     EXPECT_EQ(Window().windowTitle(), "Forge");
     EXPECT_EQ(Window().size(), QSize(600, 600));
+    Atelier().txt_Nom.Left = 1500; // in twips
+    Atelier().txt_Nom.Width = 3135;
+    EXPECT_EQ(The<QLineEdit>("txt_Nom").geometry(), QRect(100, 80, 209, 24));
 }
 
-TEST_F(WindowOfScreen, HasAWidgetUnderEachControlsName)
+TEST_F(WindowFollows, WhatIsVisible)
 {
+    Atelier().txt_Nom.Visible = false;
+    Atelier().shp_Gauche.Visible = false;
     Show();
     for (const Control* Each : Atelier().Controls())
-        EXPECT_NE(Window().findChild<QWidget*>(ToQt(Each->Name())), nullptr) << Each->Name();
+        EXPECT_EQ(Window().findChild<QWidget*>(ToQt(Each->Name())) != nullptr, Each->Visible())
+            << Each->Name() << ": made when it is first seen";
+    Play("<show txt_Nom><show shp_Gauche><in txt_Nombre><Tab>");
+    EXPECT_EQ(&Focused(), &The<QWidget>("txt_Nom"));
+    Play("<hide txt_Nom>");
+    EXPECT_FALSE(The<QWidget>("txt_Nom").isVisible());
+    const QObjectList& Order = Window().children();
+    for (const char* Panel : {"shp_Gauche", "shp_Droite"})
+        for (const char* Above : {"txt_Nombre", "lbl_Nombre", "Bar_Menus"})
+            EXPECT_LT(Order.indexOf(&The<QWidget>(Panel)), Order.indexOf(&The<QWidget>(Above)));
 }
 
-TEST_F(WindowOfScreen, FollowsPlacesInTwips)
+TEST_F(WindowFollows, WordsForReaders)
 {
     Show();
-    Atelier().txt_Nom.Left = 1500;
-    Atelier().txt_Nom.Width = 3135;
-    EXPECT_EQ(The<QLineEdit>(Atelier().txt_Nom).geometry(), QRect(100, 80, 209, 24));
-}
-
-TEST_F(WindowOfScreen, HiddenControlsAreHiddenAndPassedOver)
-{
-    Atelier().txt_Nom.Visible = false;
-    Show();
-    EXPECT_EQ(Window().findChild<QWidget*>("txt_Nom"), nullptr) << "made when it is first seen";
-    EXPECT_FALSE(TabOrder().contains("txt_Nom"));
-    Atelier().txt_Nom.Visible = true;
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(The<QWidget>(Atelier().txt_Nom).isVisible());
-    EXPECT_TRUE(TabOrder().contains("txt_Nom"));
-    Atelier().txt_Nom.Visible = false;
-    QCoreApplication::processEvents();
-    EXPECT_FALSE(The<QWidget>(Atelier().txt_Nom).isVisible());
-    EXPECT_FALSE(TabOrder().contains("txt_Nom"));
-    Atelier().shp_Gauche.Visible = false;
-    Atelier().shp_Gauche.Visible = true;
-    EXPECT_EQ(Window().childAt(300, 50), &The<QWidget>(Atelier().txt_Nombre));
-}
-
-TEST_F(WindowOfScreen, TabGoesAsTheEyeDoesPastLockedBoxes)
-{
-    Show();
-    The<QWidget>(Atelier().cmd_Retour).setFocus();
-    EXPECT_EQ(TabOrder(), (QStringList{"txt_Nombre", "txt_Nom", "cbo_Objet", "lst_Noms", "lst_Prix",
-                                       "cmd_Ajouter", "cmd_Retour"}));
-}
-
-TEST_F(WindowOfScreen, TabFollowsAMovedControl)
-{
-    Show();
-    Atelier().txt_Nom.Top = 15 * 15;
-    QCoreApplication::processEvents();
-    The<QWidget>(Atelier().cmd_Retour).setFocus();
-    EXPECT_EQ(TabOrder().mid(0, 2), (QStringList{"txt_Nom", "txt_Nombre"}));
-}
-
-TEST_F(WindowOfScreen, InputsBearTheLabelBesideThem)
-{
-    Show();
-    EXPECT_EQ(The<QWidget>(Atelier().txt_Nombre).accessibleName(), "Nb d'objets");
-    EXPECT_EQ(The<QWidget>(Atelier().cbo_Objet).accessibleName(), "Objet");
     Atelier().lbl_Nom.Caption = "Acheteur :";
     QCoreApplication::processEvents();
-    EXPECT_EQ(The<QWidget>(Atelier().txt_Nom).accessibleName(), "Acheteur");
-}
-
-TEST_F(WindowOfScreen, EscapeIsTheWayBackFromAnyControl)
-{
-    for (Control* From :
-         {static_cast<Control*>(&Atelier().txt_Nombre), static_cast<Control*>(&Atelier().cbo_Objet),
-          static_cast<Control*>(&Atelier().lst_Noms),
-          static_cast<Control*>(&Atelier().cmd_Ajouter)}) {
-        Show();
-        The<QWidget>(*From).setFocus();
-        const int Before = Atelier().WaysBack;
-        Press(Qt::Key_Escape);
-        EXPECT_EQ(Atelier().WaysBack, Before + 1) << From->Name();
-        EXPECT_FALSE(Window().isVisible());
+    const std::tuple<const char*, const char*, const char*> Words[] = {
+        {"txt_Nombre", "Nb d'objets", ""},  {"cbo_Objet", "Objet", ""},
+        {"txt_Nom", "Acheteur", ""},        {"cmd_Ajouter", "Ajouter", "Ajouter au panier"},
+        {"cmd_Retour", "Retour", "Retour"}, {"Ouvrir", "Voir le panier", ""},
+        {"Couture", "Couture", "Coudre"},
+    };
+    for (const auto& [Name, Told, Tip] : Words) {
+        EXPECT_EQ(The<QWidget>(Name).accessibleName(), Told) << Name;
+        EXPECT_EQ(The<QWidget>(Name).toolTip(), Tip) << Name;
     }
-    Show();
-    Atelier().GoesBack = false; // as on the home screen, whose way back ends the run
-    const int Before = Atelier().WaysBack;
-    Press(Qt::Key_Escape);
-    EXPECT_EQ(Atelier().WaysBack, Before);
-    EXPECT_TRUE(Window().isVisible());
 }
 
-TEST_F(WindowOfScreen, ClosingByTheFrameAsksTheModel)
+using SideMenuOnScreen = WindowOfScreen;
+
+TEST_F(SideMenuOnScreen, MayBeRebuiltByItsOwnClick)
 {
+    Menu().OnItemClick = [this](const SideMenu::Item&) {
+        Menu().Build({{"Seul", "Seul", "", {}, {}, {{"Nouveau", "Nouveau", 0, ""}}}});
+    };
     Show();
-    Window().close();
-    EXPECT_EQ(Atelier().WaysBack, 1);
-    EXPECT_FALSE(Atelier().IsVisible());
-    EXPECT_FALSE(Window().isVisible());
+    Play("<click Forge>");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(The<QWidget>("Nouveau").isVisible());
+    EXPECT_EQ(Window().findChild<QWidget*>("Forge"), nullptr);
 }
 
-TEST_F(WindowOfScreen, PanelsLieBelowEverything)
+TEST_F(SideMenuOnScreen, KeepsTheFocusInSight)
 {
+    Menu().Height = 90 * TwipsPerPixel;
     Show();
-    QWidget& Panel = The<QWidget>(Atelier().shp_Gauche);
-    EXPECT_EQ(Window().childAt(300, 50), &The<QWidget>(Atelier().txt_Nombre));
-    EXPECT_LT(Window().children().indexOf(&Panel),
-              Window().children().indexOf(&The<QWidget>(Atelier().txt_Nombre)));
+    Play("<in Ouvrir>");
+    const auto& Entry = The<QWidget>("Ouvrir");
+    auto& View = The<SideMenuView>("Bar_Menus");
+    EXPECT_TRUE(View.rect().contains(QRect(Entry.mapTo(&View, QPoint(0, 0)), Entry.size())));
 }
 
 } // namespace orvane

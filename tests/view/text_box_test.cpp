@@ -1,4 +1,6 @@
 #include "stage.h"
+#include "view/look.h"
+#include "view/number_typing.h"
 #include "view/text_box_view.h"
 
 #include <QClipboard>
@@ -12,214 +14,126 @@ namespace orvane {
 class TextBoxOnScreen : public Stage
 {
   protected:
-    TextBoxView& Field(TextBox& Which)
+    void SetUp() override
     {
-        auto& Result = The<TextBoxView>(Which);
-        Result.setFocus();
-        Result.selectAll();
-        return Result;
+        Deeds["copy"] = [](const QString& Text) { QGuiApplication::clipboard()->setText(Text); };
+        Deeds["menu"] = [](auto&) {
+            QContextMenuEvent Asked(QContextMenuEvent::Mouse, {5, 5},
+                                    Focused().mapToGlobal(QPoint(5, 5)));
+            QApplication::sendEvent(&Focused(), &Asked);
+            auto& Menu = Checked(QApplication::activePopupWidget(), "menu");
+            for (QAction* Each : Menu.actions())
+                if (Each->text().contains("Ctrl+V"))
+                    Each->trigger();
+            Menu.close();
+        };
+        Deeds["drop"] = [](const QString& Text) {
+            QMimeData Data;
+            Data.setText(Text);
+            QDragEnterEvent Enter({5, 5}, Qt::CopyAction, &Data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&Focused(), &Enter);
+            QDropEvent Drop({5, 5}, Qt::CopyAction, &Data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&Focused(), &Drop);
+        };
+        Deeds["unlock"] = [this](auto&) { Atelier().txt_Total.Locked = false; };
+        Deeds["stale"] = [this](const QString& Is) { Atelier().txt_Total.Stale = Is == "yes"; };
+        Deeds["total"] = [this](const QString& Text) { Atelier().txt_Total.Text = FromQt(Text); };
+        for (TextBox* Each : Fields())
+            Each->OnChange = [this, Each] {
+                Log() << ToQt(Each->Text());
+                if (Each == &Atelier().txt_Nombre && Each->Text == "")
+                    Each->Text = "0"; // the program repairs it
+            };
     }
-    static void Copy(const QString& Text) { QGuiApplication::clipboard()->setText(Text); }
+    std::vector<TextBox*> Fields()
+    {
+        return {&Atelier().txt_Nombre, &Atelier().txt_Nom, &Atelier().txt_Total};
+    }
+
+    // Each text that has reached the model.
+    std::string Seen() override
+    {
+        for (TextBox* Each : Fields()) {
+            const auto& Field = The<QLineEdit>(ToQt(Each->Name()));
+            EXPECT_EQ(FromQt(Field.text()), Each->Text());
+            EXPECT_EQ(Field.isReadOnly(), Each->Locked());
+        }
+        return Stage::Seen();
+    }
 };
 
-TEST_F(TextBoxOnScreen, EachKeyReachesTheModel)
-{
-    Show();
-    std::vector<std::string> Seen;
-    Atelier().txt_Nom.OnChange = [&] { Seen.push_back(Atelier().txt_Nom.Text); };
-    Field(Atelier().txt_Nom);
-    Type("Bob.");
-    EXPECT_EQ(Seen, (std::vector<std::string>{"B", "Bo", "Bob", "Bob."}));
-}
+constexpr Row TextRows[] = {
+    {"EachKey", "<in txt_Nom>Bob.", "B|Bo|Bob|Bob."},
+    {"APointIsACommaInANumber", "<in txt_Nombre>12.5", "1|12|12,|12,5"},
+    {"TheKeypadsPointToo", "<in txt_Nombre>7<Num+.>2", "7|7,|7,2"},
+    {"APastedNumber", "<copy  1 234.50 ><in txt_Nombre><Ctrl+V>", "1234,50"},
+    {"APasteReplacesTheSelection", "<copy 2.5><in txt_Nombre>1<Ctrl+A><Ctrl+V>", "1|2,5"},
+    {"ByTheMenu", "<copy 3.25><in txt_Nombre><menu>", "3,25"},
+    {"ADrop", "<in txt_Nombre><drop 0.75>", "0,75"},
+    {"ANameKeepsPointsAndBlanks", "<copy M. de\nTours><in txt_Nom><Ctrl+V>", "M. de Tours"},
+    {"ARepairedTextIsReplacedByTheNextKey", "<in txt_Nombre>5<Backspace>8", "5||0|8"},
+    {"Undo", "<in txt_Nom>ab<Ctrl+Z>", "a|ab|"},
+    {"TheProgramWrites", "<total Épée>", "Épée"},
+    {"ALockedBoxTakesNothing", "<copy 9><in txt_Total>9<Ctrl+V><drop 9><Del><menu>", ""},
+    {"ALockedBoxGivesItsText", "<in txt_Total><Ctrl+A><Ctrl+C><in txt_Nom><Ctrl+V>", "42"},
+    {"UnlockedAtOnce", "<unlock><in txt_Total><Ctrl+A>9", "9"},
+};
+EACH_ROW(TextBoxOnScreen, TextRows);
 
-TEST_F(TextBoxOnScreen, ATypedPointIsACommaWhereANumberIsMeant)
+class TextBoxLook : public TextBoxOnScreen
 {
-    Show();
-    auto& Widget = Field(Atelier().txt_Nombre);
-    Type("12.5");
-    EXPECT_EQ(Atelier().txt_Nombre.Text(), "12,5");
-    EXPECT_EQ(Widget.text(), "12,5");
-}
-
-TEST_F(TextBoxOnScreen, TheKeypadsDecimalKeyIsAComma)
-{
-    Show();
-    auto& Widget = Field(Atelier().txt_Nombre);
-    Type("7");
-    QTest::sendKeyEvent(QTest::Click, &Widget, Qt::Key_Period, QStringLiteral("."),
-                        Qt::KeypadModifier);
-    Type("2");
-    EXPECT_EQ(Atelier().txt_Nombre.Text(), "7,2");
-}
-
-TEST_F(TextBoxOnScreen, PastedNumbersLoseTheirBlanks)
-{
-    Show();
-    const std::pair<const char*, const char*> Cases[] = {
-        {"12.5", "12,5"},
-        {"1 234,50", "1234,50"},
-        {"1\u00A0234,50", "1234,50"},
-        {" 1\u202F234\u2009567 ", "1234567"},
-    };
-    for (const auto& [Pasted, Expected] : Cases) {
-        Field(Atelier().txt_Nombre);
-        Copy(QString::fromUtf8(Pasted));
-        Press(Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(Atelier().txt_Nombre.Text(), Expected) << Pasted;
+  protected:
+    // What is unusual in its colours and its font, and the tip.
+    std::string Seen() override
+    {
+        const auto& Field = The<TextBoxView>(Focused().objectName());
+        const Control& Box = Field.Model();
+        const QPalette& Colours = Field.palette();
+        std::string Result;
+        if (Colours.color(QPalette::Base) != look::ColourOf(Box.BackColor))
+            Result += "wrong ";
+        if (Colours.color(QPalette::Text) != look::InkOf(Box.ForeColor))
+            Result += "muted ";
+        if (Field.font().italic())
+            Result += "italic ";
+        EXPECT_TRUE(Result.empty() || Field.accessibleDescription() == Field.toolTip());
+        return Result + FromQt(Field.toolTip());
     }
-}
+};
 
-TEST_F(TextBoxOnScreen, TheMenusPasteTakesTheSameRoad)
-{
-    Show();
-    auto& Widget = Field(Atelier().txt_Nombre);
-    Copy("3.25");
-    QContextMenuEvent Asked(QContextMenuEvent::Mouse, {5, 5}, Widget.mapToGlobal(QPoint(5, 5)));
-    QApplication::sendEvent(&Widget, &Asked);
-    auto* Menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    ASSERT_NE(Menu, nullptr);
-    for (QAction* Each : Menu->actions())
-        if (Each->text().contains("Ctrl+V"))
-            Each->trigger();
-    Menu->close();
-    EXPECT_EQ(Atelier().txt_Nombre.Text(), "3,25");
-}
+constexpr Row LookRows[] = {
+    {"AWrongText", "<in txt_Nombre>abc", "wrong Ce texte n’est pas un nombre."},
+    {"Corrected", "<in txt_Nombre>abc<Ctrl+A>3", ""},
+    {"AStaleFigure", "<in txt_Total><stale yes>",
+     "muted italic Ce chiffre date d’avant une saisie à corriger."},
+    {"FreshAgain", "<in txt_Total><stale yes><stale no>", ""},
+    {"ALongText", "<in txt_Total><total Une longue désignation>", "Une longue désignation"},
+    {"AShortText", "<in txt_Total><total Une longue désignation><total 1>", ""},
+};
+EACH_ROW(TextBoxLook, LookRows);
 
-TEST_F(TextBoxOnScreen, ADroppedNumberTakesTheSameRoad)
-{
-    Show();
-    auto& Widget = Field(Atelier().txt_Nombre);
-    Widget.clear();
-    QMimeData Data;
-    Data.setText("0.75");
-    QDragEnterEvent Enter(QPoint(5, 5), Qt::CopyAction, &Data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&Widget, &Enter);
-    QDropEvent Drop(QPointF(5, 5), Qt::CopyAction, &Data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&Widget, &Drop);
-    EXPECT_EQ(Atelier().txt_Nombre.Text(), "0,75");
-}
+using TextBoxFailure = TextBoxOnScreen;
 
-TEST_F(TextBoxOnScreen, APasteElsewhereKeepsPointsAndBlanks)
+TEST_F(TextBoxFailure, IsOneBoxAndTheWindowGoesOn)
 {
-    Show();
-    Field(Atelier().txt_Nom);
-    Copy("M. de\nTours");
-    Press(Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(Atelier().txt_Nom.Text(), "M. de Tours");
-}
-
-TEST_F(TextBoxOnScreen, ARepairedTextIsSelectedSoThatTheNextKeyReplacesIt)
-{
-    TextBox& Box = Atelier().txt_Nombre;
-    Box.StartWith("5");
-    Box.OnChange = [&] {
-        if (Box.Text == "")
-            Box.Text = "0";
-    };
-    Show();
-    auto& Widget = Field(Box);
-    Press(Qt::Key_Delete);
-    EXPECT_EQ(Widget.text(), "0");
-    EXPECT_EQ(Widget.selectedText(), "0");
-    Type("8");
-    EXPECT_EQ(Box.Text(), "8");
-    EXPECT_EQ(Widget.text(), "8");
-}
-
-TEST_F(TextBoxOnScreen, TheProgramsTextIsShownWithoutEcho)
-{
-    Show();
-    int Runs = 0;
-    Atelier().txt_Nom.OnChange = [&] { ++Runs; };
-    Atelier().txt_Nom.Text = "Épée";
-    EXPECT_EQ(The<TextBoxView>(Atelier().txt_Nom).text(), "Épée");
-    EXPECT_EQ(Runs, 1);
-}
-
-TEST_F(TextBoxOnScreen, UndoReachesTheModel)
-{
-    Show();
-    Field(Atelier().txt_Nombre);
-    Type("4.5");
-    Press(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(Atelier().txt_Nombre.Text(), "");
-}
-
-TEST_F(TextBoxOnScreen, ALockedBoxTakesNoTextFromAnyRoad)
-{
-    Atelier().txt_Total.Text = "42";
-    Show();
-    auto& Widget = Field(Atelier().txt_Total);
-    ASSERT_TRUE(Widget.hasFocus()) << "its text can be selected for copying";
-    Type("9");
-    Copy("9");
-    Press(Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(Widget.text(), "42");
-    EXPECT_EQ(Atelier().txt_Total.Text(), "42");
-    EXPECT_TRUE(Widget.isReadOnly());
-    EXPECT_FALSE(Widget.focusPolicy() & Qt::TabFocus);
-}
-
-TEST_F(TextBoxOnScreen, UnlockingOpensItAtOnce)
-{
-    Show();
-    Atelier().txt_Total.Locked = false;
-    Field(Atelier().txt_Total);
-    Type("9");
-    EXPECT_EQ(Atelier().txt_Total.Text(), "9");
-}
-
-TEST_F(TextBoxOnScreen, AWrongTextIsMarkedAndTold)
-{
-    Show();
-    auto& Widget = Field(Atelier().txt_Nombre);
-    const QColor Usual = Widget.palette().color(QPalette::Base);
-    EXPECT_EQ(Usual, QColor(192, 192, 192));
-    Type("abc");
-    EXPECT_NE(Widget.palette().color(QPalette::Base), Usual);
-    EXPECT_EQ(Widget.toolTip(), "Ce texte n’est pas un nombre.");
-    EXPECT_EQ(Widget.accessibleDescription(), "Ce texte n’est pas un nombre.");
-    Widget.selectAll();
-    Type("3");
-    EXPECT_EQ(Widget.palette().color(QPalette::Base), Usual);
-    EXPECT_EQ(Widget.toolTip(), "");
-    EXPECT_EQ(Widget.accessibleDescription(), "");
-}
-
-TEST_F(TextBoxOnScreen, AStaleFigureIsMutedAndTold)
-{
-    Show();
-    auto& Widget = The<TextBoxView>(Atelier().txt_Total);
-    const QColor Usual = Widget.palette().color(QPalette::Text);
-    Atelier().txt_Total.Stale = true;
-    EXPECT_TRUE(Widget.font().italic());
-    EXPECT_NE(Widget.palette().color(QPalette::Text), Usual);
-    EXPECT_EQ(Widget.accessibleDescription(), "Ce chiffre date d’avant une saisie à corriger.");
-    Atelier().txt_Total.Stale = false;
-    EXPECT_FALSE(Widget.font().italic());
-    EXPECT_EQ(Widget.palette().color(QPalette::Text), Usual);
-}
-
-TEST_F(TextBoxOnScreen, ATextThatDoesNotFitIsToldWhole)
-{
-    Show();
-    const std::string Long = "Une très longue désignation qui ne tient pas dans cent points";
-    Atelier().txt_Total.Text = Long;
-    EXPECT_EQ(The<TextBoxView>(Atelier().txt_Total).toolTip(), ToQt(Long));
-    Atelier().txt_Total.Text = "1";
-    EXPECT_EQ(The<TextBoxView>(Atelier().txt_Total).toolTip(), "");
-}
-
-TEST_F(TextBoxOnScreen, AFailureBehindTheDoorIsOneBoxAndTheWindowGoesOn)
-{
-    Show();
     const Failure Given(FailureKind::ChoiceMissing, "Cape");
     Atelier().txt_Nom.OnChange = [&] { throw Given; };
     Boxes.ExpectMsgBox(Given.Sentence());
-    Field(Atelier().txt_Nom);
-    Type("x");
+    Play("<in txt_Nom>x");
     EXPECT_TRUE(Boxes.IsDone());
-    EXPECT_EQ(The<TextBoxView>(Atelier().txt_Nom).text(), "x");
+    EXPECT_EQ(The<TextBoxView>("txt_Nom").text(), "x");
+}
+
+TEST(PastedNumbers, AreSpelledAsTheNumberTextsAre)
+{
+    // Two separators are left to the reader, and marked.
+    for (const QString Each :
+         {"12.5=12,5", "12,5=12,5", ".5=,5", " -3 =-3", "12\n=12", "abc=abc", "1 234,50=1234,50",
+          "1\u00A0234.5=1234,5", "1\u202F234\u2009567=1234567", "1.234,50=1.234,50",
+          "1.234.567=1.234.567"})
+        EXPECT_EQ(NumberText(Each.section('=', 0, 0)), Each.section('=', 1)) << FromQt(Each);
+    EXPECT_EQ(OneLine("E\u0301pe\u0301e\r\n"), "Épée");
+    EXPECT_EQ(OneLine("un\tdeux\ntrois"), "un deux trois");
 }
 
 } // namespace orvane
