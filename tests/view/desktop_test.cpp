@@ -5,35 +5,20 @@
 
 namespace orvane {
 
-// A second screen beside the made-up one.
-class frm_Voisin : public Screen
-{
-  public:
-    frm_Voisin(Forms& Owner, QStringList& Log) : Screen(Owner, "frm_Voisin", "Voisin"), Log(Log)
-    {
-        SizeScreen(*this, 300, 200);
-        Place(txt_Note, {10, 10, 100, 24});
-        txt_Note.Locked = false;
-        txt_Note.OnChange = [this] { this->Log << ToQt(txt_Note.Text()); };
-    }
-    void Activate() override { Log << "activated"; }
-
-    QStringList& Log;
-    TextBox NAMED(txt_Note);
-};
-
+// A second screen of that kind below the first.
 class TwoWindows : public Stage
 {
   protected:
     void SetUp() override
     {
         TheForms.Register("frm_Voisin",
-                          [this] { return std::make_unique<frm_Voisin>(TheForms, Atelier().Log); });
-        Deeds["press"] = [this](auto&) { Click(Lower(), {150, 150}); };
+                          [this] { return std::make_unique<frm_Atelier>(TheForms, "frm_Voisin"); });
+        Deeds["press"] = [this](auto&) { Click(Lower(), {400, 580}); };
         Deeds["type"] = [this](auto&) {
-            QTest::keyClicks(&Checked(Lower().findChild<QWidget*>("txt_Note"), "field"), "a");
+            QTest::keyClicks(&Checked(Lower().findChild<QWidget*>("txt_Nom"), "field"), "a");
         };
         Deeds["focus"] = [this](auto&) { Lower().activateWindow(), Await(); };
+        Deeds["leave"] = [this](auto&) { Atelier().Hide(), Await(); };
         Deeds["ask"] = [this](auto&) { // the desktop hasn't answered yet
             Voisin().Show();
             PassThrough(Window());
@@ -42,17 +27,16 @@ class TwoWindows : public Stage
             QDialog Box;
             Box.open();
             PassThrough(Lower());
-            Log() << "box";
+            Voisin().Log << "box";
         };
-        Deeds["leave"] = [this](auto&) { Atelier().Hide(), Await(); };
         Voisin().Show();
         Show();
-        Log().clear();
+        Voisin().Log.clear();
+        Voisin().txt_Nom.OnChange = [this] { Voisin().Log << ToQt(Voisin().txt_Nom.Text()); };
     }
-    frm_Voisin& Voisin() { return static_cast<frm_Voisin&>(TheForms.Touch("frm_Voisin")); }
+    frm_Atelier& Voisin() { return static_cast<frm_Atelier&>(TheForms.Touch("frm_Voisin")); }
     ScreenWindow& Lower() { return Checked(Windows.WindowOf(Voisin()), "lower window"); }
     void Await() { EXPECT_TRUE(QTest::qWaitForWindowActive(&Lower())); }
-
     static void PassThrough(QWidget& Which) // the focus, on its way elsewhere
     {
         QEvent Passing(QEvent::WindowActivate);
@@ -63,8 +47,8 @@ class TwoWindows : public Stage
     std::string Seen() override
     {
         EXPECT_EQ(TheForms.Active(), &Voisin());
-        EXPECT_EQ(Window().isVisible(), Atelier().IsVisible());
-        return Stage::Seen();
+        EXPECT_EQ(Stage::Seen(), "");
+        return FromQt(Voisin().Log.join('|'));
     }
 };
 

@@ -20,7 +20,8 @@ namespace orvane {
 class frm_Atelier : public Screen
 {
   public:
-    explicit frm_Atelier(Forms& Owner) : Screen(Owner, "frm_Atelier", "Atelier d'essai")
+    explicit frm_Atelier(Forms& Owner, const char* Name = "frm_Atelier")
+        : Screen(Owner, Name, "Atelier d'essai")
     {
         SizeScreen(*this, 800, 600);
         Place(Bar_Menus, {10, 10, 150, 560});
@@ -48,6 +49,7 @@ class frm_Atelier : public Screen
         Place(img_Blason, {490, 300, 100, 100});
     }
 
+    void Activate() override { Log << "activated"; }
     bool LeadsBack() const override { return GoesBack; }
     void WayBack() override
     {
@@ -106,12 +108,17 @@ class Stage : public ::testing::TestWithParam<Row>
     QStringList& Log() { return Atelier().Log; }
 
     // What a row expects: what has run, if a suite doesn't tell more.
-    virtual std::string Seen() { return FromQt(Log().join('|')); }
+    virtual std::string Seen()
+    {
+        EXPECT_EQ(Window().isVisible(), Atelier().IsVisible());
+        return FromQt(Log().join('|'));
+    }
 
     void Show()
     {
         Atelier().Show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+        Log().clear();
     }
 
     template <class Pointer>
