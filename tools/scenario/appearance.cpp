@@ -125,6 +125,8 @@ std::string Appearance::Of(const Control& Which, const std::string& Side) const
         if (Side == "texte") // whether it is hidden or not
             return Told(*Box);
     }
+    if (const auto* Box = dynamic_cast<const ComboBox*>(&Which); Box != nullptr && Side == "texte")
+        return Box->Text;
     if (const auto* List = dynamic_cast<const ListControl*>(&Which)) {
         if (Side == "liste")
             return Joined(List->Items(), " | ");

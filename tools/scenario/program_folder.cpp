@@ -56,7 +56,9 @@ std::string ProgramFolder::Stored(const std::string& What) const
 {
     const auto [Place, Listed] = Halves(What, "(");
     const auto [Source, Condition] = Halves(Place, " où ");
-    const auto [File, Table] = Halves(Source, "/");
+    constexpr std::string_view Ending = ".mdb";
+    const auto [Stem, Table] = Halves(Source, std::string(Ending) + "/");
+    const std::string File = Stem + std::string(Ending);
     const auto Columns = Parts(Listed.substr(0, Listed.find(')')), ",");
     Store Bases;
     const Database Base = Bases.Open(ThePath / File);

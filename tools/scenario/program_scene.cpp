@@ -38,7 +38,9 @@ std::string ProgramScene::Look(const std::string& What)
 
 void ProgramScene::Act(const Step& Which)
 {
-    if (Which.Verb == "base")
+    if (Which.Verb == "montrer")
+        Named(Which.Target).Visible = true;
+    else if (Which.Verb == "base")
         Folder.Change(Which.Target, Which.Text);
     else if (Which.Verb == "perdre")
         Folder.Lose(Which.Target);

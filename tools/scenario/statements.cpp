@@ -9,6 +9,8 @@ namespace {
 const std::set<std::string> Verbs{// what a person does
                                   "clic", "menu", "choisir", "taper", "fermer", "activer", "ouvrir",
                                   "parcourir", "photo", "démarrer", "relancer",
+                                  // a tool for developers, which no rule shows
+                                  "montrer",
                                   // what happens to the folder meanwhile
                                   "base", "perdre", "rendre", "bloquer", "libérer", "écrire",
                                   // for a later look
@@ -60,7 +62,7 @@ class Maker
         const auto [Looked, Wanted] = Halves(Text, ":");
         if (Looked == "boîte" || Looked == "question" || Looked == "couleur")
             return Await(Looked, Wanted);
-        Steps.push_back({At, {}, Looked, Wanted, {}});
+        Steps.push_back({At, {}, Looked, Unescaped(Wanted), {}});
     }
 
     // "Aucun objet sélectionné. -> nom-de-photo", "Nom de l'acheteur ?… = Maël"
