@@ -1,4 +1,5 @@
 #include "store/small_store.h"
+#include "store/sqlite_error.h"
 
 #include <functional>
 #include <unistd.h>
@@ -7,24 +8,18 @@ namespace orvane {
 
 namespace {
 
+using std::filesystem::perms;
+
 const std::string All = "SELECT * FROM T";
 
-// Runs Action as an ordinary user, in a process of its own when root runs the tests: root reads and
-// writes everything. Gives what Action tells.
-std::string AsOrdinaryUser(const std::function<std::string()>& Action)
+// Runs Action as an ordinary user also when root, who reads and writes everything, runs the tests.
+void AsOrdinaryUser(const std::function<void()>& Action)
 {
-    if (::geteuid() != 0)
-        return Action();
     constexpr uid_t Nobody = 65534;
-    if (::seteuid(Nobody) != 0)
-        return "no ordinary user to become";
-    const std::string Told = Action();
-    return ::seteuid(0) == 0 ? Told : "root is gone";
-}
-
-void AllowAll(const std::filesystem::path& File, bool Writing)
-{
-    std::filesystem::permissions(File, std::filesystem::perms(Writing ? 0777 : 0555));
+    const bool Root = ::geteuid() == 0;
+    ASSERT_TRUE(!Root || ::seteuid(Nobody) == 0) << "no ordinary user to become";
+    Action();
+    ASSERT_TRUE(!Root || ::seteuid(0) == 0) << "root is gone";
 }
 
 } // namespace
@@ -32,40 +27,35 @@ void AllowAll(const std::filesystem::path& File, bool Writing)
 class ConnectionTest : public StoreTest
 {
   protected:
-    // The sentence that opening a file and reading its table ends with.
-    std::string SentenceOfReading(const std::filesystem::path& Which)
+    // What the crafter reads when the table is read or written.
+    std::string Reading()
     {
-        return SentenceOf([&] { TheStore.Open(Which).OpenRecordset(All); });
+        return SentenceOf([&] { TheStore.Open(File).OpenRecordset(All); });
     }
-
-    std::string SentenceOfWriting()
+    std::string Writing()
     {
         return SentenceOf([&] {
             Recordset Rows = TheStore.Open(File).OpenRecordset(All);
-            Rows.AddNew();
-            Rows.Set("Nom", "Or");
-            Rows.Update();
+            Put(Rows, "Nom", "Or");
         });
     }
 
     const std::filesystem::path File =
-        Raw("Métiers.mdb", "CREATE TABLE T (Nom TEXT); INSERT INTO T VALUES ('Fer')");
-    const std::string Locked = "La base de données «\u00A0Métiers.mdb\u00A0» est utilisée par un "
-                               "autre programme.\nFermez-le, puis recommencez.";
-    const std::string Unreadable = "La base de données «\u00A0Métiers.mdb\u00A0» ne peut pas être "
-                                   "lue.\nLe fichier est endommagé ou inaccessible.";
-    const std::string ReadOnly = "La base de données «\u00A0Métiers.mdb\u00A0» est en lecture "
-                                 "seule\u00A0: rien n’a été enregistré.";
+        Raw("Métiers.mdb", "CREATE TABLE T (Nom TEXT); INSERT INTO T VALUES ('Fer'), ('Bois')");
+    const std::string ReadOnly = Failure(FailureKind::DatabaseReadOnly, "Métiers.mdb").Sentence();
+    const std::string Damaged = Failure(FailureKind::DatabaseUnreadable, "Métiers.mdb").Sentence();
 };
 
 TEST_F(ConnectionTest, WhatIsNotADatabaseFailsWhenItIsOpened)
 {
     EXPECT_FAILS(DatabaseMissing, TheStore.Open(Folder / "absent.mdb"));
     EXPECT_FALSE(std::filesystem::exists(Folder / "absent.mdb"));
-    EXPECT_FAILS(NotADatabase, TheStore.Open(Folder.Write("vide.mdb", "")));
     EXPECT_FAILS(NotADatabase, TheStore.Open(Folder.Path()));
-    EXPECT_FAILS(NotADatabase, TheStore.Open(Folder.Write("texte.mdb", "du texte")));
-    EXPECT_FAILS(NotADatabase, TheStore.Open(Folder.Write("bruit.mdb", std::string(9000, '\x5A'))));
+    for (const std::string& Content :
+         {std::string(), std::string("du texte"), std::string(9000, 'Z')}) {
+        SCOPED_TRACE(Content.substr(0, 9));
+        EXPECT_FAILS(NotADatabase, TheStore.Open(Folder.Write("faux.mdb", Content)));
+    }
 }
 
 TEST_F(ConnectionTest, ATruncatedFileIsUnreadable)
@@ -73,74 +63,118 @@ TEST_F(ConnectionTest, ATruncatedFileIsUnreadable)
     Raw("Métiers.mdb", "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n LIMIT 2000) "
                        "INSERT INTO T SELECT 'ligne ' || i FROM n");
     std::filesystem::resize_file(File, std::filesystem::file_size(File) / 2 / 4096 * 4096);
-    EXPECT_EQ(SentenceOfReading(File), Unreadable);
+    EXPECT_EQ(Reading(), Damaged);
 }
 
 TEST_F(ConnectionTest, AFileLockedByAnotherProgramFailsAndWorksAgainOnceItIsFree)
 {
-    EXPECT_EQ(SentenceOfReading(File), "") << "the query is known from now on";
-    {
-        SQLite::Database Other(File.string(), SQLite::OPEN_READWRITE);
-        Other.exec("BEGIN EXCLUSIVE");
-        EXPECT_EQ(SentenceOfReading(File), Locked);
-        EXPECT_EQ(SentenceOfWriting(), Locked);
-    }
-    EXPECT_EQ(SentenceOfReading(File), "");
-    EXPECT_EQ(SentenceOfWriting(), "");
-    EXPECT_EQ(Walk(File, All, "Nom"), "Fer|Or");
-}
-
-TEST_F(ConnectionTest, AFileLockedInTheMiddleOfAnEventWorksAgainInTheSameEvent)
-{
     const Database Base = TheStore.Open(File);
     Recordset Rows = Base.OpenRecordset(All);
     Base.Execute("DELETE * FROM T WHERE Nom = \"x\""); // ends the reading
-    {
-        SQLite::Database Other(File.string(), SQLite::OPEN_READWRITE);
-        Other.exec("BEGIN EXCLUSIVE");
-        EXPECT_FAILS(DatabaseLocked, Base.OpenRecordset(All));
-        Rows.Edit();
-        Rows.Set("Nom", "Or");
-        EXPECT_FAILS(DatabaseLocked, Rows.Update());
-    }
+    SQLite::Database Other(File.string(), SQLite::OPEN_READWRITE);
+    Other.exec("BEGIN EXCLUSIVE");
+    EXPECT_FAILS(DatabaseLocked, Store().Open(File));
+    EXPECT_FAILS(DatabaseLocked, Base.OpenRecordset(All));
+    EXPECT_FAILS(DatabaseLocked, Put(Rows, "Nom", "Or"));
     EXPECT_EQ(Rows.Text("Nom"), "Fer") << "what wasn't stored isn't shown";
-    EXPECT_EQ(SentenceOf([&] { Base.OpenRecordset(All); }), "");
-}
-
-TEST_F(ConnectionTest, AWriteThatAnotherReaderHoldsUpLeavesTheRowAsItWas)
-{
-    SQLite::Database Other(File.string());
-    Other.exec("BEGIN");
+    Other.exec("COMMIT; BEGIN");
     Other.execAndGet("SELECT count(*) FROM T");
-    EXPECT_EQ(SentenceOfWriting(), Locked);
+    EXPECT_EQ(Walk(Base, All, "Nom"), "Fer|Bois");
+    EXPECT_FAILS(DatabaseLocked, Put(Rows, "Nom", "Or")); // the other one reads
     Other.exec("COMMIT");
-    EXPECT_EQ(Walk(File, All, "Nom"), "Fer");
-    EXPECT_EQ(SentenceOfWriting(), "");
+    EXPECT_EQ(Walk(Base, All, "Nom"), "Fer|Bois");
+    EXPECT_EQ(Writing(), "");
+    EXPECT_EQ(Walk(Base, All, "Nom"), "Or|Bois");
 }
 
-TEST_F(ConnectionTest, AReadOnlyFileIsReadButNotWritten)
+TEST_F(ConnectionTest, WhatTheFolderAllowsIsDoneAndTheRestIsTold)
 {
-    AllowAll(Folder.Path(), true);
-    AllowAll(File, false);
-    EXPECT_EQ(AsOrdinaryUser([&] { return SentenceOfReading(File); }), "");
-    EXPECT_EQ(AsOrdinaryUser([&] { return SentenceOfWriting(); }), ReadOnly);
-    EXPECT_EQ(Walk(File, All, "Nom"), "Fer");
+    const struct
+    {
+        perms OfFile;
+        perms OfFolder;
+        std::string ToRead;
+        std::string ToWrite;
+    } Rows[] = {{perms(0555), perms(0777), "", ReadOnly},
+                {perms(0777), perms(0555), "", ReadOnly},
+                {perms(0000), perms(0777), Damaged, Damaged}};
+    for (const auto& [OfFile, OfFolder, ToRead, ToWrite] : Rows) {
+        SCOPED_TRACE(static_cast<int>(OfFile));
+        TheStore = Store();
+        std::filesystem::permissions(File, OfFile);
+        std::filesystem::permissions(Folder.Path(), OfFolder);
+        AsOrdinaryUser([&] {
+            EXPECT_EQ(Reading(), ToRead);
+            EXPECT_EQ(Writing(), ToWrite);
+        });
+        std::filesystem::permissions(Folder.Path(), perms::owner_all);
+    }
+    std::filesystem::permissions(File, perms::owner_all);
+    EXPECT_EQ(RawCell("Métiers.mdb", "SELECT Nom FROM T"), "Fer");
 }
 
-TEST_F(ConnectionTest, AFileInAReadOnlyFolderSaysThatNothingWasStored)
+TEST_F(ConnectionTest, ANestedHandleWritesWhileItsCallerReads)
 {
-    AllowAll(File, true);
-    AllowAll(Folder.Path(), false);
-    EXPECT_EQ(AsOrdinaryUser([&] { return SentenceOfReading(File); }), "");
-    EXPECT_EQ(AsOrdinaryUser([&] { return SentenceOfWriting(); }), ReadOnly);
-    std::filesystem::permissions(Folder.Path(), std::filesystem::perms::owner_all);
+    const Database Outer = TheStore.Open(File);
+    Recordset Rows = Outer.OpenRecordset(All);
+    {
+        const Database Nested = TheStore.Open(Folder / "." / "Métiers.mdb");
+        Recordset Same = Nested.OpenRecordset(All);
+        Put(Same, "Nom", "Or");
+        Nested.Execute("DELETE * FROM T WHERE Nom = \"Bois\"");
+        EXPECT_EQ(Walk(Nested, All, "Nom"), "Or");
+    }
+    EXPECT_EQ(RawCell("Métiers.mdb", "SELECT group_concat(Nom) FROM T"), "Or")
+        << "others see it at once";
+    EXPECT_EQ(Rows.Text("Nom"), "Fer") << "a set is a snapshot";
+    EXPECT_EQ(Walk(Outer, All, "Nom"), "Or") << "a new set shows what is stored";
 }
 
-TEST_F(ConnectionTest, AFileThatMayNotBeReadIsUnreadable)
+TEST_F(ConnectionTest, OneEventReadsOneStateOfTheFileUntilItCloses)
 {
-    AllowAll(Folder.Path(), true);
-    std::filesystem::permissions(File, std::filesystem::perms::none);
-    EXPECT_EQ(AsOrdinaryUser([&] { return SentenceOfReading(File); }), Unreadable);
+    Database Base = TheStore.Open(File);
+    const Recordset Rows = Base.OpenRecordset(All);
+    SQLite::Database Writer(File.string(), SQLite::OPEN_READWRITE);
+    EXPECT_THROW(Writer.exec("DELETE FROM T"), SQLite::Exception) << "the reader holds its state";
+    Base.Close();
+    Base.Close();
+    Writer.exec("DELETE FROM T");
+    EXPECT_EQ(Walk(File, All, "Nom"), "");
+    EXPECT_EQ(Rows.Text("Nom"), "Fer") << "a set stays readable";
+}
+
+TEST_F(ConnectionTest, WhatOthersDoToAFileIsNoticedAtTheNextOpening)
+{
+    Database First = TheStore.Open(File);
+    Database Second = std::move(First);
+    First = TheStore.Open(File);
+    Second = std::move(First);
+    EXPECT_EQ(Walk(Second, All, "Nom"), "Fer|Bois");
+    Second.Close(); // handles that were moved close once
+    Raw("Métiers.mdb", "ALTER TABLE T ADD COLUMN Nb INTEGER; INSERT INTO T VALUES ('Cuir', 3)");
+    EXPECT_EQ(Walk(File, All, "Nb"), "||3");
+    Raw("b.mdb", "CREATE TABLE T (Num INTEGER, Nom TEXT); INSERT INTO T VALUES (1, 'Neuf')");
+    std::filesystem::rename(Folder / "b.mdb", File);
+    EXPECT_EQ(Walk(File, All, "Nom"), "Neuf");
+    std::filesystem::copy_file(File, Folder / "b.mdb");
+    std::filesystem::last_write_time(Folder / "b.mdb", std::filesystem::last_write_time(File));
+    std::filesystem::rename(Folder / "b.mdb", File); // of the same time and size
+    Recordset Rows = TheStore.Open(File).OpenRecordset(All);
+    EXPECT_EQ(SentenceOf([&] { Put(Rows, "Nom", "Or"); }), "");
+    EXPECT_EQ(RawCell("Métiers.mdb", "SELECT Nom FROM T"), "Or");
+    std::filesystem::remove(File);
+    EXPECT_FAILS(DatabaseMissing, TheStore.Open(File));
+}
+
+TEST(SqliteError, AFullFileLeavesTheDiskFullSentence)
+{
+    SQLite::Database Base(":memory:", SQLite::OPEN_READWRITE);
+    Base.exec("PRAGMA max_page_count = 2; CREATE TABLE T (Nom TEXT)");
+    EXPECT_EQ(SentenceOf([&] {
+                  Translated("Panier.mdb",
+                             [&] { Base.exec("INSERT INTO T VALUES (zeroblob(99999))"); });
+              }),
+              "Le disque est plein\u00A0: rien n’a été enregistré dans «\u00A0Panier.mdb\u00A0».");
 }
 
 } // namespace orvane

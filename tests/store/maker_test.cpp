@@ -1,8 +1,11 @@
+#include "store/maker.h"
 #include "store/small_store.h"
+
+#include <set>
 
 namespace orvane {
 
-const TableDefinition Table{"Objets",
+const TableDefinition Table{"T",
                             {{"Num", ColumnType::Key, {}},
                              {"Nom", ColumnType::Text, {}},
                              {"Prix", ColumnType::Decimal, {}}}};
@@ -10,25 +13,22 @@ const TableDefinition Table{"Objets",
 class MakerTest : public StoreTest
 {
   protected:
-    std::size_t FileCount() const
-    {
-        return static_cast<std::size_t>(
-            std::distance(std::filesystem::directory_iterator(Folder.Path()), {}));
-    }
-
     const std::filesystem::path File = Folder / "a.mdb";
 };
 
-TEST_F(MakerTest, TheFileAppearsWholeWhenMakingIsFinished)
+TEST_F(MakerTest, TheFileAppearsWholeWhenMakingIsFinishedAndWithoutTheRowsThatWereRefused)
 {
     DatabaseMaker Maker(File, {{Table}, {}, {}});
     Maker.Insert(Table, {"Nom", "Prix"}, {Value("Fer"), Value("922337203685477,5807")});
-    Maker.Insert(Table, {"Prix", "Nom"}, {Value("2,00005"), Value()});
+    EXPECT_FAILS(Store, Maker.Insert(Table, {"Num", "Nom"}, {Value("1"), Value("Or")}));
+    EXPECT_FAILS(Store, Maker.Insert(Table, {"Num", "Nom"}, {Value("3")}));
+    EXPECT_EQ(SentenceOf([&] { Maker.Insert(Table, {"Num", "Nom"}, {Value("2"), Value()}); }), "");
+    Maker.Insert(Table, {"Prix", "Nom"}, {Value("2,00005"), Value("Bois")});
     EXPECT_FALSE(std::filesystem::exists(File));
     Maker.Finish();
-    EXPECT_EQ(FileCount(), 1U);
-    EXPECT_EQ(Walk(File, "SELECT * FROM Objets", "Prix"), "922337203685477,5807|2");
-    EXPECT_EQ(Walk(File, "SELECT * FROM Objets WHERE Nom IS NULL", "Num"), "2");
+    EXPECT_EQ(Walk(File, "SELECT * FROM T", "Nom"), "Fer||Bois");
+    EXPECT_EQ(Walk(File, "SELECT * FROM T", "Prix"), "922337203685477,5807||2");
+    EXPECT_EQ(std::filesystem::remove_all(Folder.Path()), 2U) << "the folder and one file";
 }
 
 TEST_F(MakerTest, AFormerFileStaysWhenMakingIsGivenUp)
@@ -39,28 +39,34 @@ TEST_F(MakerTest, AFormerFileStaysWhenMakingIsGivenUp)
         EXPECT_FAILS(RefusedNumber, Maker.Insert(Table, {"Prix"}, {Value("cher")}));
         EXPECT_FAILS(DatabaseIncomplete, Maker.Insert({"Absent", {}}, {"Nom"}, {Value("x")}));
     }
-    EXPECT_EQ(std::filesystem::file_size(File), 6U);
-    EXPECT_EQ(FileCount(), 1U);
-}
-
-TEST_F(MakerTest, NothingIsLeftWhenTheDefinitionItselfIsWrong)
-{
     EXPECT_FAILS(Store, DatabaseMaker(File, {{Table, Table}, {}, {}}));
-    EXPECT_EQ(FileCount(), 0U);
+    EXPECT_EQ(std::filesystem::file_size(File), 6U);
+    EXPECT_EQ(std::filesystem::remove_all(Folder.Path()), 2U) << "the folder and one file";
 }
 
-TEST_F(MakerTest, ARefusedRowDoesNotSpoilTheNextOne)
+TEST_F(MakerTest, EverySavedQueryAndReferenceOfTheCatalogueFindsItsTables)
 {
-    DatabaseMaker Maker(File, {{Table}, {}, {}});
-    Maker.Insert(Table, {"Num", "Nom"}, {Value(std::int64_t{1}), Value("Fer")});
-    EXPECT_FAILS(Store,
-                 Maker.Insert(Table, {"Num", "Nom"}, {Value(std::int64_t{1}), Value("Bois")}));
-    EXPECT_EQ(SentenceOf([&] {
-                  Maker.Insert(Table, {"Num", "Nom"}, {Value(std::int64_t{2}), Value("Or")});
-              }),
-              "");
-    Maker.Finish();
-    EXPECT_EQ(Walk(File, "SELECT * FROM Objets", "Nom"), "Fer|Or");
+    const std::pair<const char*, const DatabaseDefinition*> Files[] = {
+        {"Artisanat_Alchimie.mdb", &AlchimieDefinition()},
+        {"Artisanat_Valdren.mdb", &RoyaumeDefinition()}};
+    for (const auto& [FileName, Definition] : Files) {
+        DatabaseMaker(Folder / FileName, *Definition).Finish();
+        const Database Base = TheStore.Open(Folder / FileName);
+        for (const QueryDefinition& Query : Definition->Queries)
+            EXPECT_EQ(SentenceOf([&] { Base.OpenRecordset("SELECT * FROM " + Query.Name); }), "")
+                << Query.Sql;
+        std::set<std::string> Names;
+        for (const LinkDefinition& Link : Definition->Links) {
+            Names.insert(Link.Name);
+            EXPECT_EQ(Walk(Base, "SELECT * FROM " + Link.Name, "Nom"), "");
+        }
+        for (const TableDefinition& Each : Definition->Tables)
+            EXPECT_TRUE(Names.insert(Each.Name).second) << Each.Name << " twice";
+        for (const TableDefinition& Each : Definition->Tables)
+            for (const ColumnDefinition& Column : Each.Columns)
+                EXPECT_EQ(Column.Type == ColumnType::Reference, Names.contains(Column.Target))
+                    << Each.Name << "." << Column.Name;
+    }
 }
 
 } // namespace orvane

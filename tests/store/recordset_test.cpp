@@ -4,56 +4,47 @@
 
 namespace orvane {
 
-const DatabaseDefinition Definition{{{"T",
-                                      {{"Num", ColumnType::Key, {}},
-                                       {"Nom", ColumnType::Text, {}},
-                                       {"Nb", ColumnType::Whole, {}},
-                                       {"Prix", ColumnType::Decimal, {}}}}},
-                                    {},
-                                    {}};
-
 class RecordsetTest : public StoreTest
 {
   protected:
-    RecordsetTest()
+    // What the first row holds after Given was written to it.
+    std::string Stored(const std::string& Column, const std::string& Given)
     {
-        Raw("a.mdb", "INSERT INTO T VALUES (1, 'Fer', 10, 1.5), (2, 'Bois', NULL, 2), "
-                     "(5, 'Cuir', 40000, 0)");
+        Recordset Rows = Base.OpenRecordset("SELECT * FROM T WHERE Num = 1");
+        Put(Rows, Column, Given);
+        return Walk(Base, "SELECT * FROM T WHERE Num = 1", Column);
     }
 
-    std::string Names() { return Walk(File, "SELECT * FROM T", "Nom"); }
+    std::string Names() { return Walk(Base, "SELECT * FROM T", "Nom"); }
 
-    const std::filesystem::path File = Make("a.mdb", Definition);
-    const Database Base = TheStore.Open(File);
+    const Database Base = TheStore.Open(
+        Raw("a.mdb",
+            "CREATE TABLE T (Num INTEGER PRIMARY KEY, Nom TEXT, Nb INTEGER, Prix DECIMAL(19,4), "
+            "Entier NUMERIC(5), Monnaie MONEY);"
+            "INSERT INTO T (Num, Nom, Nb, Prix) VALUES (1, 'Fer', 10, 1.5), (2, 'Bois', NULL, 2), "
+            "(5, 'Cuir', 40000, 0)"));
 };
 
 TEST_F(RecordsetTest, IsWalkedFromTheFirstRowToTheEnd)
 {
-    Recordset Rows = Base.OpenRecordset("SELECT Nom, Nb FROM T WHERE Num < 3");
-    EXPECT_EQ(Rows.RecordCount(), 2U);
+    Recordset Rows = Base.OpenRecordset("SELECT Nom, Nb, Num FROM T WHERE Num < 9");
+    ASSERT_EQ(Rows.RecordCount(), 3U);
     EXPECT_EQ(Rows.Text("nom"), "Fer");
+    EXPECT_EQ(Rows.Whole("Nb"), 10);
     Rows.MoveNext();
-    EXPECT_EQ(Rows.Text("Nom"), "Bois");
+    EXPECT_TRUE(Rows.IsNull("Nb"));
+    EXPECT_FAILS(NullValue, Rows.Text("Nb"));
+    EXPECT_FAILS(NullValue, Rows.Number("Nom"));
+    Rows.MoveNext();
+    EXPECT_FAILS(NullValue, Rows.Whole("Nb")); // 40000 doesn't fit 16 bits
+    EXPECT_EQ(Rows.Number("Nb"), 40000.0);
     Rows.MoveNext();
     Rows.MoveNext();
     EXPECT_TRUE(Rows.Eof());
     EXPECT_FAILS(NoRow, Rows.Text("Nom"));
     EXPECT_FAILS(NoRow, Rows.Edit());
-    Rows.MoveFirst();
-    EXPECT_EQ(Rows.Whole("Nb"), 10);
-}
-
-TEST_F(RecordsetTest, NullsAndTextsThatAreNoNumbersFailWhereAValueIsNeeded)
-{
-    Recordset Rows = Base.OpenRecordset("SELECT * FROM T WHERE Num >= 2");
-    EXPECT_TRUE(Rows.IsNull("Nb"));
-    EXPECT_EQ(Rows.TextOrEmpty("Nb"), "");
-    EXPECT_FAILS(NullValue, Rows.Text("Nb"));
-    EXPECT_FAILS(NullValue, Rows.Whole("Nb"));
-    EXPECT_FAILS(NullValue, Rows.Number("Nom"));
-    Rows.MoveNext();
-    EXPECT_FAILS(NullValue, Rows.Whole("Nb")); // 40000 doesn't fit 16 bits
-    EXPECT_EQ(Rows.Number("Nb"), 40000.0);
+    Rows.MoveTo(1);
+    EXPECT_EQ(Rows.Text("Nom"), "Bois");
 }
 
 TEST_F(RecordsetTest, AMissingRowIsToldByWhatWasLookedFor)
@@ -61,81 +52,91 @@ TEST_F(RecordsetTest, AMissingRowIsToldByWhatWasLookedFor)
     const std::array<std::string, 2> Cases[] = {
         {"Nom = \"Étain\"", "Aucune donnée pour «\u00A0Étain\u00A0»."},
         {"Nom = \"Étain\" AND Nb = 9", "Aucune donnée pour «\u00A0Étain, 9\u00A0»."},
-        {"Nom IS NULL", "Aucune donnée pour «\u00A0T\u00A0»."},
+        {"Num = 2", "Aucune donnée pour «\u00A02 (T), Nb\u00A0»."},
         {"Nom = \"\"", "Il faut d’abord faire le choix précédent."},
         {"Nom = \"Fer\" AND Nom = \"\"",
          "Il faut d’abord faire le choix précédent, puis reprendre «\u00A0Fer\u00A0»."}};
     for (const auto& [Where, Sentence] : Cases)
-        EXPECT_EQ(
-            SentenceOf([&] { Base.OpenRecordset("SELECT * FROM T WHERE " + Where).MoveFirst(); }),
-            Sentence);
-    EXPECT_EQ(SentenceOf([&] { Base.OpenRecordset("SELECT * FROM T WHERE Num = 2").Text("Nb"); }),
-              "Aucune donnée pour «\u00A02 (T), Nb\u00A0».");
+        EXPECT_EQ(SentenceOf([&] {
+                      Recordset Rows = Base.OpenRecordset("SELECT * FROM T WHERE " + Where);
+                      Rows.MoveFirst();
+                      Rows.Text("Nb");
+                  }),
+                  Sentence);
+    Base.Execute("DELETE * FROM T WHERE Num>0");
+    EXPECT_EQ(SentenceOf([&] { Base.OpenRecordset("SELECT * FROM T").MoveFirst(); }),
+              "Aucune donnée pour «\u00A0T\u00A0».");
 }
 
-TEST_F(RecordsetTest, EditingWhileWalkingChangesEachRowOnce)
+TEST_F(RecordsetTest, EditingWhileWalkingChangesEachRowOnceAndOnlyWhatWasSet)
 {
     Recordset Rows = Base.OpenRecordset("SELECT * FROM T WHERE Prix < 100 ORDER BY Nom");
     for (; !Rows.Eof(); Rows.MoveNext()) {
-        Rows.Edit();
-        Rows.Set("Nom", "Z" + Rows.Text("Nom"));
-        Rows.Set("Prix", "100");
-        Rows.Update();
+        Put(Rows, "Nom", "Z" + Rows.Text("Nom"));
+        Put(Rows, "Prix", "100");
     }
     EXPECT_EQ(Names(), "ZFer|ZBois|ZCuir");
+    EXPECT_EQ(Walk(Base, "SELECT * FROM T", "Nb"), "10||40000");
     Rows.MoveFirst();
     EXPECT_EQ(Rows.Text("Nom"), "ZBois") << "the snapshot shows what was stored";
+    EXPECT_FAILS(DatabaseIncomplete, Put(Rows, "Absent", "x"));
+    Rows.Edit();
+    Rows.Set("Nom", "X");
+    Rows.MoveNext();
+    SentenceOf([&] { Rows.Update(); });
+    EXPECT_EQ(Names(), "ZFer|ZBois|ZCuir") << "moving away drops the change";
 }
 
-TEST_F(RecordsetTest, OnlyTheColumnsThatWereSetChange)
+TEST_F(RecordsetTest, RowsAreAddedWithANumOfTheirOwnAndDeletedByTheirCondition)
 {
-    Recordset Rows = Base.OpenRecordset("SELECT Nom, Nb FROM T WHERE Nom = \"FER\"");
-    Rows.Edit();
-    Rows.Set("Nb", 12);
-    Rows.Update();
-    Rows.Edit();
-    Rows.SetNull("Nb");
-    Rows.Update();
-    EXPECT_TRUE(Rows.IsNull("Nb"));
-    EXPECT_EQ(RawCell("a.mdb", "SELECT Nom || Prix FROM T WHERE Nb IS NULL AND Num = 1"), "Fer1.5");
-    EXPECT_FAILS(DatabaseIncomplete, Rows.Set("Absent", "x"));
-}
-
-TEST_F(RecordsetTest, ANewRowGetsANumOfItsOwn)
-{
-    Recordset Rows = Base.OpenRecordset("SELECT * FROM T WHERE Nom = \"rien\"");
+    Recordset Rows = Base.OpenRecordset("SELECT * FROM T");
     for (const char* Name : {"Lin", "Soie"}) {
         Rows.AddNew();
         Rows.Set("Nom", Name);
         Rows.Update();
     }
-    EXPECT_EQ(Walk(Base, "SELECT * FROM T WHERE Num > 5", "Num"), "6|7");
-    EXPECT_EQ(Names(), "Fer|Bois|Cuir|Lin|Soie");
+    EXPECT_EQ(Walk(Base, "SELECT * FROM T", "Num"), "1|2|5|6|7");
+    Base.Execute("DELETE * FROM t WHERE Nom = \"FER\"");
+    Base.Execute("DELETE * FROM T WHERE Num=7");
+    EXPECT_EQ(Names(), "Bois|Cuir|Lin");
+    EXPECT_FAILS(NoRow, Put(Rows, "Nom", "X")); // a row that is gone can't be changed
 }
 
-TEST_F(RecordsetTest, MovingAwayNeverSendsAnEditToAnotherRow)
+TEST_F(RecordsetTest, AColumnHoldsWhatWasWrittenToItInItsOwnWay)
+{
+    for (const std::string Exact : {"-0,0001", "922337203685477,5807", "-922337203685477,5808",
+                                    "99999999999,9999", "900719925474,0993", "100000000000000"})
+        EXPECT_EQ(Stored("Prix", Exact), Exact);
+    const std::array<const char*, 3> Cells[] = {
+        {"Prix", "0,00005", "0"},
+        {"Prix", "0,00015", "0,0002"},
+        {"Prix", "-1,00025", "-1,0002"},
+        {"Prix", "0,000050001", "0,0001"},
+        {"Nb", "2,5", "2"},
+        {"Nb", "-3,5", "-4"},
+        {"Nb", "9223372036854775807", "9223372036854775807"},
+        {"Nom", "1,1250", "1,1250"},
+        {"Entier", "1,125", "1"},
+        {"Monnaie", "1,1250", "1,125"}};
+    for (const auto& [Column, Given, Text] : Cells)
+        EXPECT_EQ(Stored(Column, Given), Text) << Column << " of " << Given;
+}
+
+TEST_F(RecordsetTest, ATextThatIsNoNumberIsRefusedAndTheRowLeftAsItWas)
 {
     Recordset Rows = Base.OpenRecordset("SELECT * FROM T");
-    Rows.Edit();
-    Rows.Set("Nom", "X");
-    Rows.MoveNext();
-    try {
-        Rows.Update();
-    } catch (const Failure&) {
+    const std::array<const char*, 2> Cells[] = {
+        {"Prix", ""},    {"Prix", "abc"}, {"Prix", "922337203685477,5808"},
+        {"Nb", "1 234"}, {"Nb", "12.5"},  {"Nb", "9223372036854775808"}};
+    for (const auto& [Column, Wrong] : Cells) {
+        SCOPED_TRACE(Wrong);
+        Rows.Edit();
+        Rows.Set("Nom", "X");
+        Rows.Set(Column, Wrong);
+        EXPECT_FAILS(RefusedNumber, Rows.Update());
     }
-    EXPECT_EQ(Walk(Base, "SELECT * FROM T WHERE Num = 2", "Nom"), "Bois");
-}
-
-TEST_F(RecordsetTest, DeleteTakesTheRowsOfItsConditionOrAll)
-{
-    Recordset Gone = Base.OpenRecordset("SELECT * FROM T WHERE Nom = \"fer\"");
-    Base.Execute("DELETE * FROM T WHERE Nom = \"FER\" OR Nb > 30000");
-    EXPECT_EQ(Names(), "Bois");
-    Gone.Edit();
-    Gone.Set("Nom", "X");
-    EXPECT_FAILS(NoRow, Gone.Update()); // a row that is gone can't be changed
-    Base.Execute("DELETE FROM t");
-    EXPECT_EQ(Names(), "");
+    EXPECT_EQ(Rows.Text("Nom"), "Fer") << "nor does the snapshot change";
+    EXPECT_EQ(Names(), "Fer|Bois|Cuir");
 }
 
 } // namespace orvane

@@ -1,12 +1,10 @@
 #pragma once
 
-#include "store/maker.h"
 #include "store/store.h"
 #include "support/expect_fails.h"
 #include "support/temp_folder.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
-#include <cstdint>
 #include <gtest/gtest.h>
 #include <string>
 #include <string_view>
@@ -14,7 +12,7 @@
 namespace orvane {
 
 // A store over real files in a folder of its own. Files come from plain SQL, as another tool would
-// make them, or from a definition.
+// make them.
 class StoreTest : public testing::Test
 {
   protected:
@@ -33,14 +31,6 @@ class StoreTest : public testing::Test
         return Base.execAndGet(Sql).getString();
     }
 
-    // A file of that definition, without rows.
-    std::filesystem::path Make(std::string_view Name, const DatabaseDefinition& Definition) const
-    {
-        const auto File = Folder / Name;
-        DatabaseMaker(File, Definition).Finish();
-        return File;
-    }
-
     // One column of all rows of a query, joined: "a|b|c".
     std::string Walk(const Database& Base, std::string_view Sql, std::string_view Column) const
     {
@@ -54,6 +44,14 @@ class StoreTest : public testing::Test
                      std::string_view Column)
     {
         return Walk(TheStore.Open(File), Sql, Column);
+    }
+
+    // Changes one cell of the present row.
+    static void Put(Recordset& Rows, std::string_view Column, const std::string& Text)
+    {
+        Rows.Edit();
+        Rows.Set(Column, Text);
+        Rows.Update();
     }
 
     TempFolder Folder;

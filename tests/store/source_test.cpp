@@ -1,74 +1,137 @@
 #include "store/small_store.h"
-#include "store/source.h"
+
+#include <array>
 
 namespace orvane {
 
-namespace {
+// A list that points twice into one table of materials, sometimes into nothing, and a linked table.
+const char* const Tables = R"(
+    CREATE TABLE Mats (Num INTEGER PRIMARY KEY, Nom TEXT);
+    INSERT INTO Mats VALUES (1, 'Fer'), (2, 'Bois');
+    CREATE TABLE Types (Num INTEGER PRIMARY KEY, Nom TEXT);
+    INSERT INTO Types VALUES (1, 'à l''arc'), (2, 'Épée');
+    CREATE TABLE Objets (Num INTEGER PRIMARY KEY, Nom TEXT, Type INTEGER, Mat1 INTEGER, Mat2 INTEGER);
+    INSERT INTO Objets VALUES (1, 'Zibeline', 2, 2, 1), (2, 'Arc', 1, 1, 9),
+    (3, 'zibeline', 1, 1, 2), (4, 'Lame', 1, NULL, 1), (5, 'Sans type', 7, 1, 1);
+    CREATE TABLE SavedQueries (Nom TEXT, Texte TEXT);
+    INSERT INTO SavedQueries VALUES
+    ('R_Objets', 'SELECT Objets.Nom, Types.Nom, Mats.Nom, Mats_1.Nom, Objets.Mat2
+     FROM ((Objets INNER JOIN Types ON Objets.Type = Types.Num)
+     LEFT JOIN Mats ON Objets.Mat1 = Mats.Num) LEFT JOIN Mats AS Mats_1 ON Objets.Mat2 = Mats_1.Num'),
+    ('R_Arcs', 'SELECT Objets.Nom, Types.Nom FROM Objets INNER JOIN Types ON Objets.Type = Types.Num
+     WHERE Types.Nom = "À l''ARC" AND Objets.Num < 4'),
+    ('R_Cercle', 'SELECT R_Cercle.Nom FROM R_Cercle INNER JOIN Objets ON Objets.Nom = Objets.Nom'),
+    ('R_Seconde', 'SELECT R_Arcs.Nom FROM R_Absente INNER JOIN R_Arcs ON R_Arcs.Nom = R_Arcs.Nom'),
+    ('R_Liés', 'SELECT Objets.Nom, Liée.Nom FROM Objets LEFT JOIN Liée ON Objets.Type = Liée.Num
+     WHERE Objets.Num < 4');
+    CREATE TABLE LinkedTables (Nom TEXT, Connect TEXT, Source TEXT);
+    INSERT INTO LinkedTables VALUES ('Liée', '', 'Liste'))";
 
-using Names = std::vector<std::string>;
-
-// A plain table whose columns bear dotted names, as a tool that flattens queries leaves it.
-const char* const Flat = R"(CREATE TABLE R_Objets ("Produits.Nom" TEXT, "Objets.Nom" TEXT,
-    "Objets.Qté1" INTEGER, "Libre" TEXT);
-    INSERT INTO R_Objets VALUES ('Arc', 'Arc court', 3, 'x'), ('Dague', 'Stylet', 2, 'y'))";
-
-} // namespace
-
-TEST(FindColumn, FindsWholeThenShortThenPrefixedNames)
+class SourceTest : public StoreTest
 {
-    const Names Columns{"Produits.Nom", "Objets.Nom", "Objets.Qté1", "Libre"};
-    const std::pair<const char*, int> Cases[] = {
-        {"Objets.Nom", 1}, {"OBJETS.NOM", 1}, {"Qté1", 2},        {"QTÉ1", 2},    {"Nom", -1},
-        {"libre", 3},      {"R.Libre", 3},    {"X.Libre", -1},    {"R.Qté2", -1}, {"té1", -1},
-        {"", -1},          {"Produits.", -1}, {"r.objets.nom", 1}};
-    for (const auto& [Name, Place] : Cases)
-        EXPECT_EQ(FindColumn(Columns, "R", Name), Place) << Name;
-}
-
-TEST(FindColumn, AnExactNameGoesBeforeOneThatOnlyLooksAlike)
-{
-    EXPECT_EQ(FindColumn({"T.Nom", "nom", "Nom"}, "T", "Nom"), 2);
-    EXPECT_EQ(FindColumn({"nom", "NOM"}, "T", "Nom"), -1) << "two that differ by case";
-    EXPECT_EQ(FindColumn({"A_Nom", "B.Nom"}, "T", "Nom"), 1) << "the dot belongs to the short name";
-}
-
-using SourceTest = StoreTest;
-
-TEST_F(SourceTest, DottedColumnsOfAPlainTableAreFoundByBothNames)
-{
-    const auto File = Raw("a.mdb", Flat);
-    const Database Base = TheStore.Open(File);
-    EXPECT_EQ(Walk(Base, "SELECT * FROM R_Objets WHERE Qté1 = 2", "Objets.Nom"), "Stylet");
-    EXPECT_EQ(Walk(Base, "SELECT Objets.Qté1 FROM r_objets WHERE Produits.Nom = \"ARC\"", "Qté1"),
-              "3");
-    EXPECT_EQ(Walk(Base, "SELECT [Objets.Nom] FROM R_Objets ORDER BY Objets.Nom DESC", "Nom"),
-              "Stylet|Arc court");
-}
-
-TEST_F(SourceTest, AnAmbiguousOrUnknownNameFails)
-{
-    const auto File = Raw("a.mdb", Flat);
-    const Database Base = TheStore.Open(File);
-    EXPECT_FAILS(DatabaseIncomplete, Base.OpenRecordset("SELECT Nom FROM R_Objets"));
-    EXPECT_FAILS(DatabaseIncomplete, Base.OpenRecordset("SELECT * FROM R_Objets WHERE Nom = 1"));
-    EXPECT_FAILS(DatabaseIncomplete, Base.OpenRecordset("SELECT * FROM Rien"));
-    EXPECT_FAILS(DatabaseIncomplete, Base.OpenRecordset("SELECT * FROM R_Objets").Text("Nom"));
-    EXPECT_EQ(Walk(Base, "SELECT Libre FROM R_Objets", "Libre"), "x|y") << "and goes on after it";
-}
-
-TEST_F(SourceTest, AQueryThatCannotBeReadFailsInsteadOfBeingHalfRun)
-{
-    const auto File = Raw("a.mdb", "CREATE TABLE A (Nom TEXT); CREATE TABLE B (Nom TEXT)");
-    const Database Base = TheStore.Open(File);
-    for (const char* Sql :
-         {"", "SELECT", "SELECT FROM A", "SELECT * FROM", "SELECT * FROM WHERE Nom = 1",
-          "UPDATE A SET Nom = 1", "SELECT * FROM A, B",
-          "SELECT * FROM A INNER JOIN B ON A.Nom = B.Nom"}) {
-        SCOPED_TRACE(Sql);
-        EXPECT_FAILS(Store, Base.OpenRecordset(Sql));
+  protected:
+    SourceTest()
+    {
+        const std::string Table = "CREATE TABLE Liste (Num INTEGER PRIMARY KEY, Nom TEXT);"
+                                  "INSERT INTO Liste VALUES (1, ";
+        Raw("commun.mdb", Table + "'Teinture'), (2, 'Élixir')");
+        Raw("autre.mdb", Table + "'Autre')");
+        Raw("a.mdb", "UPDATE LinkedTables SET Connect = '" + ConnectTo("commun.mdb") + "'");
     }
-    EXPECT_FAILS(Store, Base.Execute("DELETE"));
-    EXPECT_FAILS(Store, Base.Execute("DROP TABLE A"));
+
+    std::string ConnectTo(std::string_view Name) const
+    {
+        return ";DATABASE=" + (Folder / Name).string();
+    }
+
+    // What the linked table gives for three objects.
+    std::string Linked() { return Walk(File, "SELECT * FROM R_Liés", "Liée.Nom"); }
+
+    const std::filesystem::path File = Raw("a.mdb", Tables);
+};
+
+TEST_F(SourceTest, ASavedQueryJoinsItsTablesInTheOrderOfTheFirst)
+{
+    const std::array<const char*, 3> Rows[] = {
+        {"SELECT * FROM R_Objets", "Objets.Nom", "Zibeline|Arc|zibeline|Lame"},
+        {"SELECT * FROM R_Objets", "Mats.Nom", "Bois|Fer|Fer|"},
+        {"SELECT * FROM R_Objets", "Mats_1.Nom", "Fer||Bois|Fer"},
+        {"SELECT * FROM R_Objets", "Mat2", "1|9|2|1"}, // a short name that only one column has
+        {"SELECT * FROM r_objets WHERE Types.Nom = \"À L'ARC\"", "Objets.Nom", "Arc|zibeline|Lame"},
+        {"SELECT DISTINCT Objets.Nom FROM R_Objets", "Nom", "Zibeline|Arc|Lame"},
+        {"SELECT Objets.Nom FROM R_Objets ORDER BY Objets.Nom", "Nom",
+         "Arc|Lame|zibeline|Zibeline"},
+        {"SELECT Objets.Nom FROM R_Arcs", "Objets.Nom", "Arc|zibeline"}};
+    for (const auto& [Sql, Column, Cells] : Rows)
+        EXPECT_EQ(Walk(File, Sql, Column), Cells) << Sql << ", " << Column;
+}
+
+TEST_F(SourceTest, WhatASavedQueryCannotGiveFails)
+{
+    const Database Base = TheStore.Open(File);
+    Recordset Rows = Base.OpenRecordset("SELECT * FROM R_Objets");
+    EXPECT_FAILS(DatabaseIncomplete, Rows.Text("Nom")); // of several columns
+    EXPECT_FAILS(DatabaseIncomplete, Base.OpenRecordset("SELECT Nom FROM R_Objets"));
+    EXPECT_FAILS(Store, Rows.Edit());
+    EXPECT_FAILS(Store, Base.Execute("DELETE * FROM R_Objets"));
+    EXPECT_FAILS(DatabaseIncomplete, Base.OpenRecordset("SELECT * FROM R_Seconde"));
+    EXPECT_FAILS(DatabaseIncomplete, Base.OpenRecordset("SELECT * FROM R_Cercle"));
+}
+
+TEST_F(SourceTest, ALinkedTableIsReadDirectlyAndThroughASavedQuery)
+{
+    const Database Base = TheStore.Open(File);
+    EXPECT_EQ(Walk(Base, "SELECT * FROM Mats", "Nom"), "Fer|Bois") << "reading has begun";
+    EXPECT_EQ(Linked(), "Élixir|Teinture|Teinture");
+    EXPECT_EQ(Walk(Base, "SELECT Nom FROM Liée WHERE Nom = \"élixir\"", "Nom"), "Élixir");
+    EXPECT_FAILS(Store, Base.OpenRecordset("SELECT * FROM Liée").Edit());
+}
+
+TEST_F(SourceTest, ALinkThatMovedIsFoundAgainOnceItIsSet)
+{
+    const Database Base = TheStore.Open(File);
+    EXPECT_EQ(Linked(), "Élixir|Teinture|Teinture");
+    EXPECT_EQ(Base.LinkConnect("LIÉE"), ConnectTo("commun.mdb"));
+    std::filesystem::create_directory(Folder / "été");
+    std::filesystem::rename(Folder / "autre.mdb", Folder / "été/autre.mdb");
+    Base.SetLinkConnect("Liée", ConnectTo("autre.mdb"));
+    EXPECT_FAILS(DatabaseMissing, Base.RefreshLink("Liée"));
+    EXPECT_EQ(SentenceOf([&] { Linked(); }),
+              "La base de données «\u00A0autre.mdb\u00A0» est introuvable.\n"
+              "Replacez le fichier à côté du programme.");
+    EXPECT_FALSE(std::filesystem::exists(Folder / "autre.mdb")) << "looking makes no file";
+    Base.SetLinkConnect("Liée", ConnectTo("été/autre.mdb"));
+    Base.RefreshLink("Liée");
+    EXPECT_EQ(Linked(), "|Autre|Autre");
+}
+
+TEST_F(SourceTest, AnUnknownLinkOrOneToADamagedFileFails)
+{
+    const Database Base = TheStore.Open(File);
+    EXPECT_FAILS(DatabaseIncomplete, Base.LinkConnect("Absent"));
+    EXPECT_FAILS(DatabaseIncomplete, Base.SetLinkConnect("Absent", "x"));
+    EXPECT_FAILS(DatabaseIncomplete, Base.RefreshLink("Absent"));
+    Folder.Write("commun.mdb", std::string(4096, 'x'));
+    EXPECT_FAILS(NotADatabase, Base.RefreshLink("Liée"));
+    Folder.Write("commun.mdb", "");
+    EXPECT_FAILS(DatabaseIncomplete, Base.RefreshLink("Liée"));
+}
+
+TEST_F(SourceTest, ALinkedFileThatWasReplacedIsNoticedAtTheNextOpening)
+{
+    EXPECT_EQ(Linked(), "Élixir|Teinture|Teinture");
+    std::filesystem::rename(Folder / "autre.mdb", Folder / "commun.mdb");
+    EXPECT_EQ(Linked(), "|Autre|Autre");
+}
+
+TEST_F(SourceTest, ANestedWriteToTheLinkedFileDoesNotWaitForItsCallersReading)
+{
+    const Database Outer = TheStore.Open(File);
+    EXPECT_EQ(Linked(), "Élixir|Teinture|Teinture");
+    const Database Nested = TheStore.Open(Folder / "commun.mdb");
+    Recordset Rows = Nested.OpenRecordset("SELECT * FROM Liste");
+    EXPECT_EQ(SentenceOf([&] { Put(Rows, "Nom", "Encre"); }), "");
+    EXPECT_EQ(Linked(), "Élixir|Encre|Encre");
 }
 
 } // namespace orvane
