@@ -1,143 +1,75 @@
 #include "toolkit/small_screen.h"
 
+#include <array>
+
 namespace orvane {
 
-namespace {
-
-class Windows : public FormsObserver
+class FormsTest : public ScreenTest, public FormsObserver
 {
-  public:
-    explicit Windows(std::string& Log) : Log(Log) {}
+  protected:
+    FormsTest() { TheForms.Observe(this); }
 
-    void Shown(Screen& Which) override { Log += "shown " + Which.Name() + ";"; }
-    void Hidden(Screen& Which) override { Log += "hidden " + Which.Name() + ";"; }
-
-  private:
-    std::string& Log;
+    void Shown(Screen& Which) override { Log += "^" + Which.Name() + " "; }
+    void Hidden(Screen& Which) override { Log += "_" + Which.Name() + " "; }
 };
 
-} // namespace
-
-using FormsTest = ScreenTest;
-
-TEST_F(FormsTest, AScreenIsLoadedAtItsFirstTouchAndOnceOnly)
+TEST_F(FormsTest, TheUppermostScreenIsTheActiveOne)
 {
-    EXPECT_EQ(TheForms.Count(), 0);
-    SmallScreen& B = Get("B");
-    EXPECT_EQ(Log, "load B;") << "before the touch returns, and without being shown";
-    EXPECT_EQ(&Get("B"), &B);
-    B.Show();
-    B.Hide();
-    B.Show();
-    Get("A");
-    EXPECT_EQ(Log, "load B;activate B;activate B;load A;");
-    ASSERT_EQ(TheForms.Count(), 2);
-    EXPECT_EQ(&TheForms[0], &B) << "in the order of loading";
-    EXPECT_FAILS(Program, Get("Z"));
-    EXPECT_EQ(TheForms.Count(), 2);
-}
-
-TEST_F(FormsTest, LoadMayTouchOtherScreensAndItself)
-{
-    TheForms.Register("D", [this] {
-        auto Made = std::make_unique<SmallScreen>(TheForms, "D", Log);
-        Made->OnLoad = [this] {
-            Get("D").txt_Nb.Text = "1";
-            Get("A");
-            Log += "end of load D;";
-        };
-        return Made;
-    });
-    Get("D");
-    EXPECT_EQ(Log, "load D;load A;end of load D;");
-    EXPECT_EQ(TheForms.Count(), 2);
-}
-
-TEST_F(FormsTest, ShowActivatesUnlessTheScreenIsActiveAlready)
-{
-    SmallScreen& A = Get("A");
-    SmallScreen& B = Get("B");
-    Log.clear();
-    A.Show();
-    A.Show();
-    EXPECT_EQ(Log, "activate A;");
-    B.Show();
-    EXPECT_EQ(Stack(), "AB");
-    A.Show();
-    EXPECT_EQ(Log, "activate A;activate B;activate A;");
-    EXPECT_EQ(Stack(), "BA");
-    EXPECT_EQ(TheForms.Active(), &A);
-}
-
-TEST_F(FormsTest, HideActivatesTheScreenBelowBeforeTheNextLine)
-{
-    Shown("A");
-    Shown("B");
-    SmallScreen& C = Shown("C");
-    C.Hide();
-    Log += "next line;";
-    EXPECT_EQ(Log, "activate B;next line;");
-    EXPECT_EQ(TheForms.Active()->Name(), "B");
-    EXPECT_FALSE(C.IsVisible());
-}
-
-TEST_F(FormsTest, HidingAScreenThatIsNotActiveActivatesNothing)
-{
-    SmallScreen& A = Shown("A");
-    SmallScreen& B = Shown("B");
-    A.Hide();
-    EXPECT_EQ(Log, "");
-    EXPECT_EQ(Stack(), "B");
-    B.Hide();
-    EXPECT_EQ(Log, "");
-    EXPECT_EQ(TheForms.Active(), nullptr);
-    B.Show();
-    EXPECT_EQ(Log, "activate B;") << "shown again, active again";
-}
-
-TEST_F(FormsTest, AShowInsideAnActivationNestsAndTheInnerOneStaysOnTop)
-{
-    SmallScreen& A = Shown("A");
-    SmallScreen& B = Get("B");
-    Get("C");
-    Log.clear();
-    B.OnActivate = [this] {
-        Get("C").Show();
-        Log += "B goes on;";
+    On["load D"] = [this] {
+        Get("C");
+        Log += "end of load " + Get("D").Name() + ";";
     };
-    B.Show();
-    EXPECT_EQ(Log, "activate B;activate C;B goes on;");
-    EXPECT_EQ(Stack(), "ABC");
-    EXPECT_EQ(TheForms.Active()->Name(), "C");
-    Log.clear();
-    B.OnActivate = [&] { B.Hide(); };
+    On["activate D"] = [this] {
+        Get("B").Show();
+        Log += "D goes on;";
+    };
+    // "=A" touches the screen A, "+A" shows it, "-A" hides it, "!A" activates it.
+    const std::array<const char*, 3> Rows[] = {
+        {"=B", "load B;", ""},
+        {"=B", "", ""},
+        {"!B", "", ""},
+        {"+A", "load A;^A activate A;", "A"},
+        {"+A", "", "A"},
+        {"+B", "^B activate B;", "AB"},
+        {"+A", "^A activate A;", "BA"},
+        {"!B", "^B activate B;", "AB"},
+        {"-A", "_A ", "B"},
+        {"-B", "_B ", ""},
+        {"-B", "", ""},
+        {"+B", "^B activate B;", "B"},
+        {"+A", "^A activate A;", "BA"},
+        {"-A", "_A ^B activate B;", "B"},
+        {"=D", "load D;load C;end of load D;", "B"},
+        {"+D", "^D activate D;^B activate B;D goes on;", "DB"}};
+    for (const auto& [Step, Told, Visible] : Rows) {
+        SCOPED_TRACE(Step + (" on " + Stack()));
+        SmallScreen& Which = Get(Step + 1);
+        if (*Step == '+')
+            Which.Show();
+        else if (*Step == '-')
+            Which.Hide();
+        else if (*Step == '!')
+            TheForms.Activate(Which);
+        EXPECT_EQ(Logged(), Told);
+        EXPECT_EQ(Stack(), Visible);
+        EXPECT_EQ(TheForms.Active(), Stack().empty() ? nullptr : TheForms.Stack().back());
+    }
+    EXPECT_EQ(&TheForms[0], &Get("B")) << "in the order of loading";
+    EXPECT_FAILS(Program, Get("Z"));
+}
+
+TEST_F(FormsTest, AnActivationMayHideItsScreenOrFail)
+{
+    for (const char* Name : {"A", "B", "C"})
+        Get(Name).Show();
+    Logged();
+    On["activate B"] = [this] { Get("B").Hide(); };
     Get("C").Hide();
-    EXPECT_EQ(Log, "activate B;activate A;") << "a chain of hides runs down the stack";
-    EXPECT_EQ(TheForms.Active(), &A);
-}
-
-TEST_F(FormsTest, AFailureInAnActivationLeavesTheStackInOrder)
-{
-    Shown("A");
-    SmallScreen& B = Get("B");
-    B.OnActivate = [] { throw Failure(FailureKind::NoRow, "x"); };
-    EXPECT_FAILS(NoRow, B.Show());
+    EXPECT_EQ(Logged(), "_C ^B activate B;_B ^A activate A;") << "a chain runs down the stack";
+    On["activate B"] = [] { throw Failure(FailureKind::NoRow, "x"); };
+    EXPECT_FAILS(NoRow, Get("B").Show());
     EXPECT_EQ(Stack(), "AB");
-    EXPECT_EQ(TheForms.Active(), &B);
-    B.Hide();
-    EXPECT_EQ(TheForms.Active()->Name(), "A");
-}
-
-TEST_F(FormsTest, TheObserverHearsOfWindowsBeforeTheirActivation)
-{
-    Windows Watcher(Log);
-    TheForms.Observe(&Watcher);
-    Shown("A");
-    SmallScreen& B = Get("B");
-    Log.clear();
-    B.Show();
-    B.Hide();
-    EXPECT_EQ(Log, "shown B;activate B;hidden B;shown A;activate A;");
+    EXPECT_EQ(TheForms.Active(), &Get("B"));
 }
 
 } // namespace orvane

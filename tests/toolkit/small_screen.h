@@ -6,64 +6,52 @@
 
 #include <functional>
 #include <gtest/gtest.h>
+#include <map>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace orvane {
 
-// A screen with a control of each sort that acts, which logs what happens to it.
+// A screen with a control of each sort that acts, which tells what happens to it.
 class SmallScreen : public Screen
 {
   public:
-    SmallScreen(Forms& Owner, const std::string& Name, std::string& Log)
+    SmallScreen(Forms& Owner, const std::string& Name, std::function<void(const std::string&)> Tell)
         : Screen(Owner, Name, "Écran " + Name),
-          Log(Log)
+          Tell(std::move(Tell))
     {
     }
 
     TextBox NAMED(txt_Nb);
-    TextBox NAMED(txt_Prix);
     Family<TextBox, 3> NAMED(txt_Mat);
     ComboBox NAMED(cbo_Objet);
     ListBox NAMED(lst_Objets);
     Button NAMED(cmd_Action);
     SideMenu NAMED(mnu_Menu);
 
-    std::function<void()> OnLoad;
-    std::function<void()> OnActivate;
-
-    void Load() override { Note("load", OnLoad); }
-    void Activate() override { Note("activate", OnActivate); }
+    void Load() override { Tell("load " + Name()); }
+    void Activate() override { Tell("activate " + Name()); }
 
   private:
-    void Note(const std::string& What, const std::function<void()>& Then)
-    {
-        Log += What + " " + Name() + ";";
-        if (Then)
-            Then();
-    }
-
-    std::string& Log;
+    std::function<void(const std::string&)> Tell;
 };
 
-// Three screens, A, B and C, and a person before them.
+// Four screens, A to D, and a person before them.
 class ScreenTest : public testing::Test
 {
   protected:
     ScreenTest()
     {
-        for (const char* Name : {"A", "B", "C"})
-            TheForms.Register(
-                Name, [this, Name] { return std::make_unique<SmallScreen>(TheForms, Name, Log); });
-    }
-
-    // Loaded and shown, with a log that begins behind it.
-    SmallScreen& Shown(const char* Name)
-    {
-        SmallScreen& Which = Get(Name);
-        Which.Show();
-        Log.clear();
-        return Which;
+        for (const char* Name : {"A", "B", "C", "D"})
+            TheForms.Register(Name, [this, Name] {
+                return std::make_unique<SmallScreen>(TheForms, Name,
+                                                     [this](const std::string& What) {
+                                                         Log += What + ";";
+                                                         if (On.contains(What))
+                                                             On[What]();
+                                                     });
+            });
     }
 
     SmallScreen& Get(const char* Name) { return static_cast<SmallScreen&>(TheForms.Touch(Name)); }
@@ -77,10 +65,14 @@ class ScreenTest : public testing::Test
         return Names;
     }
 
+    // What was logged since the last time.
+    std::string Logged() { return std::exchange(Log, {}); }
+
     std::string Log;
-    int EventsEnded = 0;
+    std::map<std::string, std::function<void()>> On; // what else happens at "activate A"
     Forms TheForms;
     ScriptedDialogs Boxes;
+    int EventsEnded = 0;
     User Person{TheForms, Boxes, [this] { ++EventsEnded; }};
 };
 

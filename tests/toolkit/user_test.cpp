@@ -14,8 +14,13 @@ class UserTest : public ScreenTest
         A.cmd_Action.OnClick = [this] { Log += "click;"; };
         A.cbo_Objet.OnClick = [this] { Log += "pick;"; };
         A.cbo_Objet.AddItem("Arc");
-        A.mnu_Menu.Build({{"b", "Barre", "", {}, {}, {{"quitter", "Quitter", 0, ""}}}});
-        A.mnu_Menu.OnItemClick = [this](const SideMenu::Item& Which) { Log += Which.Key + ";"; };
+        A.mnu_Menu.Build({{"b", "Barre", "", {}, {}, {{Quitter, "Quitter", 0, ""}}}});
+        A.mnu_Menu.OnItemClick = [this](const SideMenu::Item& Which) {
+            A.mnu_Menu.Build({}); // and still reads its entry
+            Log += Which.Key + ";";
+        };
+        A.Show();
+        Logged();
     }
 
     // Everything that a person can do to the controls of A.
@@ -25,20 +30,14 @@ class UserTest : public ScreenTest
         Person.Click(A.cmd_Action);
         Person.Pick(A.cbo_Objet, 0);
         Person.Pick(A.cbo_Objet, "Arc");
-        Person.ClickItem(A.mnu_Menu, "quitter");
+        Person.ClickItem(A.mnu_Menu, Quitter);
     }
 
-    SmallScreen& A = Shown("A");
+    const std::string Quitter = "une_entrée_au_nom_assez_long";
+    SmallScreen& A = Get("A");
 };
 
-TEST_F(UserTest, APersonReachesWhatIsVisible)
-{
-    DoEverything();
-    EXPECT_EQ(Log, "change;click;pick;pick;quitter;");
-    EXPECT_EQ(EventsEnded, 5);
-}
-
-TEST_F(UserTest, APersonCannotReachAHiddenScreenOrAnInvisibleControl)
+TEST_F(UserTest, APersonReachesWhatIsVisibleAndNothingElse)
 {
     for (Control* Each : A.Controls())
         Each->Visible = false;
@@ -49,85 +48,55 @@ TEST_F(UserTest, APersonCannotReachAHiddenScreenOrAnInvisibleControl)
     DoEverything();
     Person.Close(A);
     Person.Activate(A);
-    EXPECT_EQ(Log, "");
-    EXPECT_FALSE(A.IsVisible());
+    EXPECT_EQ(Logged() + Stack(), "");
     EXPECT_EQ(EventsEnded, 12) << "an event ends also when it does nothing";
+    A.Show();
+    DoEverything();
+    EXPECT_EQ(Log, "activate A;change;click;pick;pick;" + Quitter + ";");
 }
 
-TEST_F(UserTest, TypingDoesNothingInALockedBoxAndRunsNothingInAComboBox)
+TEST_F(UserTest, WhatIsLockedOrNotThereCannotBeTypedPickedOrClicked)
 {
     A.txt_Nb.Locked = true;
     Person.Type(A.txt_Nb, "5");
-    EXPECT_EQ(A.txt_Nb.Text(), "");
     Person.Type(A.cbo_Objet, "Arc");
-    EXPECT_EQ(A.cbo_Objet.Text(), "Arc");
-    EXPECT_EQ(A.cbo_Objet.ListIndex, -1);
-    EXPECT_EQ(Log, "");
-}
-
-TEST_F(UserTest, WhatIsNotThereCannotBePickedOrClicked)
-{
+    EXPECT_EQ(A.txt_Nb.Text() + A.cbo_Objet.Text(), "Arc");
+    EXPECT_EQ(A.cbo_Objet.ListIndex, -1) << "typing chooses nothing";
     Person.Pick(A.cbo_Objet, 1);
     Person.Pick(A.cbo_Objet, -1);
     Person.Pick(A.cbo_Objet, "Lance");
-    Person.ClickItem(A.mnu_Menu, "absent");
-    Person.Click(A.cmd_Action);
-    EXPECT_EQ(Log, "click;");
+    Person.ClickItem(A.mnu_Menu, "b"); // a bar is no entry
+    EXPECT_EQ(Log, "");
 }
 
 TEST_F(UserTest, ALowerScreenIsActivatedFirstAndThenActedOn)
 {
-    Shown("B");
+    Get("B").Show();
+    Logged();
     Person.Click(A.cmd_Action);
-    EXPECT_EQ(Log, "activate A;click;");
-    EXPECT_EQ(Stack(), "BA");
     Person.Click(A.cmd_Action);
     Person.Activate(A);
-    EXPECT_EQ(Log, "activate A;click;click;") << "the active screen isn't activated again";
-}
-
-TEST_F(UserTest, ClosingByTheFrameIsTheWayBack)
-{
-    SmallScreen& B = Shown("B");
-    Person.Close(A);
-    EXPECT_EQ(Log, "activate A;activate B;");
-    EXPECT_EQ(Stack(), "B");
-    Person.Close(B);
-    EXPECT_EQ(Stack(), "");
+    EXPECT_EQ(Logged(), "activate A;click;click;") << "the active screen isn't activated again";
+    Person.Close(Get("B")); // by the frame: the way back
+    EXPECT_EQ(Logged() + Stack(), "activate B;activate A;A");
+    On["activate A"] = [this] { A.Hide(); };
+    Get("B").Show();
+    Person.Click(A.cmd_Action);
+    EXPECT_EQ(Logged(), "activate B;activate A;activate B;") << "the activation has hidden it";
 }
 
 TEST_F(UserTest, AFailureGivesOneBoxAfterTheEventHasEndedAndTheProgramGoesOn)
 {
-    A.cmd_Action.OnClick = [this] {
-        A.txt_Nb.Text = "2";
-        throw Failure(FailureKind::NoRow, "Dague");
-    };
+    Get("B").Show();
+    Logged();
+    On["activate A"] = [] { throw Failure(FailureKind::NoRow, "Dague"); };
     Boxes.ExpectMsgBox("Aucune donnée pour «\u00A0Dague\u00A0».");
     Boxes.ExpectMsgBox("Erreur interne du programme\u00A0: «\u00A0boum\u00A0».");
     Boxes.OnBox = [this] { Log += "box after " + std::to_string(EventsEnded) + ";"; };
-    Person.Click(A.cmd_Action);
+    Person.Click(A.cmd_Action); // given up
     Person.Event([] { throw std::runtime_error("boum"); });
-    EXPECT_TRUE(Boxes.IsDone());
-    EXPECT_EQ(A.txt_Nb.Text(), "2") << "the screen as the event left it";
-    Person.Pick(A.cbo_Objet, 0);
-    EXPECT_EQ(Log, "change;box after 1;box after 2;pick;") << "no slot is open while a box waits";
-}
-
-TEST_F(UserTest, AFailureInTheActivationGivesUpTheAction)
-{
-    Shown("B");
-    A.OnActivate = [] { throw Failure(FailureKind::NoRow, "x"); };
-    Boxes.ExpectMsgBox("Aucune donnée pour «\u00A0x\u00A0».");
     Person.Click(A.cmd_Action);
-    EXPECT_EQ(Log, "activate A;");
-}
-
-TEST_F(UserTest, AScreenThatItsActivationHidesIsNotActedOn)
-{
-    Shown("B");
-    A.OnActivate = [this] { A.Hide(); };
-    Person.Click(A.cmd_Action);
-    EXPECT_EQ(Log, "activate A;activate B;");
+    EXPECT_EQ(Log, "activate A;box after 1;box after 2;click;") << "no slot is open at a box";
 }
 
 } // namespace orvane
