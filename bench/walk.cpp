@@ -1,7 +1,7 @@
 #include "walk.h"
 
-#include "shell/feuilles.h"
-#include "shell/frm_accueil.h"
+#include "home/feuilles.h"
+#include "home/frm_accueil.h"
 #include "skins/skin_assets.h"
 #include "store/sql_text.h"
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "app/application.h"
 #include "crafts/magic/frm_artisanats_magiques.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "raw_queries.h"
-#include "shell/application.h"
 
 #include <filesystem>
 #include <string>

@@ -1,5 +1,5 @@
 #include "base/failure.h"
-#include "shell/feuilles.h"
+#include "home/feuilles.h"
 #include "view/desktop.h"
 #include "view/french.h"
 #include "view/look.h"

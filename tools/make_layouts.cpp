@@ -6,9 +6,9 @@
 //       the table back to its editable file
 
 #include "base/number_text.h"
+#include "home/feuilles.h"
 #include "layouts/draw.h"
 #include "layouts/layout_file.h"
-#include "shell/feuilles.h"
 #include "skins/skin_assets.h"
 #include "store/catalogue.h"
 #include "store/sql_text.h"

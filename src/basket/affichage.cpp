@@ -1,8 +1,8 @@
 #include "basket/affichage.h"
 
+#include "app/queries.h"
 #include "base/typography.h"
 #include "basket/frm_panier.h"
-#include "shell/queries.h"
 
 namespace orvane {
 

@@ -1,10 +1,10 @@
 #include "basket/frm_panier.h"
 
+#include "app/queries.h"
 #include "base/failure.h"
 #include "base/notation.h"
 #include "base/text.h"
 #include "basket/affichage.h"
-#include "shell/queries.h"
 
 namespace orvane {
 

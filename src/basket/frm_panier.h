@@ -1,7 +1,7 @@
 #pragma once
 
+#include "app/feuille.h"
 #include "base/montant.h"
-#include "shell/feuille.h"
 
 #include <array>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/feuille.h"
+#include "app/feuille.h"
 
 namespace orvane {
 

@@ -1,8 +1,8 @@
 #include "settings/frm_configuration.h"
 
+#include "app/queries.h"
 #include "base/number_text.h"
 #include "base/typography.h"
-#include "shell/queries.h"
 #include "skins/capture.h"
 #include "skins/skin_assets.h"
 

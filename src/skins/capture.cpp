@@ -1,7 +1,7 @@
 #include "skins/capture.h"
 
+#include "app/queries.h"
 #include "base/number_text.h"
-#include "shell/queries.h"
 
 namespace orvane {
 

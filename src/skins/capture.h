@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/application.h"
+#include "app/application.h"
 
 namespace orvane {
 

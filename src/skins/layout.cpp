@@ -1,9 +1,9 @@
 #include "skins/layout.h"
 
+#include "app/queries.h"
 #include "base/failure.h"
 #include "base/number_text.h"
 #include "base/text.h"
-#include "shell/queries.h"
 #include "skins/skin_assets.h"
 
 #include <unordered_map>

@@ -1,9 +1,9 @@
 #include "skins/skin_assets.h"
 
+#include "app/queries.h"
 #include "base/failure.h"
 #include "base/text.h"
 #include "base/typography.h"
-#include "shell/queries.h"
 #include "store/catalogue.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "player/headless_scene.h"
 
 #include "base/failure.h"
+#include "home/feuilles.h"
 #include "scenario/lines.h"
-#include "shell/feuilles.h"
 
 #include <algorithm>
 

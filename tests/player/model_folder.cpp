@@ -1,7 +1,7 @@
 #include "player/model_folder.h"
 
 #include "databases/databases.h"
-#include "shell/feuilles.h"
+#include "home/feuilles.h"
 #include "skins/skin_assets.h"
 #include "store/catalogue.h"
 #include "store/maker.h"

@@ -1,6 +1,6 @@
 #include "base/text.h"
 #include "databases/databases.h"
-#include "shell/feuilles.h"
+#include "home/feuilles.h"
 #include "support/temp_folder.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "shell/feuille.h"
+#include "app/feuille.h"
 #include "skins/capture.h"
 #include "skins/layout.h"
 #include "store/catalogue.h"

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "app/application.h"
 #include "scenario/appearance.h"
 #include "scenario/program_folder.h"
 #include "scenario/stage.h"
-#include "shell/application.h"
 
 namespace orvane::scenario {
 

@@ -5,7 +5,7 @@
 // the folder's databases: settings and orders stay as they are.
 
 #include "databases/databases.h"
-#include "shell/feuilles.h"
+#include "home/feuilles.h"
 #include "tour/folder_copy.h"
 #include "tour/names.h"
 #include "tour/tour.h"

@@ -1,12 +1,12 @@
 #include "crafts/archery/frm_archerie.h"
 
+#include "app/queries.h"
 #include "base/failure.h"
 #include "basket/affichage.h"
 #include "crafts/common/counts.h"
 #include "crafts/common/joined_column.h"
 #include "crafts/common/object_pictures.h"
 #include "settings/affichage.h"
-#include "shell/queries.h"
 #include "toolkit/calculation.h"
 #include "toolkit/writing.h"
 

@@ -1,8 +1,8 @@
 #include "crafts/common/alchemy_object.h"
 
+#include "app/queries.h"
 #include "base/text.h"
 #include "crafts/common/joined_column.h"
-#include "shell/queries.h"
 
 namespace orvane {
 

@@ -1,6 +1,6 @@
 #include "crafts/common/material_codes.h"
 
-#include "shell/queries.h"
+#include "app/queries.h"
 
 namespace orvane {
 

@@ -1,10 +1,10 @@
+#include "app/queries.h"
 #include "base/number_text.h"
 #include "crafts/common/alchemy_object.h"
 #include "crafts/common/joined_column.h"
 #include "crafts/common/object_pictures.h"
 #include "crafts/legendary/frm_armes_legendaires.h"
 #include "settings/affichage.h"
-#include "shell/queries.h"
 #include "toolkit/calculation.h"
 
 // How the five components are found, and what their own bills say.

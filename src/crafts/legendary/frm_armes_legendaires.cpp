@@ -1,11 +1,11 @@
 #include "crafts/legendary/frm_armes_legendaires.h"
 
+#include "app/queries.h"
 #include "basket/affichage.h"
 #include "crafts/common/counts.h"
 #include "crafts/common/object_pictures.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "settings/frm_configuration.h"
-#include "shell/queries.h"
 #include "toolkit/writing.h"
 
 namespace orvane {

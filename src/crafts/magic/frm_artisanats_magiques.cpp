@@ -1,11 +1,11 @@
 #include "crafts/magic/frm_artisanats_magiques.h"
 
+#include "app/navigation.h"
+#include "app/queries.h"
 #include "basket/affichage.h"
 #include "crafts/common/counts.h"
 #include "crafts/common/craft_menu.h"
 #include "crafts/common/object_pictures.h"
-#include "shell/navigation.h"
-#include "shell/queries.h"
 
 namespace orvane {
 

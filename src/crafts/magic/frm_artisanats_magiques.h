@@ -1,7 +1,7 @@
 #pragma once
 
+#include "app/feuille.h"
 #include "crafts/common/material_line.h"
-#include "shell/feuille.h"
 
 #include <cstdint>
 #include <string>

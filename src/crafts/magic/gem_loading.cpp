@@ -1,8 +1,8 @@
+#include "app/queries.h"
 #include "base/number_text.h"
 #include "crafts/common/joined_column.h"
 #include "crafts/magic/frm_artisanats_magiques.h"
 #include "settings/affichage.h"
-#include "shell/queries.h"
 #include "toolkit/calculation.h"
 
 #include <algorithm>

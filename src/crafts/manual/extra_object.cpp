@@ -1,8 +1,8 @@
+#include "app/queries.h"
 #include "base/text.h"
 #include "crafts/common/alchemy_object.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "settings/affichage.h"
-#include "shell/queries.h"
 #include "toolkit/calculation.h"
 #include "toolkit/visibility.h"
 

@@ -1,10 +1,10 @@
 #include "crafts/manual/frm_artisanats_manuels.h"
 
+#include "app/navigation.h"
 #include "crafts/common/counts.h"
 #include "crafts/common/craft_menu.h"
 #include "crafts/common/object_pictures.h"
 #include "settings/frm_configuration.h"
-#include "shell/navigation.h"
 
 #include <array>
 

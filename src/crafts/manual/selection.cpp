@@ -1,6 +1,6 @@
+#include "app/queries.h"
 #include "base/text.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
-#include "shell/queries.h"
 #include "toolkit/visibility.h"
 #include "toolkit/writing.h"
 

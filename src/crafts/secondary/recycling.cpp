@@ -1,9 +1,9 @@
+#include "app/queries.h"
 #include "base/number_text.h"
 #include "base/text.h"
 #include "crafts/common/material_codes.h"
 #include "crafts/secondary/frm_artisanats_secondaires.h"
 #include "settings/affichage.h"
-#include "shell/queries.h"
 #include "toolkit/calculation.h"
 #include "toolkit/visibility.h"
 

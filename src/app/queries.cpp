@@ -1,4 +1,4 @@
-#include "shell/queries.h"
+#include "app/queries.h"
 
 namespace orvane {
 

@@ -1,4 +1,4 @@
-#include "shell/feuilles.h"
+#include "home/feuilles.h"
 
 #include "basket/frm_panier.h"
 #include "crafts/archery/frm_archerie.h"
@@ -6,10 +6,10 @@
 #include "crafts/magic/frm_artisanats_magiques.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "crafts/secondary/frm_artisanats_secondaires.h"
+#include "home/frm_accueil.h"
 #include "news/frm_news.h"
 #include "news/frm_statut.h"
 #include "settings/frm_configuration.h"
-#include "shell/frm_accueil.h"
 
 namespace orvane {
 

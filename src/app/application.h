@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/shared_state.h"
+#include "app/shared_state.h"
 #include "toolkit/dialogs.h"
 #include "toolkit/forms.h"
 #include "toolkit/picture.h"

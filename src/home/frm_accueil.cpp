@@ -1,10 +1,10 @@
-#include "shell/frm_accueil.h"
+#include "home/frm_accueil.h"
 
+#include "app/navigation.h"
+#include "app/queries.h"
 #include "base/typography.h"
 #include "basket/affichage.h"
 #include "settings/frm_configuration.h"
-#include "shell/navigation.h"
-#include "shell/queries.h"
 #include "skins/layout.h"
 #include "skins/skin_assets.h"
 #include "store/catalogue.h"

@@ -1,4 +1,4 @@
-#include "shell/frm_accueil.h"
+#include "home/frm_accueil.h"
 #include "toolkit/placing.h"
 
 // Where the controls of the home screen stand and what they say until a skin moves them.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/slot.h"
+#include "app/slot.h"
 #include "store/store.h"
 
 #include <string>

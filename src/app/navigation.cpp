@@ -1,4 +1,4 @@
-#include "shell/navigation.h"
+#include "app/navigation.h"
 
 namespace orvane {
 
