@@ -4,7 +4,7 @@
 #include "base/failure.h"
 #include "base/notation.h"
 #include "base/text.h"
-#include "basket/affichage.h"
+#include "basket/orders.h"
 
 namespace orvane {
 

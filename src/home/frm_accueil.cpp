@@ -3,7 +3,7 @@
 #include "app/navigation.h"
 #include "app/queries.h"
 #include "base/typography.h"
-#include "basket/affichage.h"
+#include "basket/orders.h"
 #include "settings/frm_configuration.h"
 #include "skins/layout.h"
 #include "skins/skin_assets.h"

@@ -2,11 +2,11 @@
 
 #include "app/queries.h"
 #include "base/failure.h"
-#include "basket/affichage.h"
-#include "crafts/common/counts.h"
+#include "basket/orders.h"
 #include "crafts/common/joined_column.h"
 #include "crafts/common/object_pictures.h"
-#include "settings/affichage.h"
+#include "crafts/common/recalculating_input.h"
+#include "settings/level_indicator.h"
 #include "toolkit/calculation.h"
 #include "toolkit/writing.h"
 

@@ -4,7 +4,7 @@
 #include "crafts/common/joined_column.h"
 #include "crafts/common/object_pictures.h"
 #include "crafts/legendary/frm_armes_legendaires.h"
-#include "settings/affichage.h"
+#include "settings/level_indicator.h"
 #include "toolkit/calculation.h"
 
 // How the five components are found, and what their own bills say.

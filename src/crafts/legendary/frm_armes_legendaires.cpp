@@ -1,9 +1,9 @@
 #include "crafts/legendary/frm_armes_legendaires.h"
 
 #include "app/queries.h"
-#include "basket/affichage.h"
-#include "crafts/common/counts.h"
+#include "basket/orders.h"
 #include "crafts/common/object_pictures.h"
+#include "crafts/common/recalculating_input.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "settings/frm_configuration.h"
 #include "toolkit/writing.h"

@@ -2,7 +2,7 @@
 #include "crafts/common/alchemy_object.h"
 #include "crafts/common/joined_column.h"
 #include "crafts/magic/frm_artisanats_magiques.h"
-#include "settings/affichage.h"
+#include "settings/level_indicator.h"
 #include "toolkit/calculation.h"
 #include "toolkit/visibility.h"
 

@@ -2,10 +2,10 @@
 
 #include "app/navigation.h"
 #include "app/queries.h"
-#include "basket/affichage.h"
-#include "crafts/common/counts.h"
+#include "basket/orders.h"
 #include "crafts/common/craft_menu.h"
 #include "crafts/common/object_pictures.h"
+#include "crafts/common/recalculating_input.h"
 
 namespace orvane {
 

@@ -1,6 +1,6 @@
 #include "app/queries.h"
 #include "crafts/magic/frm_artisanats_magiques.h"
-#include "settings/affichage.h"
+#include "settings/level_indicator.h"
 #include "toolkit/calculation.h"
 #include "toolkit/visibility.h"
 

@@ -1,4 +1,4 @@
-#include "basket/affichage.h"
+#include "basket/orders.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 
 namespace orvane {

@@ -4,7 +4,7 @@
 #include "base/text.h"
 #include "crafts/common/material_codes.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
-#include "settings/affichage.h"
+#include "settings/level_indicator.h"
 #include "toolkit/calculation.h"
 #include "toolkit/visibility.h"
 #include "toolkit/writing.h"

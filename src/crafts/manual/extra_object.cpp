@@ -2,7 +2,7 @@
 #include "base/text.h"
 #include "crafts/common/alchemy_object.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
-#include "settings/affichage.h"
+#include "settings/level_indicator.h"
 #include "toolkit/calculation.h"
 #include "toolkit/visibility.h"
 

@@ -1,9 +1,9 @@
 #include "crafts/manual/frm_artisanats_manuels.h"
 
 #include "app/navigation.h"
-#include "crafts/common/counts.h"
 #include "crafts/common/craft_menu.h"
 #include "crafts/common/object_pictures.h"
+#include "crafts/common/recalculating_input.h"
 #include "settings/frm_configuration.h"
 
 #include <array>

@@ -1,11 +1,11 @@
 #include "crafts/secondary/frm_artisanats_secondaires.h"
 
 #include "app/navigation.h"
-#include "basket/affichage.h"
-#include "crafts/common/counts.h"
+#include "basket/orders.h"
 #include "crafts/common/craft_menu.h"
 #include "crafts/common/material_codes.h"
 #include "crafts/common/object_pictures.h"
+#include "crafts/common/recalculating_input.h"
 #include "toolkit/visibility.h"
 #include "toolkit/writing.h"
 

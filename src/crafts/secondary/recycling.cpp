@@ -3,7 +3,7 @@
 #include "base/text.h"
 #include "crafts/common/material_codes.h"
 #include "crafts/secondary/frm_artisanats_secondaires.h"
-#include "settings/affichage.h"
+#include "settings/level_indicator.h"
 #include "toolkit/calculation.h"
 #include "toolkit/visibility.h"
 

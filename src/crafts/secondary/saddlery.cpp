@@ -2,7 +2,7 @@
 #include "base/typography.h"
 #include "crafts/common/joined_column.h"
 #include "crafts/secondary/frm_artisanats_secondaires.h"
-#include "settings/affichage.h"
+#include "settings/level_indicator.h"
 #include "toolkit/calculation.h"
 #include "toolkit/visibility.h"
 #include "toolkit/writing.h"

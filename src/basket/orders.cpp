@@ -1,4 +1,4 @@
-#include "basket/affichage.h"
+#include "basket/orders.h"
 
 #include "app/queries.h"
 #include "base/typography.h"

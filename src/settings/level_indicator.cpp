@@ -1,4 +1,4 @@
-#include "settings/affichage.h"
+#include "settings/level_indicator.h"
 
 #include "base/failure.h"
 #include "base/number_text.h"
