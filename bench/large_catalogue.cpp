@@ -1,6 +1,6 @@
 #include "large_catalogue.h"
 
-#include "store/catalogue.h"
+#include "catalogue/catalogue.h"
 #include "store/sql_text.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>

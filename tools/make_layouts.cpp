@@ -6,11 +6,11 @@
 //       the table back to its editable file
 
 #include "base/number_text.h"
+#include "catalogue/catalogue.h"
 #include "home/feuilles.h"
 #include "layouts/draw.h"
 #include "layouts/layout_file.h"
 #include "skins/skin_assets.h"
-#include "store/catalogue.h"
 #include "store/sql_text.h"
 #include "tables/tsv.h"
 
@@ -91,7 +91,7 @@ void DrawAll(const fs::path& Folder, const fs::path& Data, const std::string& Sk
 void Move(const fs::path& Folder, const fs::path& Data, const std::string& Skin,
           const std::string& Table)
 {
-    SQLite::Database Base((Folder / "Skins" / Skin / (Skin + ".mdb")).string(),
+    SQLite::Database Base((Folder / "Skins" / Skin / SkinFile(Skin)).string(),
                           SQLite::OPEN_READWRITE);
     std::string Names;
     for (const std::string& Column : LayoutColumns())

@@ -4,10 +4,10 @@
 #include "app/queries.h"
 #include "base/typography.h"
 #include "basket/orders.h"
+#include "catalogue/catalogue.h"
 #include "settings/frm_configuration.h"
 #include "skins/layout.h"
 #include "skins/skin_assets.h"
-#include "store/catalogue.h"
 
 #include <algorithm>
 
@@ -39,9 +39,9 @@ frm_Accueil::frm_Accueil(Application& App) : Feuille(App, ScreenName, "Orvane - 
 
 void frm_Accueil::Load()
 {
-    Globals.CheminPanier = App.Chemin("/Panier.mdb");
-    Globals.CheminAlchimie = App.Chemin("/Artisanat_Alchimie.mdb");
-    Globals.CheminConfig = App.Chemin("/Config.mdb");
+    Globals.CheminPanier = App.Chemin("/" + PanierFile);
+    Globals.CheminAlchimie = App.Chemin("/" + AlchimieFile);
+    Globals.CheminConfig = App.Chemin("/" + ConfigFile);
     {
         const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminConfig);
         RestaurerRoyaume();
@@ -104,7 +104,7 @@ void frm_Accueil::RestaurerRoyaume()
     }
     Globals.RoyaumeCourant = Choisi->Royaume;
     MontrerÉcu(*Choisi, true);
-    Globals.CheminRoyaume = App.Chemin("/Artisanat_" + Globals.RoyaumeCourant + ".mdb");
+    Globals.CheminRoyaume = App.Chemin("/" + RoyaumeFile(Globals.RoyaumeCourant));
     Globals.Enregistrements.Empty();
 }
 
@@ -151,7 +151,7 @@ void frm_Accueil::ChoisirRoyaume(const std::string& Royaume)
         if (Each.Royaume != Royaume && Each.Royaume == Globals.RoyaumeCourant)
             MontrerÉcu(Each, false);
     Globals.RoyaumeCourant = Royaume;
-    Globals.CheminRoyaume = App.Chemin("/Artisanat_" + Royaume + ".mdb");
+    Globals.CheminRoyaume = App.Chemin("/" + RoyaumeFile(Royaume));
     for (const Écu& Each : Écus())
         if (Each.Royaume == Royaume)
             MontrerÉcu(Each, true);

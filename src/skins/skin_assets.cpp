@@ -4,7 +4,8 @@
 #include "base/failure.h"
 #include "base/text.h"
 #include "base/typography.h"
-#include "store/catalogue.h"
+#include "catalogue/catalogue.h"
+#include "store/link.h"
 
 #include <algorithm>
 #include <set>
@@ -119,7 +120,7 @@ std::vector<std::string> ImagesDeSkin()
 bool SkinExiste(Application& App, const std::string& Skin)
 {
     try {
-        const Database Base = App.Bases.Open(App.Chemin("/Skins/" + Skin + "/" + Skin + ".mdb"));
+        const Database Base = App.Bases.Open(App.Chemin("/Skins/" + Skin + "/" + SkinFile(Skin)));
         return true;
     } catch (const Failure&) {
         return false;
@@ -148,7 +149,7 @@ void ChargerSkin(Application& App, const std::string& Skin, const std::string& R
 {
     Variables& Globals = App.Globals;
     Globals.CheminSkin = App.Chemin("/Skins/" + Skin + "/");
-    Globals.CheminBaseSkin = Globals.CheminSkin + "/" + Skin + ".mdb";
+    Globals.CheminBaseSkin = Globals.CheminSkin + "/" + SkinFile(Skin);
     const Ouverture Base(App, Globals.BaseDonnées2, Globals.CheminBaseSkin);
     std::vector<std::string> Inconnues;
     for (const ImagesFeuille& Each : Images()) {
@@ -181,17 +182,17 @@ void ChoisirDossierImages(Application& App, const std::string& Feuille,
 
 void RelierAlchimie(Application& App, const std::string& Royaume)
 {
-    constexpr std::string_view Début = ";DATABASE=";
-    constexpr std::string_view Fin = "/Artisanat_Alchimie.mdb";
+    const std::string Fin = "/" + AlchimieFile;
     constexpr const char* Table = "Alchimie_ListeObjets";
-    const Database Base = App.Bases.Open(App.Chemin("/Artisanat_" + Royaume + ".mdb"));
+    const Database Base = App.Bases.Open(App.Chemin("/" + RoyaumeFile(Royaume)));
     const std::string Connect = Base.LinkConnect(Table);
     const std::string Dossier =
-        Connect.size() < Début.size() + Fin.size()
+        Connect.size() < ConnectPrefix.size() + Fin.size()
             ? std::string()
-            : Connect.substr(Début.size(), Connect.size() - Début.size() - Fin.size());
+            : Connect.substr(ConnectPrefix.size(),
+                             Connect.size() - ConnectPrefix.size() - Fin.size());
     if (Dossier != App.Chemin(""))
-        Base.SetLinkConnect(Table, std::string(Début) + App.Chemin("") + std::string(Fin));
+        Base.SetLinkConnect(Table, ConnectOf(App.Chemin(Fin)));
     Base.RefreshLink(Table);
 }
 

@@ -1,23 +1,13 @@
 #include "store/schema.h"
 
 #include "base/text.h"
+#include "store/link.h"
 #include "store/sqlite_error.h"
 #include "store/translation.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
 namespace orvane {
-
-namespace {
-
-constexpr std::string_view ConnectPrefix = ";DATABASE=";
-
-} // namespace
-
-std::string ConnectOf(const std::filesystem::path& File)
-{
-    return std::string(ConnectPrefix) + File.string();
-}
 
 bool Schema::Knows(const std::string& Name) const
 {

@@ -57,7 +57,4 @@ class Schema
     std::map<std::filesystem::path, std::string> Attached; // file and its name in SQL
 };
 
-// The folder-independent form in which a link keeps its file: ";DATABASE=" and the full path.
-std::string ConnectOf(const std::filesystem::path& File);
-
 } // namespace orvane

@@ -1,5 +1,5 @@
+#include "catalogue/catalogue.h"
 #include "databases/databases.h"
-#include "store/catalogue.h"
 #include "store/store.h"
 #include "support/temp_folder.h"
 #include "tables/tsv.h"

@@ -1,10 +1,10 @@
 #include "player/model_folder.h"
 
+#include "catalogue/catalogue.h"
+#include "catalogue/maker.h"
 #include "databases/databases.h"
 #include "home/feuilles.h"
 #include "skins/skin_assets.h"
-#include "store/catalogue.h"
-#include "store/maker.h"
 
 #include <fstream>
 

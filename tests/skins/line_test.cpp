@@ -1,8 +1,8 @@
 #include "app/feuille.h"
+#include "catalogue/catalogue.h"
+#include "catalogue/maker.h"
 #include "skins/capture.h"
 #include "skins/layout.h"
-#include "store/catalogue.h"
-#include "store/maker.h"
 #include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 

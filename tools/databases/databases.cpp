@@ -1,9 +1,9 @@
 #include "databases/databases.h"
 
 #include "base/failure.h"
+#include "catalogue/catalogue.h"
+#include "catalogue/maker.h"
 #include "databases/references.h"
-#include "store/catalogue.h"
-#include "store/maker.h"
 #include "store/value.h"
 #include "tables/tsv.h"
 
@@ -96,7 +96,7 @@ void MakeSkin(const fs::path& From, const fs::path& Folder)
 {
     const std::string Name = From.filename().string();
     fs::create_directories(Folder / Name);
-    DatabaseMaker Maker(Folder / Name / (Name + ".mdb"), SkinDefinition());
+    DatabaseMaker Maker(Folder / Name / SkinFile(Name), SkinDefinition());
     References None;
     for (const TableDefinition& Table : SkinDefinition().Tables)
         if (fs::exists(From / (Table.Name + ".tsv")))
@@ -120,16 +120,15 @@ void MakeDatabases(const fs::path& Data, const fs::path& Folder, bool KeepCrafte
 {
     fs::create_directories(Folder);
     const auto Wanted = [&](const fs::path& File) { return !(KeepCrafters && fs::exists(File)); };
-    if (const fs::path File = Folder / "Config.mdb"; Wanted(File))
+    if (const fs::path File = Folder / ConfigFile; Wanted(File))
         Make(File, ConfigDefinition(), {Data / "Config", {}}, {});
-    if (const fs::path File = Folder / "Panier.mdb"; Wanted(File))
+    if (const fs::path File = Folder / PanierFile; Wanted(File))
         Make(File, PanierDefinition(), {Data / "Panier", {}}, {});
-    Make(Folder / "Artisanat_Alchimie.mdb", AlchimieDefinition(), {Data / "Artisanat_Alchimie", {}},
-         {});
+    Make(Folder / AlchimieFile, AlchimieDefinition(), {Data / "Artisanat_Alchimie", {}}, {});
     for (const std::string& Royaume : Royaumes()) {
-        const std::string Name = "Artisanat_" + Royaume;
-        Make(Folder / (Name + ".mdb"), RoyaumeDefinition(),
-             {Data / Name, Data / "Artisanat_commun"}, LinkedNames(Data));
+        const fs::path File = RoyaumeFile(Royaume);
+        Make(Folder / File, RoyaumeDefinition(), {Data / File.stem(), Data / "Artisanat_commun"},
+             LinkedNames(Data));
     }
     if (fs::exists(Data / "skins"))
         for (const auto& Entry : fs::directory_iterator(Data / "skins"))

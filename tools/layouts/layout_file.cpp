@@ -1,6 +1,6 @@
 #include "layouts/layout_file.h"
 
-#include "store/catalogue.h"
+#include "catalogue/catalogue.h"
 #include "tables/tsv.h"
 
 #include <fstream>

@@ -59,8 +59,8 @@ void frm_ArmesLégendaires::Activate()
 {
     EffacerArme();
     RemettreQuantités();
-    CheminArtisanat = App.Chemin("/Artisanat_" + Globals.RoyaumeCourant + ".mdb");
-    CheminTeintures = App.Chemin("/Artisanat_Alchimie.mdb");
+    CheminArtisanat = Globals.CheminRoyaume;
+    CheminTeintures = Globals.CheminAlchimie;
     const std::string& Métier = App.Feuilles.Get<frm_ArtisanatsManuels>().lbl_Artisanat.Caption;
     RemplirChoix(Métier);
     LireRéglages(Métier);

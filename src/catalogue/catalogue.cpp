@@ -1,6 +1,6 @@
-#include "store/catalogue.h"
+#include "catalogue/catalogue.h"
 
-#include "store/catalogue_terms.h"
+#include "catalogue/terms.h"
 
 #include <array>
 
@@ -12,6 +12,16 @@ std::span<const std::string> Royaumes()
 {
     static const std::array<std::string, 3> Names{"Valdren", "Corvane", "Brenmoor"};
     return Names;
+}
+
+std::string RoyaumeFile(const std::string& Royaume)
+{
+    return "Artisanat_" + Royaume + ".mdb";
+}
+
+std::string SkinFile(const std::string& Skin)
+{
+    return Skin + ".mdb";
 }
 
 const DatabaseDefinition& ConfigDefinition()

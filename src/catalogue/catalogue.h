@@ -54,6 +54,13 @@ struct DatabaseDefinition
 // The three realms, in the order that everything keeps.
 std::span<const std::string> Royaumes();
 
+// The names of the files in the program's folder; a skin's file lies in the skin's own.
+inline const std::string ConfigFile = "Config.mdb";
+inline const std::string PanierFile = "Panier.mdb";
+inline const std::string AlchimieFile = "Artisanat_Alchimie.mdb";
+std::string RoyaumeFile(const std::string& Royaume);
+std::string SkinFile(const std::string& Skin);
+
 const DatabaseDefinition& ConfigDefinition();
 const DatabaseDefinition& PanierDefinition();
 const DatabaseDefinition& AlchimieDefinition();

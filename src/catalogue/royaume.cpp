@@ -1,5 +1,5 @@
-#include "store/catalogue.h"
-#include "store/catalogue_terms.h"
+#include "catalogue/catalogue.h"
+#include "catalogue/terms.h"
 
 // What each realm's database holds: one catalogue for each craft.
 namespace orvane {
@@ -285,7 +285,7 @@ const DatabaseDefinition& RoyaumeDefinition()
         Joined(
             {ManualTables(), MagicTables(), ArcheryTables(), LegendaryTables(), SecondaryTables()}),
         Joined({ManualQueries(), MagicQueries(), LegendaryQueries(), HorseAndArcheryQueries()}),
-        {{"Alchimie_ListeObjets", "Artisanat_Alchimie.mdb", "ListeObjets"}}};
+        {{"Alchimie_ListeObjets", AlchimieFile, "ListeObjets"}}};
     return Definition;
 }
 

@@ -1,4 +1,4 @@
-#include "store/maker.h"
+#include "catalogue/maker.h"
 #include "store/small_store.h"
 
 #include <set>

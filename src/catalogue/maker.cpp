@@ -1,6 +1,7 @@
-#include "store/maker.h"
+#include "catalogue/maker.h"
 
 #include "store/binding.h"
+#include "store/link.h"
 #include "store/schema.h"
 #include "store/sql_text.h"
 #include "store/sqlite_error.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/catalogue.h"
+#include "catalogue/catalogue.h"
 
 #include <initializer_list>
 #include <string>
