@@ -11,6 +11,16 @@ namespace orvane {
 using scenario::AwaitedBox;
 using scenario::CannotGoOn;
 
+namespace {
+
+bool AreSlotsEmpty(const Variables& Globals)
+{
+    return Globals.Enregistrements.IsEmpty() && Globals.Enregistrements2.IsEmpty() &&
+           Globals.BaseDonnées.IsEmpty() && Globals.BaseDonnées2.IsEmpty();
+}
+
+} // namespace
+
 Application& HeadlessScene::Running()
 {
     if (!App)
@@ -96,6 +106,8 @@ void HeadlessScene::CheckBoxes()
         throw CannotGoOn(std::exchange(Complaint, {}));
     if (!Awaited.empty())
         throw CannotGoOn("no box came up: " + Awaited.front().Text);
+    if (App && !App->Feuilles.Stack().empty() && !AreSlotsEmpty(App->Globals))
+        throw CannotGoOn("something stays open between two deeds");
 }
 
 void HeadlessScene::MsgBox(const std::string& Text)

@@ -48,6 +48,8 @@ constexpr Row PickRows[] = {
     {"Keys", "<fill 4><Down><Down><End><Down><Up><Home><Up>", "0|1|3|3|2|0|0"},
     {"KeysForTheChosenEntry", "<fill 4><Down><Space><Return><Enter>", "0|0|0|0"},
     {"LettersWithoutRegardToAccents", "<fill 2><add Écharpe>e", "2"},
+    {"ALetterAgainForTheNextEntry", "<fill 3><add Écharpe>o", "0"},
+    {"ALetterFromTheChosenEntry", "<fill 3><add Écharpe><choose 0>o", "0|1"},
     {"TheProgramsChoice", "<fill 3><choose 2>", "2"},
     {"TheProgramsChoiceOfNone", "<fill 3><choose 2><choose -1>", "2|-1"},
     {"RefilledAfterAPick", "<fill 3><row 2><fill 2>", "2"},
