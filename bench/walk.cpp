@@ -103,10 +103,10 @@ void AddDegree(Walk& On)
     auto& Screen = On.Manuels();
     On.Raw.Add("SELECT * FROM Degrés_ListeTypes WHERE DegréType1 = ? COLLATE NOCASE",
                {Screen.cbo_Degré.Text()});
-    for (TextBox& Code : Screen.txt_MatériauxBruts)
-        if (Code.Text != "10" && Code.Text != "8")
+    for (const LigneMatériau& Each : Screen.Matériaux)
+        if (Each.Code->Text != "10" && Each.Code->Text != "8")
             On.Raw.Add("SELECT * FROM Matériaux_Classique WHERE Type = ? AND Degré = 0",
-                       {Code.Text()});
+                       {Each.Code->Text()});
     On.Raw.Add(ObjetParNom, {Screen.cbo_Objet.Text()});
 }
 

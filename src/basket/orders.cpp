@@ -4,7 +4,22 @@
 #include "base/typography.h"
 #include "basket/frm_panier.h"
 
+#include <algorithm>
+
 namespace orvane {
+
+namespace {
+
+// An input that the crafter can correct.
+bool AUneSaisieFausse(const Screen& Feuille)
+{
+    return std::ranges::any_of(Feuille.Controls(), [](const Control* Each) {
+        const auto* Saisie = dynamic_cast<const TextBox*>(Each);
+        return Saisie != nullptr && Saisie->Marked && Saisie->Visible && !Saisie->Locked;
+    });
+}
+
+} // namespace
 
 void RemplirCommandes(Application& App)
 {
@@ -28,8 +43,10 @@ void RemplirCommandes(Application& App)
 void AjouterLigne(Application& App, const LigneCommande& Ligne)
 {
     if (Ligne.PrixCoûtant.Stale || Ligne.PrixVente.Stale) {
-        App.MsgBox(
-            Typeset("Les prix affichés ne sont pas à jour : corrigez d’abord les nombres saisis."));
+        App.MsgBox(Typeset(std::string("Les prix affichés ne sont pas à jour : ") +
+                           (AUneSaisieFausse(Ligne.PrixVente.Owner())
+                                ? "corrigez d’abord les nombres saisis."
+                                : "refaites d’abord le dernier choix.")));
         return;
     }
     Variables& Globals = App.Globals;

@@ -42,19 +42,4 @@ bool Calculate(const std::vector<TextBox*>& Results, Formula Run)
     return Good;
 }
 
-// Runs the part of a pick that reads what prices rest on. When it is given up, the figures that it
-// renews belong to another choice, or to none: they are shown as stale until they are written
-// again, and the failure goes on its way.
-template <class Reading>
-void ReadOrStale(const std::vector<TextBox*>& Renewed, Reading Run)
-{
-    try {
-        Run();
-    } catch (...) {
-        for (TextBox* Each : Renewed)
-            Each->Stale = true;
-        throw;
-    }
-}
-
 } // namespace orvane

@@ -1,5 +1,5 @@
 #include "crafts/archery/frm_archerie.h"
-#include "crafts/common/material_line.h"
+#include "toolkit/placing.h"
 
 // Where the controls of frm_Archerie stand and what they say until a skin moves them.
 namespace orvane {
@@ -25,13 +25,10 @@ void frm_Archerie::Définir()
 
     PlacePanel(shp_Matériaux, {16, 138, 648, 142});
     PlaceHeading(lbl21, "Matériaux", {30, 142, 300, High});
-    for (int i = 1; i <= 3; ++i) {
-        Placer({txt_Matériaux[i], lbl_MatX[i], txt_MatériauxQté[i], lbl_Mat[i], txt_PrixMat[i]}, 30,
-               172 + (i - 1) * 32, {374, 64, 154});
-        for (TextBox* Box : {&txt_Matériaux[i], &txt_MatériauxQté[i], &txt_PrixMat[i]})
+    Matériaux.Placer(30, 172, 32, {374, 64, 154});
+    for (LigneMatériau& Each : Matériaux)
+        for (TextBox* Box : {&Each.Nom, &Each.Qté, &Each.Prix})
             Box->Locked = false; // typed texts count only when a calculation reads them
-        txt_PrixMatUnitaire[i].Visible = false;
-    }
 
     PlacePanel(shp_Vente, {16, 292, 648, 172});
     PlaceField(lbl32, "Nb de carquois :", txt_NbObjet, {30, 306, 154, High}, 80);

@@ -3,14 +3,11 @@
 #include "app/queries.h"
 #include "base/failure.h"
 #include "basket/orders.h"
-#include "crafts/common/joined_column.h"
+#include "crafts/common/lecture.h"
 #include "crafts/common/object_pictures.h"
 #include "crafts/common/recalculating_input.h"
 #include "settings/level_indicator.h"
 #include "toolkit/calculation.h"
-#include "toolkit/writing.h"
-
-#include <array>
 
 namespace orvane {
 
@@ -57,17 +54,13 @@ void frm_Archerie::cbo_Type_Click()
 
 void frm_Archerie::cbo_Objet_Click()
 {
-    ReadOrStale(Together({&txt_PrixCoûtant, &txt_PrixVente}, txt_PrixMat), [&] { LireCarquois(); });
-    const bool Juste = Calculate({&txt_PrixCoûtant, &txt_PrixVente}, [&] {
-        std::array<std::string, 3> Prix;
-        for (int i = 1; i <= 3; ++i)
-            Prix[static_cast<std::size_t>(i - 1)] =
-                T(M(txt_PrixMatUnitaire[i]) * M(txt_MatériauxQté[i]));
-        for (int i = 1; i <= 3; ++i)
-            txt_PrixMat[i].Text = Prix[static_cast<std::size_t>(i - 1)];
-    });
-    if (Juste)
-        CalculerPrixCarquois();
+    LireOuPérimer(
+        {{&Matériaux}, {}},
+        [&] {
+            LireCarquois();
+            Matériaux.Chiffrer(ProduitDeMontants);
+        },
+        [&] { CalculerPrixCarquois(); });
     ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
 }
 
@@ -79,12 +72,7 @@ void frm_Archerie::LireCarquois()
         " AND Archerie.Nom=" + Quoted(cbo_Objet.Text()) + ")";
     const Recordset& Carquois = PremierEnregistrement(Globals);
     lbl_Niveau.Caption = Carquois.Text("NiveauCraft");
-    for (int i = 1; i <= 3; ++i) {
-        txt_Matériaux[i].Text = Carquois.Text(ColonneJointe("Matériaux_Classique", i, "Nom"));
-        txt_MatériauxQté[i].Text = Carquois.Text("Qté" + std::to_string(i));
-        txt_PrixMatUnitaire[i].Text =
-            Carquois.Text(ColonneJointe("Matériaux_Classique", i, "Prix"));
-    }
+    Matériaux.Charger(Carquois, "Matériaux_Classique", false);
     txt_Icône.Text = Carquois.Text("Icône");
     Globals.Enregistrements.Empty();
 }
@@ -93,11 +81,10 @@ void frm_Archerie::LireCarquois()
 // calculate.
 void frm_Archerie::CalculerPrixCarquois()
 {
-    if (txt_PrixCoûtant.Text == "" && txt_PrixMat[1].Text == "")
+    if (txt_PrixCoûtant.Text == "" && Matériaux[1].Prix.Text == "" && !Matériaux.EstPérimée())
         return;
     Calculate({&txt_PrixCoûtant, &txt_PrixVente}, [&] {
-        const Montant Coût =
-            I(txt_NbObjet) * (M(txt_PrixMat[1]) + M(txt_PrixMat[2]) + M(txt_PrixMat[3]));
+        const Montant Coût = I(txt_NbObjet) * Matériaux.Somme();
         const double Vente = D(Coût) * (Marge / 100.0 + 1);
         txt_PrixCoûtant.Text = T(Coût);
         txt_PrixVente.Text = T(Vente);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/feuille.h"
+#include "crafts/common/nomenclature.h"
 
 #include <cstdint>
 
@@ -31,11 +32,15 @@ class frm_Archerie : public Feuille
     Image NAMED(Image1);
     Shape NAMED(shp_Matériaux);
     Label NAMED(lbl21);
-    Family<TextBox, 3> NAMED(txt_Matériaux);
-    Family<Label, 3> NAMED(lbl_MatX);
-    Family<TextBox, 3> NAMED(txt_MatériauxQté);
-    Family<Label, 3> NAMED(lbl_Mat);
-    Family<TextBox, 3> NAMED(txt_PrixMat);
+    Nomenclature Matériaux{*this,
+                           {"txt_Matériaux",
+                            "lbl_MatX",
+                            "txt_MatériauxQté",
+                            "lbl_Mat",
+                            "txt_PrixMat",
+                            "txt_PrixMatUnitaire",
+                            {}},
+                           3};
     Shape NAMED(shp_Vente);
     Label NAMED(lbl32);
     TextBox NAMED(txt_NbObjet);
@@ -47,8 +52,7 @@ class frm_Archerie : public Feuille
     Label NAMED(lbl35);
     Button NAMED(cmd_AjouterPanier);
     Button NAMED(cmd_Retour);
-    Family<TextBox, 3> NAMED(txt_PrixMatUnitaire); // hidden holders
-    TextBox NAMED(txt_Icône);
+    TextBox NAMED(txt_Icône); // hidden
 
   private:
     void Définir();

@@ -2,7 +2,6 @@
 
 #include "app/queries.h"
 #include "base/text.h"
-#include "crafts/common/joined_column.h"
 
 namespace orvane {
 
@@ -21,20 +20,16 @@ void RemplacerDernierCaractère(Variables& Globals, TextBox& Nom)
     Globals.Enregistrements.Empty();
 }
 
-void ChargerObjetSup(Variables& Globals, const std::string& Nom, const BlocObjetSup& Bloc)
+void ChargerObjetSup(Variables& Globals, const std::string& Nom, const ObjetSup& Où)
 {
     Globals.TexteSQL = "SELECT * FROM R_AlchimieObjet WHERE (ListeObjets.Nom=" + Quoted(Nom) + ")";
     const Recordset Objet = PremierEnregistrement(Globals); // its own copy: the writes below nest
-    Bloc.Niveau.Caption = Objet.Text("NiveauCraft");
-    Bloc.Icône.Text = Objet.TextOrEmpty("Icône");
-    for (int i = 1; i <= 4; ++i) {
-        Bloc.Noms[i].Text = Objet.Text(ColonneJointe("Matériaux", i, "Nom"));
-        Bloc.Quantités[i].Text = i == 1 ? "1" : Objet.Text("Qté" + std::to_string(i));
-        Bloc.PrixUnitaires[i].Text = Objet.Text(ColonneJointe("Matériaux", i, "Prix"));
-    }
-    const std::string& Premier = Bloc.Noms[1].Text();
-    if (FirstCharacters(Premier, CharacterCount(BarresDeMétal)) == BarresDeMétal)
-        RemplacerDernierCaractère(Globals, Bloc.Noms[1]);
+    Où.Niveau.Caption = Objet.Text("NiveauCraft");
+    Où.Icône.Text = Objet.TextOrEmpty("Icône");
+    Où.Matériaux.Charger(Objet, "Matériaux", true);
+    TextBox& Premier = Où.Matériaux[1].Nom;
+    if (FirstCharacters(Premier.Text(), CharacterCount(BarresDeMétal)) == BarresDeMétal)
+        RemplacerDernierCaractère(Globals, Premier);
 }
 
 } // namespace orvane

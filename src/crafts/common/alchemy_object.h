@@ -1,9 +1,7 @@
 #pragma once
 
 #include "app/application.h"
-#include "toolkit/controls.h"
-#include "toolkit/family.h"
-#include "toolkit/text_box.h"
+#include "crafts/common/nomenclature.h"
 
 // What several crafts take from the alchemy database.
 namespace orvane {
@@ -13,17 +11,15 @@ namespace orvane {
 void RemplacerDernierCaractère(Variables& Globals, TextBox& Nom);
 
 // Where an object that another one needs shows its level, its icon and its first four materials.
-struct BlocObjetSup
+struct ObjetSup
 {
     Label& Niveau;
     TextBox& Icône;
-    Family<TextBox, 4>& Noms;
-    Family<TextBox, 4>& Quantités;
-    Family<TextBox, 4>& PrixUnitaires;
+    Nomenclature& Matériaux;
 };
 
-// Fills the block from the alchemy object of that name, whatever its product. Needs the alchemy
-// database open; fails when there is no such object.
-void ChargerObjetSup(Variables& Globals, const std::string& Nom, const BlocObjetSup& Bloc);
+// Fills it from the alchemy object of that name, whatever its product. Needs the alchemy database
+// open; fails when there is no such object.
+void ChargerObjetSup(Variables& Globals, const std::string& Nom, const ObjetSup& Où);
 
 } // namespace orvane

@@ -4,21 +4,23 @@
 
 namespace orvane {
 
-void RésoudreMatériau(Variables& Globals, const std::string& Code, std::int16_t NuméroDegré,
-                      bool PatronCouronne, TextBox& Nom, TextBox& Prix)
+void RésoudreMatériau(Variables& Globals, std::int16_t NuméroDegré, bool PatronCouronne,
+                      LigneMatériau& Ligne)
 {
+    const std::string& Code = Ligne.Code->Text();
     if (Code == CodeSansMatériau)
         return;
     if (Code == CodePatron) {
-        Nom.Text = PatronCouronne ? "Patron pour couronne tressée" : "Patron pour chapeau pointu";
-        Prix.Text = "0,0050";
+        Ligne.Nom.Text =
+            PatronCouronne ? "Patron pour couronne tressée" : "Patron pour chapeau pointu";
+        Ligne.PrixUnitaire.Text = "0,0050";
         return;
     }
     Globals.TexteSQL = "SELECT * FROM Matériaux_Classique WHERE (Type=" + Code +
                        " AND Degré=" + std::to_string(NuméroDegré) + ")";
     const Recordset& Matériau = PremierEnregistrement(Globals);
-    Nom.Text = Matériau.Text("Nom");
-    Prix.Text = Matériau.Text("Prix");
+    Ligne.Nom.Text = Matériau.Text("Nom");
+    Ligne.PrixUnitaire.Text = Matériau.Text("Prix");
     Globals.Enregistrements.Empty();
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/application.h"
-#include "toolkit/text_box.h"
+#include "crafts/common/nomenclature.h"
 
 #include <cstdint>
 #include <string_view>
@@ -14,10 +14,10 @@ inline constexpr std::string_view CodeSansMatériau = "10";
 inline constexpr std::string_view CodePatron = "8";
 inline constexpr std::string_view CodePrixLibre = "9"; // priced by the crafter
 
-// Name and unit price of the material that a code means at a degree; a row without material is left
-// as it is. PatronCouronne tells which of the two sewing patterns the object takes. Needs the realm
-// database open; fails when the table has no such material.
-void RésoudreMatériau(Variables& Globals, const std::string& Code, std::int16_t NuméroDegré,
-                      bool PatronCouronne, TextBox& Nom, TextBox& Prix);
+// Name and unit price of the material that a line's code means at a degree; a line without material
+// is left as it is. PatronCouronne tells which of the two sewing patterns the object takes. Needs
+// the realm database open; fails when the table has no such material.
+void RésoudreMatériau(Variables& Globals, std::int16_t NuméroDegré, bool PatronCouronne,
+                      LigneMatériau& Ligne);
 
 } // namespace orvane

@@ -1,11 +1,10 @@
 #include "app/queries.h"
 #include "base/number_text.h"
 #include "crafts/common/alchemy_object.h"
-#include "crafts/common/joined_column.h"
+#include "crafts/common/lecture.h"
 #include "crafts/common/object_pictures.h"
 #include "crafts/legendary/frm_armes_legendaires.h"
 #include "settings/level_indicator.h"
-#include "toolkit/calculation.h"
 
 // How the five components are found, and what their own bills say.
 namespace orvane {
@@ -26,18 +25,21 @@ std::string NiveauComposant(const Recordset& Composant)
 void frm_ArmesLégendaires::cbo_Arme_Click()
 {
     RemettreQuantités();
-    ReadOrStale(PrixDuChoix({&txt_PrixCoûtantArme, &txt_PrixCoûtantGemme, &txt_PrixUnitaireMatériau,
-                             &txt_PrixRevente}),
-                [&] {
-                    LireArme();
-                    ChargerArmeEtGemme();
-                });
-    ReadOrStale(PrixDuChoix(), [&] {
-        ChargerImages();
-        ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
-    });
-    CalculerComposants();
-    CalculerTotaux();
+    LireOuPérimer(
+        {{&Arme.Matériaux, &Gemme.Matériaux},
+         {&txt_QtéGemme, &txt_QtéTeinture, &txt_QtéMatériau, &txt_PrixUnitaireMatériau,
+          &txt_PrixRevente}},
+        [&] {
+            LireArme();
+            ChargerArmeEtGemme();
+            ChargerImages();
+            ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
+        },
+        [&] {
+            CalculerComposant(Arme);
+            CalculerComposant(Gemme);
+            CalculerComposants();
+        });
 }
 
 // The quantities stand before the unit price of the material, which multiplies one of them.
@@ -47,13 +49,13 @@ void frm_ArmesLégendaires::LireArme()
     Globals.TexteSQL =
         "SELECT * FROM R_ArmesLégendairesObjets WHERE ArmesLégendaires_ListeObjets.Nom=" +
         Quoted(cbo_Arme.Text());
-    const Recordset& Arme = PremierEnregistrement(Globals);
+    const Recordset& Lue = PremierEnregistrement(Globals);
     struct Copie
     {
         const char* Colonne;
         TextBox& Où;
     };
-    lbl_Niveau.Caption = Arme.Text("NiveauCraft");
+    lbl_Niveau.Caption = Lue.Text("NiveauCraft");
     for (const Copie& Each :
          {Copie{"NiveauObjet", txt_Niveau}, Copie{"Dps", txt_Dps}, Copie{"Vit", txt_Vit},
           Copie{"Classique_ListeObjets.Nom", txt_Arme}, Copie{"NomGemme", txt_Gemme},
@@ -62,20 +64,24 @@ void frm_ArmesLégendaires::LireArme()
           Copie{"PrixRevente", txt_PrixRevente}, Copie{"Prix", txt_PrixUnitaireMatériau},
           Copie{"Classique_ListeObjets.Num", txt_ObjetNum},
           Copie{"Arcanes_ListeObjets.Num", txt_GemmeNum}})
-        Each.Où.Text = Arme.Text(Each.Colonne);
+        Each.Où.Text = Lue.Text(Each.Colonne);
     Globals.Enregistrements.Empty();
 }
 
 void frm_ArmesLégendaires::cbo_Type_Click()
 {
     RemettreQuantités();
-    ReadOrStale(PrixDuChoix({&txt_PrixCoûtantTeinture}), [&] {
-        LireType();
-        ChargerTeinture();
-    });
-    ReadOrStale(PrixDuChoix(), [&] { ChargerImages(); });
-    CalculerComposants();
-    CalculerTotaux();
+    LireOuPérimer(
+        {{&Teinture.Matériaux}, {}},
+        [&] {
+            LireType();
+            ChargerTeinture();
+            ChargerImages();
+        },
+        [&] {
+            CalculerComposant(Teinture);
+            CalculerComposants();
+        });
 }
 
 void frm_ArmesLégendaires::LireType()
@@ -99,20 +105,19 @@ void frm_ArmesLégendaires::ChargerArmeEtGemme()
         Globals.TexteSQL = "SELECT * FROM R_ClassiqueObjets WHERE Num=" + txt_ObjetNum.Text();
         const Recordset Objet = PremierEnregistrement(Globals);
         for (int i = 1; i <= 3; ++i) {
-            txt_MatArme[i].Text = Objet.Text(ColonneJointe("Matériaux_ClassiqueType", i, "Nom"));
-            txt_QtéArmeN[i].Text = Objet.Text("Qté" + std::to_string(i));
+            Arme.Matériaux[i].Nom.Text =
+                Objet.Text(ColonneJointe("Matériaux_ClassiqueType", i, "Nom"));
+            Arme.Matériaux[i].Qté.Text = Objet.Text("Qté" + std::to_string(i));
         }
-        lbl_NiveauArme.Caption = NiveauComposant(Objet);
-        txt_IcôneArme.Text = Objet.TextOrEmpty("Icône");
-        MontrerIcôneRoyaume(App, txt_IcôneArme, img_IcôneArme); // an activation took it away
+        Arme.Niveau.Caption = NiveauComposant(Objet);
+        Arme.FichierIcône.Text = Objet.TextOrEmpty("Icône");
+        MontrerIcôneRoyaume(App, Arme.FichierIcône, Arme.Icône); // an activation took it away
         ChargerGemme();
-        for (int i = 1; i <= 3; ++i)
-            ChercherMatériauArme(txt_MatArme[i], txt_PrixMatUnitaireArme[i]);
+        for (LigneMatériau& Each : Arme.Matériaux)
+            ChercherMatériauArme(Each);
     }
-    CalculerBloc(BlocArme());
-    CalculerBloc(BlocGemme());
-    ChangerCouleurCraft(App, lbl_NiveauArme.Caption, NiveauCraft, img_NiveauArme);
-    ChangerCouleurCraft(App, lbl_NiveauGemme.Caption, NiveauArcanes, img_NiveauGemme);
+    ChangerCouleurCraft(App, Arme.Niveau.Caption, NiveauCraft, Arme.Indicateur);
+    ChangerCouleurCraft(App, Gemme.Niveau.Caption, NiveauArcanes, Gemme.Indicateur);
 }
 
 // The gem's first material belongs to the last degree, the others to the gem. Needs the realm
@@ -120,35 +125,36 @@ void frm_ArmesLégendaires::ChargerArmeEtGemme()
 void frm_ArmesLégendaires::ChargerGemme()
 {
     Globals.TexteSQL = "SELECT * FROM R_ArcanesObjets WHERE Num=" + txt_GemmeNum.Text();
-    const Recordset Gemme = PremierEnregistrement(Globals);
+    const Recordset Lue = PremierEnregistrement(Globals);
     for (int i : {1, 2}) {
-        txt_MatGemme[i + 1].Text = Gemme.Text(ColonneJointe("Matériaux_Arcanes", i, "Nom"));
-        txt_PrixMatUnitaireGemme[i + 1].Text =
-            Gemme.Text(ColonneJointe("Matériaux_Arcanes", i, "Prix"));
+        LigneMatériau& Ligne = Gemme.Matériaux[i + 1];
+        Ligne.Nom.Text = Lue.Text(ColonneJointe("Matériaux_Arcanes", i, "Nom"));
+        Ligne.PrixUnitaire.Text = Lue.Text(ColonneJointe("Matériaux_Arcanes", i, "Prix"));
     }
-    txt_QtéGemmeN[2].Text = std::to_string(Entier16(Gemme.Whole("CoefQté2") * DernierDegré + 1));
-    txt_QtéGemmeN[3].Text = "10";
-    lbl_NiveauGemme.Caption = NiveauComposant(Gemme);
-    txt_IcôneGemme.Text = Gemme.TextOrEmpty("Icône");
-    MontrerIcôneCommune(App, txt_IcôneGemme, img_IcôneGemme);
+    Gemme.Matériaux[2].Qté.Text =
+        std::to_string(Entier16(Lue.Whole("CoefQté2") * DernierDegré + 1));
+    Gemme.Matériaux[3].Qté.Text = "10";
+    Gemme.Niveau.Caption = NiveauComposant(Lue);
+    Gemme.FichierIcône.Text = Lue.TextOrEmpty("Icône");
+    MontrerIcôneCommune(App, Gemme.FichierIcône, Gemme.Icône);
 
     Globals.TexteSQL =
         "SELECT * FROM Matériaux_Arcanes WHERE Degré=" + std::to_string(DernierDegré);
     const Recordset Base = PremierEnregistrement(Globals);
-    txt_MatGemme[1].Text = Base.Text("Nom");
-    txt_QtéGemmeN[1].Text = "1";
-    txt_PrixMatUnitaireGemme[1].Text = Base.Text("Prix");
+    Gemme.Matériaux[1].Nom.Text = Base.Text("Nom");
+    Gemme.Matériaux[1].Qté.Text = "1";
+    Gemme.Matériaux[1].PrixUnitaire.Text = Base.Text("Prix");
 }
 
 // Puts the material's own name in the place of its type's, and gives its price.
-void frm_ArmesLégendaires::ChercherMatériauArme(TextBox& txt_Nom, TextBox& txt_Prix)
+void frm_ArmesLégendaires::ChercherMatériauArme(LigneMatériau& Ligne)
 {
     Globals.TexteSQL = "SELECT * FROM R_ArmesLégendairesMatériaux "
                        "WHERE Matériaux_ClassiqueType.Nom=" +
-                       Quoted(txt_Nom.Text());
+                       Quoted(Ligne.Nom.Text());
     const Recordset Matériau = PremierEnregistrement(Globals);
-    txt_Nom.Text = Matériau.Text("Matériaux_Classique.Nom");
-    txt_Prix.Text = Matériau.Text("Prix");
+    Ligne.Nom.Text = Matériau.Text("Matériaux_Classique.Nom");
+    Ligne.PrixUnitaire.Text = Matériau.Text("Prix");
     Globals.Enregistrements.Empty();
 }
 
@@ -157,23 +163,18 @@ void frm_ArmesLégendaires::ChargerTeinture()
     {
         const Ouverture Base(App, Globals.BaseDonnées, CheminTeintures);
         Globals.TexteSQL = "SELECT * FROM R_AlchimieObjet WHERE Num=" + txt_TeintureNum.Text();
-        const Recordset Teinture = PremierEnregistrement(Globals);
-        for (int i = 1; i <= 3; ++i) {
-            txt_MatTeinture[i].Text = Teinture.Text(ColonneJointe("Matériaux", i, "Nom"));
-            txt_QtéTeintureN[i].Text = i == 1 ? "1" : Teinture.Text("Qté" + std::to_string(i));
-            txt_PrixMatUnitaireTeinture[i].Text =
-                Teinture.Text(ColonneJointe("Matériaux", i, "Prix"));
-        }
-        lbl_NiveauTeinture.Caption = Teinture.Text("NiveauCraft"); // a dye has no degrees
-        txt_IcôneTeinture.Text = Teinture.TextOrEmpty("Icône");
-        MontrerIcôneOuPasImage(App, txt_IcôneTeinture, img_IcôneTeinture);
-        RemplacerDernierCaractère(Globals, txt_MatTeinture[1]);
+        const Recordset Lue = PremierEnregistrement(Globals);
+        Teinture.Matériaux.Charger(Lue, "Matériaux", true);
+        Teinture.Niveau.Caption = Lue.Text("NiveauCraft"); // a dye has no degrees
+        Teinture.FichierIcône.Text = Lue.TextOrEmpty("Icône");
+        MontrerIcôneOuPasImage(App, Teinture.FichierIcône, Teinture.Icône);
+        RemplacerDernierCaractère(Globals, Teinture.Matériaux[1].Nom);
     }
-    CalculerBloc(BlocTeinture());
-    ChangerCouleurCraft(App, lbl_NiveauTeinture.Caption, NiveauAlchimie, img_NiveauTeinture);
+    ChangerCouleurCraft(App, Teinture.Niveau.Caption, NiveauAlchimie, Teinture.Indicateur);
 }
 
-// A weapon looks different in each type: nothing to see before both are chosen.
+// A weapon looks different in each type: nothing to see before both are chosen, nor when the two
+// have no picture together.
 void frm_ArmesLégendaires::ChargerImages()
 {
     if (cbo_Type.Text() == "" || cbo_Arme.Text() == "")
@@ -182,9 +183,9 @@ void frm_ArmesLégendaires::ChargerImages()
     Globals.TexteSQL =
         "SELECT * FROM R_ArmesLégendairesImages WHERE (ArmesLégendaires_ListeObjets.Nom=" +
         Quoted(cbo_Arme.Text()) + " AND ArmesLégendaires_Type.Nom=" + Quoted(cbo_Type.Text()) + ")";
-    const Recordset& Images = PremierEnregistrement(Globals);
-    txt_Image.Text = Images.TextOrEmpty("Image");
-    txt_Icône.Text = Images.TextOrEmpty("Icône");
+    const Recordset& Images = OuvrirEnregistrements(Globals);
+    txt_Image.Text = Images.Eof() ? "" : Images.TextOrEmpty("Image");
+    txt_Icône.Text = Images.Eof() ? "" : Images.TextOrEmpty("Icône");
     Globals.Enregistrements.Empty();
 }
 

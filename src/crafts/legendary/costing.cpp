@@ -1,8 +1,6 @@
 #include "crafts/legendary/frm_armes_legendaires.h"
 #include "toolkit/calculation.h"
 
-#include <array>
-
 // From the bills of the components to the final bill, and with counts and margins to the sale
 // price. Quantities are whole numbers.
 namespace orvane {
@@ -27,28 +25,24 @@ void frm_ArmesLégendaires::RemettreQuantités()
     txt_PrixVente.Text = "0";
 }
 
-void frm_ArmesLégendaires::CalculerBloc(const Bloc& Composant)
+void frm_ArmesLégendaires::CalculerComposant(Composant& Lequel)
 {
-    for (int i = 1; i <= 3; ++i)
-        Multiplier(Composant.PrixUnitaires[i], Composant.Quantités[i], Composant.Prix[i]);
-    Calculate({&Composant.PrixCoûtant}, [&] {
-        Montant Somme;
-        for (TextBox& Prix : Composant.Prix)
-            Somme = Somme + M(Prix);
-        Composant.PrixCoûtant.Text = T(Somme);
-    });
+    Lequel.Matériaux.Chiffrer(EntierFoisMontant);
+    Calculate({&Lequel.PrixCoûtant},
+              [&] { Lequel.PrixCoûtant.Text = T(Lequel.Matériaux.Somme()); });
 }
 
 // A price that was typed over the gem's or the dye's is lost with each choice; that of the special
 // object stands, for it is multiplied by its own quantity, which is 1.
 void frm_ArmesLégendaires::CalculerComposants()
 {
-    Multiplier(txt_PrixCoûtantArme, txt_QtéArme, txt_PrixArme);
-    Multiplier(txt_PrixCoûtantGemme, txt_QtéGemme, txt_PrixGemme);
-    Multiplier(txt_PrixCoûtantTeinture, txt_QtéTeinture, txt_PrixTeinture);
+    Multiplier(Arme.PrixCoûtant, txt_QtéArme, txt_PrixArme);
+    Multiplier(Gemme.PrixCoûtant, txt_QtéGemme, txt_PrixGemme);
+    Multiplier(Teinture.PrixCoûtant, txt_QtéTeinture, txt_PrixTeinture);
     CalculerPrixMatériau();
     Multiplier(txt_PrixSpécial, txt_QtéSpécial, txt_PrixSpécial);
     CalculerPrixCoûtant();
+    CalculerTotaux();
 }
 
 void frm_ArmesLégendaires::CalculerPrixMatériau()
@@ -82,13 +76,6 @@ void frm_ArmesLégendaires::CalculerTotaux()
         txt_PrixCoûtantTotal.Text = T(Total);
         txt_PrixVente.Text = T(Vente);
     });
-}
-
-std::vector<TextBox*> frm_ArmesLégendaires::PrixDuChoix(std::vector<TextBox*> Siens)
-{
-    Siens.insert(Siens.end(), {&txt_PrixArme, &txt_PrixGemme, &txt_PrixTeinture, &txt_PrixMatériau,
-                               &txt_PrixCoûtant, &txt_PrixCoûtantTotal, &txt_PrixVente});
-    return Siens;
 }
 
 } // namespace orvane

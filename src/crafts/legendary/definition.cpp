@@ -19,66 +19,6 @@ constexpr int Margin = 14;
 
 } // namespace
 
-frm_ArmesLégendaires::Bloc frm_ArmesLégendaires::BlocArme()
-{
-    return {shp_Arme,
-            lbl_TitreArme,
-            img_IcôneArme,
-            lbl_TitreNiveauArme,
-            lbl_NiveauArme,
-            img_NiveauArme,
-            txt_MatArme,
-            lbl_ArmeX,
-            txt_QtéArmeN,
-            lbl_Arme,
-            txt_PrixMatUnitaireArme,
-            txt_PrixArmeN,
-            lbl_PrixCoûtantArme,
-            txt_PrixCoûtantArme};
-}
-
-frm_ArmesLégendaires::Bloc frm_ArmesLégendaires::BlocGemme()
-{
-    return {shp_Gemme,
-            lbl_TitreGemme,
-            img_IcôneGemme,
-            lbl_TitreNiveauGemme,
-            lbl_NiveauGemme,
-            img_NiveauGemme,
-            txt_MatGemme,
-            lbl_GemmeX,
-            txt_QtéGemmeN,
-            lbl_Gemme,
-            txt_PrixMatUnitaireGemme,
-            txt_PrixGemmeN,
-            lbl_PrixCoûtantGemme,
-            txt_PrixCoûtantGemme};
-}
-
-frm_ArmesLégendaires::Bloc frm_ArmesLégendaires::BlocTeinture()
-{
-    return {shp_Teinture,
-            lbl_TitreTeinture,
-            img_IcôneTeinture,
-            lbl_TitreNiveauTeinture,
-            lbl_NiveauTeinture,
-            img_NiveauTeinture,
-            txt_MatTeinture,
-            lbl_TeintureX,
-            txt_QtéTeintureN,
-            lbl_Teinture,
-            txt_PrixMatUnitaireTeinture,
-            txt_PrixTeintureN,
-            lbl_PrixCoûtantTeinture,
-            txt_PrixCoûtantTeinture};
-}
-
-LigneMatériau frm_ArmesLégendaires::Ligne(const Bloc& Composant, int i)
-{
-    return {Composant.Noms[i], Composant.Fois[i], Composant.Quantités[i], Composant.Égale[i],
-            Composant.Prix[i]};
-}
-
 void frm_ArmesLégendaires::Définir()
 {
     SizeScreen(*this, 1008, 700);
@@ -90,9 +30,9 @@ void frm_ArmesLégendaires::Définir()
                  "Détails des composants nécessaires à la confection de l'arme légendaire",
                  {LeftX + Margin, 388, 800, High});
     constexpr int Step = BlockWide + 9;
-    DéfinirBloc(BlocArme(), "Objet", LeftX);
-    DéfinirBloc(BlocGemme(), "Gemme", LeftX + Step);
-    DéfinirBloc(BlocTeinture(), "Teinture", LeftX + 2 * Step);
+    DéfinirComposant(Arme, "Objet", LeftX);
+    DéfinirComposant(Gemme, "Gemme", LeftX + Step);
+    DéfinirComposant(Teinture, "Teinture", LeftX + 2 * Step);
     DéfinirCachés();
     constexpr int ButtonsY = 640;
     PlaceButton(cmd_AjouterPanier, "Ajouter au panier", "Ajouter l’arme à la commande en cours",
@@ -158,8 +98,8 @@ void frm_ArmesLégendaires::DéfinirComposants()
         ++i;
         const int Y = BillY + 34 + (i - 1) * 33;
         PlaceLabel(lbl_Composant[i], Each.Words, {X, Y, 76, High});
-        Placer({Each.Nom, lbl_ComposantX[i], Each.Qté, lbl_ComposantÉgale[i], Each.Prix}, X + 78, Y,
-               {214, 38, 98});
+        PlacerLigne(Each.Nom, lbl_ComposantX[i], Each.Qté, lbl_ComposantÉgale[i], Each.Prix, X + 78,
+                    Y, {214, 38, 98});
         Each.Qté.StartWith(Each.Nombre);
         Each.Prix.StartWith("0");
     }
@@ -188,34 +128,30 @@ void frm_ArmesLégendaires::DéfinirVente()
     txt_NbEssais.OpenFor(NumberKind::Entier16);
 }
 
-void frm_ArmesLégendaires::DéfinirBloc(const Bloc& Composant, const char* Titre, int X)
+void frm_ArmesLégendaires::DéfinirComposant(Composant& Lequel, const char* Titre, int X)
 {
-    PlacePanel(Composant.Cadre, {X, BlocksY, BlockWide, 202});
+    PlacePanel(Lequel.Cadre, {X, BlocksY, BlockWide, 202});
     X += Margin;
-    Place(Composant.Icône, {X, BlocksY + 8, 32, 32});
-    PlaceHeading(Composant.Titre, Titre, {X + 42, BlocksY + 12, 90, High});
-    PlaceLabel(Composant.TitreNiveau, "Niveau :", {X + 134, BlocksY + 12, 62, High});
-    PlaceHeading(Composant.Niveau, "", {X + 198, BlocksY + 12, 60, High});
-    Place(Composant.Indicateur, {X + 266, BlocksY + 12, 24, 24});
-    for (int i = 1; i <= 3; ++i) {
-        Placer(Ligne(Composant, i), X, BlocksY + 54 + (i - 1) * 34, {158, 34, 74});
-        for (auto* Boxes : {&Composant.Quantités, &Composant.PrixUnitaires, &Composant.Prix})
-            (*Boxes)[i].StartWith("0");
-        Composant.PrixUnitaires[i].Visible = false;
-    }
-    PlaceField(Composant.TitrePrixCoûtant, "Px coût. :", Composant.PrixCoûtant,
+    Place(Lequel.Icône, {X, BlocksY + 8, 32, 32});
+    PlaceHeading(Lequel.Titre, Titre, {X + 42, BlocksY + 12, 90, High});
+    PlaceLabel(Lequel.TitreNiveau, "Niveau :", {X + 134, BlocksY + 12, 62, High});
+    PlaceHeading(Lequel.Niveau, "", {X + 198, BlocksY + 12, 60, High});
+    Place(Lequel.Indicateur, {X + 266, BlocksY + 12, 24, 24});
+    Lequel.Matériaux.Placer(X, BlocksY + 54, 34, {158, 34, 74});
+    Lequel.Matériaux.CommencerParZéro();
+    PlaceField(Lequel.TitrePrixCoûtant, "Px coût. :", Lequel.PrixCoûtant,
                {X + 120, BlocksY + 164, 74, High}, 100);
-    Composant.PrixCoûtant.StartWith("0");
+    Lequel.PrixCoûtant.StartWith("0");
+    Lequel.FichierIcône.Visible = false;
 }
 
 void frm_ArmesLégendaires::DéfinirCachés()
 {
-    for (TextBox* Holder :
-         {&txt_PrixUnitaireMatériau, &txt_ObjetNum, &txt_GemmeNum, &txt_TeintureNum, &txt_Image,
-          &txt_Icône, &txt_IcôneArme, &txt_IcôneGemme, &txt_IcôneTeinture})
+    for (TextBox* Holder : {&txt_PrixUnitaireMatériau, &txt_ObjetNum, &txt_GemmeNum,
+                            &txt_TeintureNum, &txt_Image, &txt_Icône})
         Holder->Visible = false;
     txt_PrixUnitaireMatériau.StartWith("0");
-    for (TextBox* Holder : {&txt_Image, &txt_IcôneTeinture})
+    for (TextBox* Holder : {&txt_Image, &Teinture.FichierIcône})
         Holder->StartWith("Vide"); // so that the first empty text shows the placeholder
 }
 

@@ -23,17 +23,17 @@ void frm_ArmesLégendaires::Relier()
     cbo_Type.OnClick = [this] { cbo_Type_Click(); };
     txt_Image.OnChange = [this] { MontrerImageObjet(this->App, txt_Image, img_Objet); };
     txt_Icône.OnChange = [this] { MontrerIcôneRoyaume(this->App, txt_Icône, img_Icône); };
-    txt_IcôneArme.OnChange = [this] {
-        MontrerIcôneRoyaume(this->App, txt_IcôneArme, img_IcôneArme);
+    Arme.FichierIcône.OnChange = [this] {
+        MontrerIcôneRoyaume(this->App, Arme.FichierIcône, Arme.Icône);
     };
-    txt_IcôneGemme.OnChange = [this] {
-        MontrerIcôneCommune(this->App, txt_IcôneGemme, img_IcôneGemme);
+    Gemme.FichierIcône.OnChange = [this] {
+        MontrerIcôneCommune(this->App, Gemme.FichierIcône, Gemme.Icône);
     };
-    txt_IcôneTeinture.OnChange = [this] {
-        MontrerIcôneOuPasImage(this->App, txt_IcôneTeinture, img_IcôneTeinture);
+    Teinture.FichierIcône.OnChange = [this] {
+        MontrerIcôneOuPasImage(this->App, Teinture.FichierIcône, Teinture.Icône);
     };
-    txt_MatArme[3].OnChange = [this] {
-        Montrer(Ligne(BlocArme(), 3), txt_MatArme[3].Text != SansNom);
+    Arme.Matériaux[3].Nom.OnChange = [this] {
+        Arme.Matériaux[3].Montrer(!Arme.Matériaux[3].EstSansMatériau());
     };
     txt_PrixUnitaireMatériau.OnChange = [this] { CalculerPrixMatériau(); };
     for (TextBox* Libre : {&txt_PrixGemme, &txt_PrixTeinture, &txt_PrixSpécial})
@@ -110,16 +110,13 @@ void frm_ArmesLégendaires::EffacerArme()
               &txt_PrixCoûtant, &txt_PrixRevente, &txt_PrixVente},
              "0");
     WriteAll({&txt_Dégâts, &txt_Niveau, &txt_Dps, &txt_Vit}, "");
-    for (Image* Each : {&img_Icône, &img_Niveau, &img_IcôneArme, &img_NiveauArme, &img_IcôneGemme,
-                        &img_NiveauGemme, &img_IcôneTeinture, &img_NiveauTeinture})
+    for (Image* Each : {&img_Icône, &img_Niveau, &Arme.Icône, &Arme.Indicateur, &Gemme.Icône,
+                        &Gemme.Indicateur, &Teinture.Icône, &Teinture.Indicateur})
         Each->Picture = {};
-    for (Label* Each : {&lbl_Niveau, &lbl_NiveauArme, &lbl_NiveauGemme, &lbl_NiveauTeinture})
+    for (Label* Each : {&lbl_Niveau, &Arme.Niveau, &Gemme.Niveau, &Teinture.Niveau})
         Each->Caption = "";
-    for (const Bloc& Each : {BlocArme(), BlocGemme(), BlocTeinture()})
-        WriteAll(Each.Noms, "");
-    for (const Bloc& Each : {BlocArme(), BlocGemme(), BlocTeinture()})
-        for (auto* Boxes : {&Each.Quantités, &Each.PrixUnitaires, &Each.Prix})
-            WriteAll(*Boxes, "0");
+    for (Composant* Each : {&Arme, &Gemme, &Teinture})
+        Each->Matériaux.Vider();
     txt_Image.Text = "";
     txt_Icône.Text = "";
 }

@@ -1,13 +1,51 @@
 #pragma once
 
 #include "app/feuille.h"
-#include "crafts/common/material_line.h"
+#include "crafts/common/nomenclature.h"
 
 #include <cstdint>
 #include <string>
 #include <vector>
 
 namespace orvane {
+
+// One of the three things that a legendary weapon is made of, with a bill of its own. Its name
+// stands in the names of its controls: shp_Gemme, txt_MatGemme1...
+struct Composant
+{
+    Composant(Screen& Owner, const std::string& Nom)
+        : Cadre(Owner, "shp_" + Nom),
+          Icône(Owner, "img_Icône" + Nom),
+          Titre(Owner, "lbl_Titre" + Nom),
+          TitreNiveau(Owner, "lbl_TitreNiveau" + Nom),
+          Niveau(Owner, "lbl_Niveau" + Nom),
+          Indicateur(Owner, "img_Niveau" + Nom),
+          Matériaux(Owner,
+                    {"txt_Mat" + Nom,
+                     "lbl_" + Nom + "X",
+                     "txt_Qté" + Nom,
+                     "lbl_" + Nom,
+                     "txt_Prix" + Nom,
+                     "txt_PrixMatUnitaire" + Nom,
+                     {}},
+                    3),
+          TitrePrixCoûtant(Owner, "lbl_PrixCoûtant" + Nom),
+          PrixCoûtant(Owner, "txt_PrixCoûtant" + Nom),
+          FichierIcône(Owner, "txt_Icône" + Nom)
+    {
+    }
+
+    Shape Cadre;
+    Image Icône;
+    Label Titre;
+    Label TitreNiveau;
+    Label Niveau;
+    Image Indicateur;
+    Nomenclature Matériaux;
+    Label TitrePrixCoûtant;
+    TextBox PrixCoûtant;
+    TextBox FichierIcône; // hidden
+};
 
 // A legendary weapon is assembled from the products of other crafts: a weapon, a gem, a dye, a
 // material and a special object. The weapon fixes three of them, the type the two others; either
@@ -93,61 +131,17 @@ class frm_ArmesLégendaires : public Feuille
 
     // The three blocks
     Label NAMED(lbl_Détails);
-    Shape NAMED(shp_Arme);
-    Image NAMED(img_IcôneArme);
-    Label NAMED(lbl_TitreArme);
-    Label NAMED(lbl_TitreNiveauArme);
-    Label NAMED(lbl_NiveauArme);
-    Image NAMED(img_NiveauArme);
-    Family<TextBox, 3> NAMED(txt_MatArme);
-    Family<Label, 3> NAMED(lbl_ArmeX);
-    Family<TextBox, 3> txt_QtéArmeN{*this, "txt_QtéArme"};
-    Family<Label, 3> NAMED(lbl_Arme);
-    Family<TextBox, 3> txt_PrixArmeN{*this, "txt_PrixArme"};
-    Label NAMED(lbl_PrixCoûtantArme);
-    TextBox NAMED(txt_PrixCoûtantArme);
-
-    Shape NAMED(shp_Gemme);
-    Image NAMED(img_IcôneGemme);
-    Label NAMED(lbl_TitreGemme);
-    Label NAMED(lbl_TitreNiveauGemme);
-    Label NAMED(lbl_NiveauGemme);
-    Image NAMED(img_NiveauGemme);
-    Family<TextBox, 3> NAMED(txt_MatGemme);
-    Family<Label, 3> NAMED(lbl_GemmeX);
-    Family<TextBox, 3> txt_QtéGemmeN{*this, "txt_QtéGemme"};
-    Family<Label, 3> NAMED(lbl_Gemme);
-    Family<TextBox, 3> txt_PrixGemmeN{*this, "txt_PrixGemme"};
-    Label NAMED(lbl_PrixCoûtantGemme);
-    TextBox NAMED(txt_PrixCoûtantGemme);
-
-    Shape NAMED(shp_Teinture);
-    Image NAMED(img_IcôneTeinture);
-    Label NAMED(lbl_TitreTeinture);
-    Label NAMED(lbl_TitreNiveauTeinture);
-    Label NAMED(lbl_NiveauTeinture);
-    Image NAMED(img_NiveauTeinture);
-    Family<TextBox, 3> NAMED(txt_MatTeinture);
-    Family<Label, 3> NAMED(lbl_TeintureX);
-    Family<TextBox, 3> txt_QtéTeintureN{*this, "txt_QtéTeinture"};
-    Family<Label, 3> NAMED(lbl_Teinture);
-    Family<TextBox, 3> txt_PrixTeintureN{*this, "txt_PrixTeinture"};
-    Label NAMED(lbl_PrixCoûtantTeinture);
-    TextBox NAMED(txt_PrixCoûtantTeinture);
+    Composant Arme{*this, "Arme"};
+    Composant Gemme{*this, "Gemme"};
+    Composant Teinture{*this, "Teinture"};
 
     // Hidden holders
-    Family<TextBox, 3> NAMED(txt_PrixMatUnitaireArme);
-    Family<TextBox, 3> NAMED(txt_PrixMatUnitaireGemme);
-    Family<TextBox, 3> NAMED(txt_PrixMatUnitaireTeinture);
     TextBox NAMED(txt_PrixUnitaireMatériau);
     TextBox NAMED(txt_ObjetNum); // keys of the rows of the three components
     TextBox NAMED(txt_GemmeNum);
     TextBox NAMED(txt_TeintureNum);
     TextBox NAMED(txt_Image); // files of the pictures
     TextBox NAMED(txt_Icône);
-    TextBox NAMED(txt_IcôneArme);
-    TextBox NAMED(txt_IcôneGemme);
-    TextBox NAMED(txt_IcôneTeinture);
 
     Button NAMED(cmd_AjouterPanier);
     Button NAMED(cmd_Panier);
@@ -155,36 +149,13 @@ class frm_ArmesLégendaires : public Feuille
     Button NAMED(cmd_Retour);
 
   private:
-    // A component with a bill of its own.
-    struct Bloc
-    {
-        Shape& Cadre;
-        Label& Titre;
-        Image& Icône;
-        Label& TitreNiveau;
-        Label& Niveau;
-        Image& Indicateur;
-        Family<TextBox, 3>& Noms;
-        Family<Label, 3>& Fois;
-        Family<TextBox, 3>& Quantités;
-        Family<Label, 3>& Égale;
-        Family<TextBox, 3>& PrixUnitaires;
-        Family<TextBox, 3>& Prix;
-        Label& TitrePrixCoûtant;
-        TextBox& PrixCoûtant;
-    };
-    Bloc BlocArme();
-    Bloc BlocGemme();
-    Bloc BlocTeinture();
-    static LigneMatériau Ligne(const Bloc& Composant, int i);
-
     // Definition
     void Définir();
     void DéfinirChoix();
     void DéfinirInfos();
     void DéfinirComposants();
     void DéfinirVente();
-    static void DéfinirBloc(const Bloc& Composant, const char* Titre, int X);
+    static void DéfinirComposant(Composant& Lequel, const char* Titre, int X);
     void DéfinirCachés();
     void Relier(); // handlers to their controls
 
@@ -200,20 +171,17 @@ class frm_ArmesLégendaires : public Feuille
     void LireType();
     void ChargerArmeEtGemme();
     void ChargerGemme();
-    void ChercherMatériauArme(TextBox& txt_Nom, TextBox& txt_Prix);
+    void ChercherMatériauArme(LigneMatériau& Ligne);
     void ChargerTeinture();
     void ChargerImages();
 
     // Costing
     void RemettreQuantités();
-    static void CalculerBloc(const Bloc& Composant);
+    static void CalculerComposant(Composant& Lequel);
     void CalculerComposants();
     void CalculerPrixMatériau();
     void CalculerPrixCoûtant();
     void CalculerTotaux();
-
-    // The prices that every pick renews, and those that only this one does.
-    std::vector<TextBox*> PrixDuChoix(std::vector<TextBox*> Siens = {});
 
     void cmd_AjouterPanier_Click();
 

@@ -1,6 +1,5 @@
 #include "app/queries.h"
 #include "crafts/common/alchemy_object.h"
-#include "crafts/common/joined_column.h"
 #include "crafts/magic/frm_artisanats_magiques.h"
 #include "settings/level_indicator.h"
 #include "toolkit/calculation.h"
@@ -102,17 +101,18 @@ void frm_ArtisanatsMagiques::cbo_Type_Click()
 void frm_ArtisanatsMagiques::cbo_Objet_Click()
 {
     EffacerMatériaux();
-    ReadOrStale(PrixDuChoix(), [&] {
-        LireObjet();
-        ChangerCouleurCraft(App, lbl_NiveauAlchimie.Caption, NiveauAlchimie, img_NiveauAlchimie);
-        if (txt_AlchimieObjetSup.Text != "")
-            ChangerCouleurCraft(App, lbl_AlchimieObjetSupNiveauCraft.Caption, NiveauAlchimie,
-                                img_AlchimieObjetSupNiveau);
-    });
-    CalculerPrixAlchimie();
+    LireChoix(
+        [&] {
+            LireObjet();
+            ChangerCouleurCraft(App, lbl_NiveauAlchimie.Caption, NiveauAlchimie,
+                                img_NiveauAlchimie);
+            if (txt_AlchimieObjetSup.Text != "")
+                ChangerCouleurCraft(App, lbl_AlchimieObjetSupNiveauCraft.Caption, NiveauAlchimie,
+                                    img_AlchimieObjetSupNiveau);
+        },
+        &frm_ArtisanatsMagiques::CalculerPrixAlchimie);
 }
 
-// Within a line the quantity comes before the unit price, whose handler works out the line price.
 void frm_ArtisanatsMagiques::LireObjet()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
@@ -123,10 +123,7 @@ void frm_ArtisanatsMagiques::LireObjet()
     const Recordset Objet = PremierEnregistrement(Globals); // its own copy: the writes below nest
     lbl_NiveauAlchimie.Caption = Objet.Text("NiveauCraft");
     txt_IcôneAlchimie.Text = Objet.TextOrEmpty("Icône");
-    for (int i = 1; i <= 6; ++i)
-        ChargerLigne(i, Objet.Text(ColonneJointe("Matériaux", i, "Nom")),
-                     i == 1 ? "1" : Objet.Text("Qté" + std::to_string(i)),
-                     Objet.Text(ColonneJointe("Matériaux", i, "Prix")));
+    Ingrédients.Charger(Objet, "Matériaux", true);
     LireCaractéristiques(Objet);
     txt_AlchimieObjetSup.Text = Objet.TextOrEmpty("NomObjet");
     txt_NbAlchimieObjetSup.Text = Objet.Text("NbObjet");
@@ -134,11 +131,10 @@ void frm_ArtisanatsMagiques::LireObjet()
     Globals.Enregistrements.Empty();
 
     if (cbo_Produit.Text() == EffetsÀDéclenchement)
-        RemplacerDernierCaractère(Globals, txt_Ingdt[1]);
+        RemplacerDernierCaractère(Globals, Ingrédients[1].Nom);
     if (txt_AlchimieObjetSup.Text != "")
         ChargerObjetSup(Globals, txt_AlchimieObjetSup.Text,
-                        {lbl_AlchimieObjetSupNiveauCraft, txt_AlchimieIconeObjetSup, txt_MatSup,
-                         txt_MatSupQté, txt_PrixMatSuptUnitaire});
+                        {lbl_AlchimieObjetSupNiveauCraft, txt_AlchimieIconeObjetSup, MatériauxSup});
 }
 
 // Boxes that the last flip has shown or hidden follow their texts again, also when those are the
@@ -147,10 +143,10 @@ void frm_ArtisanatsMagiques::LireCaractéristiques(const Recordset& Objet)
 {
     txt_NiveauObjet.Text = Objet.Text("Niveau");
     txt_EffetObjet.Text = Objet.Text("Effets.Nom");
-    txt_DuréeObjet.Text = Objet.Text("Durée");
-    txt_ValeurObjet.Text = Objet.Text("Valeur");
-    txt_RésistObjet.Text = Objet.Text("Résistance");
-    txt_ChargesObjet.Text = Objet.Text("Charges");
+    txt_DuréeObjet.Text = Objet.TextOrEmpty("Durée");
+    txt_ValeurObjet.Text = Objet.TextOrEmpty("Valeur");
+    txt_RésistObjet.Text = Objet.TextOrEmpty("Résistance");
+    txt_ChargesObjet.Text = Objet.TextOrEmpty("Charges");
     MontrerCaractéristique(txt_DuréeObjet, lbl_DuréeObjet);
     MontrerCaractéristique(txt_ValeurObjet, lbl_valeurObjet);
     MontrerCaractéristique(txt_RésistObjet, lbl_RésistObjet);

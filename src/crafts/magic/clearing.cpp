@@ -134,17 +134,11 @@ void frm_ArtisanatsMagiques::EffacerSélectionGemmes(std::int16_t Palier)
 // on what is still there, and what that leaves stands.
 void frm_ArtisanatsMagiques::EffacerMatériaux()
 {
-    WriteAll(txt_Ingdt, "");
-    WriteAll(txt_IngdtQté, "0");
-    WriteAll(txt_PrixIngdtUnitaire, "0");
-    WriteAll(txt_PrixIngdt, "0");
+    Ingrédients.Vider();
     txt_AlchimieObjetSup.Text = "";
     WriteAll({&txt_PrixReventeAlchimie, &txt_PrixCoûtantAlchimie, &txt_PrixVenteAlchimie}, "0");
     txt_NbObjetAlchimie.Text = "1";
-    WriteAll(txt_MatSup, "");
-    WriteAll(txt_MatSupQté, "0");
-    WriteAll(txt_PrixMatSuptUnitaire, "0");
-    WriteAll(txt_PrixMatSup, "0");
+    MatériauxSup.Vider();
     txt_AlchimieObjetSUpPrixCoûtant.Text = "0";
     txt_NbAlchimieObjetSup.Text = "1";
     WriteAll({&txt_ArcanesPrixRevente, &txt_ArcanesPrixCoûtant, &txt_ArcanesPrixVente,

@@ -1,7 +1,7 @@
 #include "base/number_text.h"
+#include "crafts/common/lecture.h"
 #include "crafts/magic/frm_artisanats_magiques.h"
 #include "toolkit/calculation.h"
-#include "toolkit/writing.h"
 
 // From line prices, counts and margins to the prices of both crafts.
 namespace orvane {
@@ -27,33 +27,34 @@ void frm_ArtisanatsMagiques::CalculerPrix()
         CalculerPrixArcanes();
 }
 
+void frm_ArtisanatsMagiques::LireChoix(const std::function<void()>& Lire,
+                                       void (frm_ArtisanatsMagiques::*Calculer)())
+{
+    LireOuPérimer(
+        {{&Ingrédients, &MatériauxSup}, {&txt_NbAlchimieObjetSup, &txt_ArcanesPrixRevente}}, Lire,
+        [&] {
+            (this->*Calculer)();
+            if (Ingrédients.EstPérimée() || MatériauxSup.EstPérimée()) {
+                CalculerPrixAlchimie();
+                CalculerPrixArcanes();
+            }
+        });
+}
+
 Montant frm_ArtisanatsMagiques::CoûtObjetSup()
 {
-    Montant Somme;
-    for (TextBox& Prix : txt_PrixMatSup)
-        Somme = Somme + PrixLigne(Prix);
-    return I(txt_NbAlchimieObjetSup) * Somme;
-}
-
-Montant frm_ArtisanatsMagiques::CoûtMatériaux()
-{
-    Montant Somme;
-    for (TextBox& Prix : txt_PrixIngdt)
-        Somme = Somme + PrixLigne(Prix);
-    return Somme;
-}
-
-std::vector<TextBox*> frm_ArtisanatsMagiques::RésultatsAlchimie()
-{
-    return {&txt_AlchimieObjetSUpPrixCoûtant, &txt_PrixCoûtantAlchimie, &txt_PrixVenteAlchimie};
+    return I(txt_NbAlchimieObjetSup) * MatériauxSup.Somme(PrixVide::Zéro);
 }
 
 // The count is in the cost, and so in the sale price. The sale price isn't rounded to money.
 void frm_ArtisanatsMagiques::CalculerPrixAlchimie()
 {
-    Calculate(RésultatsAlchimie(), [&] {
+    const std::vector<TextBox*> Résultats{&txt_AlchimieObjetSUpPrixCoûtant,
+                                          &txt_PrixCoûtantAlchimie, &txt_PrixVenteAlchimie};
+    Calculate(Résultats, [&] {
         const Montant ObjetSup = CoûtObjetSup();
-        const Montant Coût = I(txt_NbObjetAlchimie) * (CoûtMatériaux() + ObjetSup);
+        const Montant Matériaux = Ingrédients.Somme(PrixVide::Zéro);
+        const Montant Coût = I(txt_NbObjetAlchimie) * (Matériaux + ObjetSup);
         const double Vente = D(Coût) * (MargeAlchimie / 100.0 + 1);
 
         txt_AlchimieObjetSUpPrixCoûtant.Text = T(ObjetSup);
@@ -62,35 +63,24 @@ void frm_ArtisanatsMagiques::CalculerPrixAlchimie()
     });
 }
 
-std::vector<TextBox*> frm_ArtisanatsMagiques::RésultatsArcanes()
-{
-    return {&txt_AlchimieObjetSUpPrixCoûtant,
-            &txt_ArcanesPrixCoûtant,
-            &txt_ArcanesPrixVente,
-            &txt_ArcanesPrixCoûtantQualité,
-            &txt_ArcanesPrixVenteQualité,
-            &txt_ArcanesPrixCoûtantQuantité,
-            &txt_ArcanesPrixVenteQuantité,
-            &txt_ArcanesPrixCoûtantTotal,
-            &txt_ArcanesPrixVenteTotal};
-}
-
-std::vector<TextBox*> frm_ArtisanatsMagiques::PrixDuChoix()
-{
-    std::vector<TextBox*> Prix = Together(RésultatsAlchimie(), txt_PrixIngdt, txt_PrixMatSup);
-    for (TextBox* Each : RésultatsArcanes())
-        Prix.push_back(Each);
-    return Prix;
-}
-
 // Trials are charged once for the order, and their margin is on the loss alone. The texts between
 // the steps count: the sale price goes whole into the quantity and as money into the rest.
 void frm_ArtisanatsMagiques::CalculerPrixArcanes()
 {
-    Calculate(RésultatsArcanes(), [&] {
+    const std::vector<TextBox*> Résultats{&txt_AlchimieObjetSUpPrixCoûtant,
+                                          &txt_ArcanesPrixCoûtant,
+                                          &txt_ArcanesPrixVente,
+                                          &txt_ArcanesPrixCoûtantQualité,
+                                          &txt_ArcanesPrixVenteQualité,
+                                          &txt_ArcanesPrixCoûtantQuantité,
+                                          &txt_ArcanesPrixVenteQuantité,
+                                          &txt_ArcanesPrixCoûtantTotal,
+                                          &txt_ArcanesPrixVenteTotal};
+    Calculate(Résultats, [&] {
         const Montant ObjetSup = CoûtObjetSup();
         // the count of the alchemy side, "1" since the last pick unless it was typed over there
-        const Montant Coût = I(txt_NbObjetAlchimie) * (ObjetSup + CoûtMatériaux());
+        const Montant Coût =
+            I(txt_NbObjetAlchimie) * (ObjetSup + Ingrédients.Somme(PrixVide::Zéro));
         const std::string Vente = T(D(Coût) * (MargeArcanes / 100.0 + 1));
         const Montant VenteArrondie = EnMontant(Montant::FromText(Vente));
         const Montant Perte = Coût - M(txt_ArcanesPrixRevente);

@@ -25,16 +25,6 @@ void PlaceStacked(Label& Name, const char* Words, TextBox& Value, int X, int Y, 
 
 } // namespace
 
-LigneMatériau frm_ArtisanatsMagiques::Ligne(int i)
-{
-    return {txt_Ingdt[i], lbl_IngdtX[i], txt_IngdtQté[i], lbl_Ingdt[i], txt_PrixIngdt[i]};
-}
-
-LigneMatériau frm_ArtisanatsMagiques::LigneSup(int i)
-{
-    return {txt_MatSup[i], lbl_MatSupX[i], txt_MatSupQté[i], lbl_MatSup[i], txt_PrixMatSup[i]};
-}
-
 void frm_ArtisanatsMagiques::Définir()
 {
     cadre::Placer(*this, {Bar_Menus, img_Bannière, shp_Artisanat, pct_Artisanat, lbl_Artisanat});
@@ -50,10 +40,6 @@ void frm_ArtisanatsMagiques::Définir()
     for (TextBox* Holder : {&txt_IcôneAlchimie, &txt_IcôneArcanes, &txt_AlchimieIconeObjetSup,
                             &txt_Degré, &txt_ArcanesCoefQté2})
         Holder->Visible = false;
-    for (TextBox& Holder : txt_PrixIngdtUnitaire)
-        Holder.Visible = false;
-    for (TextBox& Holder : txt_PrixMatSuptUnitaire)
-        Holder.Visible = false;
     PlacerBoutons(cmd_AjouterPanier, cmd_Retour);
 }
 
@@ -131,10 +117,9 @@ void frm_ArtisanatsMagiques::DéfinirMatériaux()
 {
     PlacePanel(shp_AlchimieMatériaux, {MiddleX, MaterialsY, MiddleWide, 210});
     PlaceHeading(lbl_AlchimieMatériaux, "Matériaux", {MiddleX + Margin, MaterialsY + 4, 300, High});
-    for (int i = 1; i <= 6; ++i) {
-        Placer(Ligne(i), MiddleX + Margin, MaterialsY + 30 + (i - 1) * 29, {268, 42, 114});
-        txt_PrixIngdt[i].Accepts = NumberKind::Montant;
-    }
+    Ingrédients.Placer(MiddleX + Margin, MaterialsY + 30, 29, {268, 42, 114});
+    for (LigneMatériau& Each : Ingrédients)
+        Each.Prix.Accepts = NumberKind::Montant;
     constexpr int X = RightX + Margin;
     PlacePanel(shp_AlchimieArtisanat, {RightX, MaterialsY, RightWide, 66});
     PlaceHeading(lbl_ArtisanatObjet, "Artisanat", {X, MaterialsY + 4, 150, High});
@@ -158,14 +143,13 @@ void frm_ArtisanatsMagiques::DéfinirObjetSup()
     PlaceLabel(lbl_AlchimieObjetSupNiveau, "Niveau :", {X + 98, Y + 62, 58, High});
     PlaceLabel(lbl_AlchimieObjetSupNiveauCraft, "", {X + 158, Y + 62, 50, High}, Alignment::Right);
     Place(img_AlchimieObjetSupNiveau, {X + 218, Y + 62, 24, 24});
-    for (int i = 1; i <= 4; ++i)
-        Placer(LigneSup(i), X, Y + 92 + (i - 1) * 28, {145, 32, 65});
+    MatériauxSup.Placer(X, Y + 92, 28, {145, 32, 65});
     PlaceField(lbl_AlchimieObjetSUpPrixCoûtant, "Prix coûtant :", txt_AlchimieObjetSUpPrixCoûtant,
                {X + 70, Y + 208, 100, High}, 100);
     txt_NbAlchimieObjetSup.StartWith("1");
     txt_AlchimieObjetSUpPrixCoûtant.StartWith("0");
     txt_AlchimieObjetSup.Locked = false;
-    txt_PrixMatSup[2].Accepts = NumberKind::Montant;
+    MatériauxSup[2].Prix.Accepts = NumberKind::Montant;
     txt_AlchimieObjetSup_Change(); // the whole panel is hidden until an object asks for another one
 }
 

@@ -54,23 +54,23 @@ void frm_ArtisanatsMagiques::Relier()
 
 void frm_ArtisanatsMagiques::RelierLignes()
 {
-    for (int i = 1; i <= 6; ++i) {
-        txt_Ingdt[i].OnChange = [this, i] { Montrer(Ligne(i), txt_Ingdt[i].Text != SansNom); };
-        txt_PrixIngdtUnitaire[i].OnChange = [this, i] { txt_PrixIngdtUnitaire_Change(i); };
-        // a line that is closed is written by a pick, which adds up at its end
-        RecalculerAuChangement(txt_PrixIngdt[i], {""}, "0", [this, i] {
-            if (!txt_PrixIngdt[i].Locked)
+    // a line that is closed is written by a pick, which adds up at its end
+    const auto RecalculerSiOuverte = [this](TextBox& Prix) {
+        RecalculerAuChangement(Prix, {""}, "0", [this, &Prix] {
+            if (!Prix.Locked)
                 CalculerPrix();
         });
+    };
+    for (LigneMatériau& Each : Ingrédients) {
+        Each.Nom.OnChange = [&Each] { Each.Montrer(!Each.EstSansMatériau()); };
+        Each.PrixUnitaire.OnChange = [this, &Each] { txt_PrixIngdtUnitaire_Change(Each); };
+        RecalculerSiOuverte(Each.Prix);
     }
-    for (int i = 1; i <= 4; ++i)
-        txt_PrixMatSuptUnitaire[i].OnChange = [this, i] { txt_PrixMatSuptUnitaire_Change(i); };
+    for (LigneMatériau& Each : MatériauxSup)
+        Each.PrixUnitaire.OnChange = [this, &Each] { txt_PrixMatSuptUnitaire_Change(Each); };
     for (int i : {3, 4})
-        txt_MatSup[i].OnChange = [this, i] { txt_MatSup_Change(i); };
-    RecalculerAuChangement(txt_PrixMatSup[2], {""}, "0", [this] {
-        if (!txt_PrixMatSup[2].Locked)
-            CalculerPrix();
-    });
+        MatériauxSup[i].Nom.OnChange = [this, i] { txt_MatSup_Change(MatériauxSup[i]); };
+    RecalculerSiOuverte(MatériauxSup[2].Prix);
     txt_AlchimieObjetSup.OnChange = [this] { txt_AlchimieObjetSup_Change(); };
 }
 

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "app/feuille.h"
-#include "crafts/common/material_line.h"
+#include "crafts/common/nomenclature.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -75,11 +76,15 @@ class frm_ArtisanatsMagiques : public Feuille
     // Shared: materials, level
     Shape NAMED(shp_AlchimieMatériaux);
     Label NAMED(lbl_AlchimieMatériaux);
-    Family<TextBox, 6> NAMED(txt_Ingdt);
-    Family<Label, 6> NAMED(lbl_IngdtX);
-    Family<TextBox, 6> NAMED(txt_IngdtQté);
-    Family<Label, 6> NAMED(lbl_Ingdt);
-    Family<TextBox, 6> NAMED(txt_PrixIngdt);
+    Nomenclature Ingrédients{*this,
+                             {"txt_Ingdt",
+                              "lbl_IngdtX",
+                              "txt_IngdtQté",
+                              "lbl_Ingdt",
+                              "txt_PrixIngdt",
+                              "txt_PrixIngdtUnitaire",
+                              {}},
+                             6};
     Shape NAMED(shp_AlchimieArtisanat);
     Label NAMED(lbl_ArtisanatObjet);
     Label NAMED(lbl_NiveauCraftAlchimie);
@@ -99,11 +104,15 @@ class frm_ArtisanatsMagiques : public Feuille
     Label NAMED(lbl_AlchimieObjetSupNiveau);
     Label NAMED(lbl_AlchimieObjetSupNiveauCraft);
     Image NAMED(img_AlchimieObjetSupNiveau);
-    Family<TextBox, 4> NAMED(txt_MatSup);
-    Family<Label, 4> NAMED(lbl_MatSupX);
-    Family<TextBox, 4> NAMED(txt_MatSupQté);
-    Family<Label, 4> NAMED(lbl_MatSup);
-    Family<TextBox, 4> NAMED(txt_PrixMatSup);
+    Nomenclature MatériauxSup{*this,
+                              {"txt_MatSup",
+                               "lbl_MatSupX",
+                               "txt_MatSupQté",
+                               "lbl_MatSup",
+                               "txt_PrixMatSup",
+                               "txt_PrixMatSuptUnitaire",
+                               {}},
+                              4};
     Label NAMED(lbl_AlchimieObjetSUpPrixCoûtant);
     TextBox NAMED(txt_AlchimieObjetSUpPrixCoûtant);
 
@@ -154,8 +163,6 @@ class frm_ArtisanatsMagiques : public Feuille
     TextBox NAMED(txt_AlchimieIconeObjetSup);
     TextBox NAMED(txt_Degré);           // number of the bonus type's degree column
     TextBox NAMED(txt_ArcanesCoefQté2); // by how much a gem's second line grows with the degree
-    Family<TextBox, 6> NAMED(txt_PrixIngdtUnitaire);
-    Family<TextBox, 4> NAMED(txt_PrixMatSuptUnitaire);
 
     Button NAMED(cmd_AjouterPanier);
     Button NAMED(cmd_Retour);
@@ -170,8 +177,6 @@ class frm_ArtisanatsMagiques : public Feuille
     void DéfinirObjetSup();
     void DéfinirPrixAlchimie();
     void DéfinirPrixArcanes();
-    LigneMatériau Ligne(int i);
-    LigneMatériau LigneSup(int i);
     void Relier(); // handlers to their controls
     void RelierLignes();
 
@@ -219,16 +224,15 @@ class frm_ArtisanatsMagiques : public Feuille
     bool PremierDegréSeul() const;
     bool ASixLignes() const;
     void ChargerGemme();
-    void ChargerLigne(int i, const std::string& Nom, const std::string& Qté,
-                      const std::string& Prix);
     void ChargerLignesSup(const Recordset& Gemme, std::int16_t NuméroDegré);
     void ChargerBase(std::int16_t NuméroDegré);
     void ChargerGemmeSup();
 
     // Lines of both crafts
-    void txt_PrixIngdtUnitaire_Change(int i);
-    void txt_PrixMatSuptUnitaire_Change(int i);
-    void txt_MatSup_Change(int i);
+    void txt_PrixIngdtUnitaire_Change(LigneMatériau& Ligne);
+    void txt_PrixMatSuptUnitaire_Change(LigneMatériau& Ligne);
+    void PoserVerrou(LigneMatériau& Ligne, const TextBox& Rempli);
+    void txt_MatSup_Change(LigneMatériau& Ligne);
     void txt_AlchimieObjetSup_Change();
     void MontrerCaractéristique(TextBox& Valeur, Label& Titre);
 
@@ -237,10 +241,10 @@ class frm_ArtisanatsMagiques : public Feuille
     void CalculerPrixAlchimie();
     void CalculerPrixArcanes();
     Montant CoûtObjetSup();
-    Montant CoûtMatériaux();
-    std::vector<TextBox*> RésultatsAlchimie();
-    std::vector<TextBox*> RésultatsArcanes();
-    std::vector<TextBox*> PrixDuChoix(); // lines and results: what a pick renews
+
+    // A pick of either craft: the reading, then the sum. One that is given up leaves both crafts
+    // without good prices, as they share the bills.
+    void LireChoix(const std::function<void()>& Lire, void (frm_ArtisanatsMagiques::*Calculer)());
 
     void cmd_AjouterPanier_Click();
 

@@ -1,6 +1,5 @@
 #include "app/queries.h"
 #include "base/number_text.h"
-#include "crafts/common/joined_column.h"
 #include "crafts/magic/frm_artisanats_magiques.h"
 #include "settings/level_indicator.h"
 #include "toolkit/calculation.h"
@@ -54,15 +53,15 @@ void frm_ArtisanatsMagiques::ChargerGemme()
         "SELECT * FROM R_ArcanesObjets WHERE (Arcanes_Bonus.Nom=" + Quoted(cbo_TypeBonus.Text()) +
         " AND Bonus=" + Quoted(cbo_SousTypeBonus.Text()) + ")";
     const Recordset Gemme = PremierEnregistrement(Globals); // its own copy: the writes below nest
-    txt_Ingdt[2].Text = Gemme.Text(Matériau(1, "Nom"));
+    Ingrédients[2].Nom.Text = Gemme.Text(Matériau(1, "Nom"));
     txt_ArcanesCoefQté2.Text = Gemme.Text("CoefQté2");
-    txt_Ingdt[3].Text = Gemme.Text(Matériau(2, "Nom"));
+    Ingrédients[3].Nom.Text = Gemme.Text(Matériau(2, "Nom"));
     lbl_NiveauAlchimie.Caption = T(Gemme.Number("NiveauCraft") + Entier16(100 * NuméroDegré));
-    txt_IngdtQté[1].Text = "1";
-    txt_IngdtQté[2].Text = std::to_string(Entier16(1 + I(txt_ArcanesCoefQté2) * NuméroDegré));
-    txt_IngdtQté[3].Text = std::to_string(Entier16(1 + NuméroDegré));
-    txt_PrixIngdtUnitaire[2].Text = Gemme.Text(Matériau(1, "Prix"));
-    txt_PrixIngdtUnitaire[3].Text = Gemme.Text(Matériau(2, "Prix"));
+    Ingrédients[1].Qté.Text = "1";
+    Ingrédients[2].Qté.Text = std::to_string(Entier16(1 + I(txt_ArcanesCoefQté2) * NuméroDegré));
+    Ingrédients[3].Qté.Text = std::to_string(Entier16(1 + NuméroDegré));
+    Ingrédients[2].PrixUnitaire.Text = Gemme.Text(Matériau(1, "Prix"));
+    Ingrédients[3].PrixUnitaire.Text = Gemme.Text(Matériau(2, "Prix"));
     ChargerLignesSup(Gemme, NuméroDegré);
     txt_AlchimieObjetSup.Text = Gemme.TextOrEmpty("NomObjet");
     txt_NbAlchimieObjetSup.Text = Gemme.Text("NbObjet");
@@ -78,19 +77,19 @@ void frm_ArtisanatsMagiques::ChargerLignesSup(const Recordset& Gemme, std::int16
 {
     if (!ASixLignes()) {
         for (int i = 4; i <= 6; ++i)
-            txt_Ingdt[i].Text = std::string(SansNom);
+            Ingrédients[i].Nom.Text = std::string(SansNom);
         return;
     }
     const std::string Qté = cbo_SousTypeGemmes.Text() == "Eclatant"
                                 ? T(Gemme.Number("QtéSup") + Entier16(6 * NuméroDegré))
                                 : Gemme.Text("QtéSup");
     for (int i = 4; i <= 6; ++i)
-        txt_Ingdt[i].Text = Gemme.Text(Matériau(i - 1, "Nom"));
+        Ingrédients[i].Nom.Text = Gemme.Text(Matériau(i - 1, "Nom"));
     for (int i = 4; i <= 6; ++i)
-        txt_IngdtQté[i].Text = Qté;
+        Ingrédients[i].Qté.Text = Qté;
     for (int i = 4; i <= 6; ++i) {
-        txt_PrixIngdtUnitaire[i].Text = "1";
-        txt_PrixIngdtUnitaire[i].Text = Gemme.Text(Matériau(i - 1, "Prix"));
+        Ingrédients[i].PrixUnitaire.Text = "1";
+        Ingrédients[i].PrixUnitaire.Text = Gemme.Text(Matériau(i - 1, "Prix"));
     }
 }
 
@@ -98,14 +97,14 @@ void frm_ArtisanatsMagiques::ChargerLignesSup(const Recordset& Gemme, std::int16
 void frm_ArtisanatsMagiques::ChargerBase(std::int16_t NuméroDegré)
 {
     if (cbo_TypeGemmes.Text() == Trophées) {
-        txt_Ingdt[1].Text = std::string(SansNom);
-        txt_PrixIngdtUnitaire[1].Text = "0";
+        Ingrédients[1].Nom.Text = std::string(SansNom);
+        Ingrédients[1].PrixUnitaire.Text = "0";
         return;
     }
     Globals.TexteSQL = "SELECT * FROM Matériaux_Arcanes WHERE Degré=" + std::to_string(NuméroDegré);
     const Recordset Base = PremierEnregistrement(Globals);
-    txt_Ingdt[1].Text = Base.Text("Nom");
-    txt_PrixIngdtUnitaire[1].Text = Base.Text("Prix");
+    Ingrédients[1].Nom.Text = Base.Text("Nom");
+    Ingrédients[1].PrixUnitaire.Text = Base.Text("Prix");
 }
 
 // The gem that another one needs: a whole gem of its own row, without a degree.
@@ -117,13 +116,13 @@ void frm_ArtisanatsMagiques::ChargerGemmeSup()
     lbl_AlchimieObjetSupNiveauCraft.Caption = Gemme.Text("NiveauCraft");
     txt_AlchimieIconeObjetSup.Text = Gemme.TextOrEmpty("Icône");
     for (int i = 1; i <= 3; ++i) {
-        txt_MatSup[i].Text = Gemme.Text(Matériau(i + 2, "Nom"));
-        txt_MatSupQté[i].Text = i == 1 ? "1" : Gemme.Text("QtéSup");
-        txt_PrixMatSuptUnitaire[i].Text = Gemme.Text(Matériau(i + 2, "Prix"));
+        MatériauxSup[i].Nom.Text = Gemme.Text(Matériau(i + 2, "Nom"));
+        MatériauxSup[i].Qté.Text = i == 1 ? "1" : Gemme.Text("QtéSup");
+        MatériauxSup[i].PrixUnitaire.Text = Gemme.Text(Matériau(i + 2, "Prix"));
     }
-    txt_MatSup[4].Text = std::string(SansNom);
-    txt_MatSupQté[4].Text = "0";
-    txt_PrixMatSuptUnitaire[4].Text = "0";
+    MatériauxSup[4].Nom.Text = std::string(SansNom);
+    MatériauxSup[4].Qté.Text = "0";
+    MatériauxSup[4].PrixUnitaire.Text = "0";
     ChangerCouleurCraft(App, lbl_AlchimieObjetSupNiveauCraft.Caption, NiveauArcanes,
                         img_AlchimieObjetSupNiveau);
 }

@@ -133,7 +133,7 @@ void frm_ArtisanatsMagiques::cbo_DegréGemmes_Click()
     EffacerMatériaux();
     if (PremierDegréSeul())
         cbo_DegréGemmes.ListIndex = 0;
-    ReadOrStale(PrixDuChoix(), [&] {
+    const auto Lire = [&] {
         const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
         const std::string Degrés = "SELECT DegréType1, " + ColonneDegré() + " FROM Degrés_Arcanes";
         cbo_DegréBonus.Clear();
@@ -142,8 +142,8 @@ void frm_ArtisanatsMagiques::cbo_DegréGemmes_Click()
                      ColonneDegré());
         ChargerGemme();
         ChangerCouleurCraft(App, lbl_NiveauAlchimie.Caption, NiveauArcanes, img_NiveauAlchimie);
-    });
-    CalculerPrixArcanes();
+    };
+    LireChoix(Lire, &frm_ArtisanatsMagiques::CalculerPrixArcanes);
 }
 
 void frm_ArtisanatsMagiques::cbo_DegréBonus_Click()
@@ -151,15 +151,15 @@ void frm_ArtisanatsMagiques::cbo_DegréBonus_Click()
     EffacerMatériaux();
     if (PremierDegréSeul())
         cbo_DegréBonus.ListIndex = 0;
-    ReadOrStale(PrixDuChoix(), [&] {
+    const auto Lire = [&] {
         const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
         RemplirTexte("SELECT DegréType1, " + ColonneDegré() + " FROM Degrés_Arcanes WHERE " +
                          ColonneDegré() + "=" + Quoted(cbo_DegréBonus.Text()),
                      cbo_DegréGemmes, "DegréType1");
         ChargerGemme();
         ChangerCouleurCraft(App, lbl_NiveauAlchimie.Caption, NiveauArcanes, img_NiveauAlchimie);
-    });
-    CalculerPrixArcanes();
+    };
+    LireChoix(Lire, &frm_ArtisanatsMagiques::CalculerPrixArcanes);
 }
 
 } // namespace orvane

@@ -6,43 +6,35 @@
 // and which of them are to be seen.
 namespace orvane {
 
-void frm_ArtisanatsMagiques::ChargerLigne(int i, const std::string& Nom, const std::string& Qté,
-                                          const std::string& Prix)
-{
-    txt_Ingdt[i].Text = Nom;
-    txt_IngdtQté[i].Text = Qté;
-    txt_PrixIngdtUnitaire[i].Text = Prix;
-}
-
 // A named material that comes to cost nothing is left to the crafter to price. Only a change of the
 // unit price's text decides anew: the same text again leaves the lock as it is.
-void frm_ArtisanatsMagiques::txt_PrixIngdtUnitaire_Change(int i)
+void frm_ArtisanatsMagiques::txt_PrixIngdtUnitaire_Change(LigneMatériau& Ligne)
 {
-    CalculerPrixLigne(txt_PrixIngdtUnitaire[i], txt_IngdtQté[i], txt_PrixIngdt[i]);
-    Calculate({}, [&] {
-        const bool Gratuit = D(txt_PrixIngdtUnitaire[i]) == 0.0;
-        PoserVerrou(txt_PrixIngdt[i], Gratuit && txt_Ingdt[i].Text != "", txt_NbObjetAlchimie,
-                    txt_PrixCoûtantAlchimie);
-    });
+    Ligne.CalculerPrix();
+    PoserVerrou(Ligne, Ligne.Nom);
 }
 
 // Of the extra object, line 2 alone can be opened.
-void frm_ArtisanatsMagiques::txt_PrixMatSuptUnitaire_Change(int i)
+void frm_ArtisanatsMagiques::txt_PrixMatSuptUnitaire_Change(LigneMatériau& Ligne)
 {
-    CalculerPrixLigne(txt_PrixMatSuptUnitaire[i], txt_MatSupQté[i], txt_PrixMatSup[i]);
-    if (i != 2)
-        return;
+    Ligne.CalculerPrix();
+    if (&Ligne == &MatériauxSup[2])
+        PoserVerrou(Ligne, Ligne.Prix);
+}
+
+void frm_ArtisanatsMagiques::PoserVerrou(LigneMatériau& Ligne, const TextBox& Rempli)
+{
     Calculate({}, [&] {
-        const bool Gratuit = D(txt_PrixMatSuptUnitaire[i]) == 0.0;
-        PoserVerrou(txt_PrixMatSup[i], Gratuit && txt_PrixMatSup[i].Text != "", txt_NbObjetAlchimie,
-                    txt_PrixCoûtantAlchimie);
+        const bool Gratuit = D(Ligne.PrixUnitaire) == 0.0;
+        Ligne.PoserVerrou(Gratuit && Rempli.Text != "", txt_NbObjetAlchimie.BackColor,
+                          txt_PrixCoûtantAlchimie.BackColor);
     });
 }
 
-void frm_ArtisanatsMagiques::txt_MatSup_Change(int i)
+void frm_ArtisanatsMagiques::txt_MatSup_Change(LigneMatériau& Ligne)
 {
     if (txt_AlchimieObjetSup.Text != "") // the block is hidden without a name
-        Montrer(LigneSup(i), txt_MatSup[i].Text != SansNom);
+        Ligne.Montrer(!Ligne.EstSansMatériau());
 }
 
 // The whole block follows the name of the extra object.
@@ -50,8 +42,7 @@ void frm_ArtisanatsMagiques::txt_AlchimieObjetSup_Change()
 {
     const bool Montré = txt_AlchimieObjetSup.Text != "";
     ShowAll({&shp_AlchimieObjetSup, &lbl_AlchimieObjetSup, &txt_AlchimieObjetSup}, Montré);
-    for (int i = 1; i <= 4; ++i)
-        Montrer(LigneSup(i), Montré);
+    MatériauxSup.Montrer(Montré);
     ShowAll({&lbl_AlchimieObjetSupNiveau, &lbl_AlchimieObjetSupNiveauCraft,
              &img_AlchimieObjetSupNiveau, &img_AlchimieObjetSup, &lbl_AlchimieObjetSUpPrixCoûtant,
              &txt_AlchimieObjetSUpPrixCoûtant, &txt_NbAlchimieObjetSup, &lbl_NbAlchimieObjetSup},

@@ -9,16 +9,6 @@ namespace orvane {
 
 using namespace cadre;
 
-LigneMatériau frm_ArtisanatsManuels::Ligne(int i)
-{
-    return {txt_Matériaux[i], lbl_MatX[i], txt_MatériauxQté[i], lbl_Mat[i], txt_PrixMat[i]};
-}
-
-LigneMatériau frm_ArtisanatsManuels::LigneSup(int i)
-{
-    return {txt_MatSup[i], lbl_MatSupX[i], txt_MatSupQté[i], lbl_MatSup[i], txt_PrixMatSup[i]};
-}
-
 void frm_ArtisanatsManuels::Définir()
 {
     cadre::Placer(*this, {Bar_Menus, img_Bannière, shp_Artisanat, pct_Artisanat, lbl_Artisanat});
@@ -27,13 +17,6 @@ void frm_ArtisanatsManuels::Définir()
     DéfinirMatériaux();
     DéfinirVente();
     DéfinirObjetSup();
-    for (auto* Holders : {&txt_MatériauxBruts, &txt_PrixMatUnitaire})
-        for (TextBox& Holder : *Holders)
-            Holder.Visible = false;
-    for (TextBox& Holder : txt_PrixMatUnitaire)
-        Holder.StartWith("0");
-    for (TextBox& Holder : txt_PrixMatSuptUnitaire)
-        Holder.Visible = false;
     for (TextBox* Holder : {&txt_Sup, &txt_Image, &txt_Icône, &txt_IconeObjetSup, &txt_ObjetSupBis})
         Holder->Visible = false;
     txt_Image.StartWith("Vide"); // so that the first empty text shows the placeholder
@@ -93,13 +76,10 @@ void frm_ArtisanatsManuels::DéfinirMatériaux()
 {
     PlacePanel(shp_Matériaux, {MiddleX, 262, MiddleWide, 278});
     PlaceHeading(lbl21, "Matériaux", {MiddleX + 14, 266, 300, High});
-    for (int i = 1; i <= 6; ++i) {
-        const int Y = 292 + (i - 1) * 29;
-        Placer(Ligne(i), MiddleX + 14, Y, {268, 42, 114});
-        txt_MatériauxQté[i].StartWith("0");
-        txt_PrixMat[i].StartWith("0");
-        txt_PrixMat[i].Accepts = NumberKind::Montant;
-    }
+    Matériaux.Placer(MiddleX + 14, 292, 29, {268, 42, 114});
+    Matériaux.CommencerParZéro();
+    for (LigneMatériau& Each : Matériaux)
+        Each.Prix.Accepts = NumberKind::Montant;
     PlaceField(lbl23, "Prix coûtant :", txt_PrixCoûtant, {MiddleX + 150, 474, 202, High}, 114);
     PlaceField(lbl22, "Prix de revente à un PNJ :", txt_PrixRevente,
                {MiddleX + 150, 504, 202, High}, 114);
@@ -137,8 +117,7 @@ void frm_ArtisanatsManuels::DéfinirObjetSup()
     PlaceLabel(lbl_ObjetSupNiveau, "Niveau :", {RightX + 112, 454, 58, High});
     PlaceLabel(lbl_ObjetSupNiveauCraft, "", {RightX + 172, 454, 50, High}, Alignment::Right);
     Place(img_ObjetSupNiveau, {RightX + 232, 454, 24, 24});
-    for (int i = 1; i <= 4; ++i)
-        Placer(LigneSup(i), RightX + 14, 484 + (i - 1) * 28, {145, 32, 65});
+    MatériauxSup.Placer(RightX + 14, 484, 28, {145, 32, 65});
     PlaceField(lbl_ObjetSUpPrixCoûtant, "Prix :", txt_ObjetSUpPrixCoûtant,
                {RightX + 128, 600, 56, High}, 100);
     lbl_ObjetSUpPrixCoûtant.Align = Alignment::Right;
@@ -147,9 +126,7 @@ void frm_ArtisanatsManuels::DéfinirObjetSup()
     txt_ObjetSUpPrixCoûtant.OpenFor(NumberKind::Montant);
     txt_ObjetSup.Locked = false;
 
-    for (Control* Each : Controls())
-        if (Each->Left() >= RightX * TwipsPerPixel && Each->Top() >= 392 * TwipsPerPixel)
-            Each->Visible = false; // the whole panel, until an object asks for another one
+    MontrerObjetSup(false); // until an object asks for another one
 }
 
 } // namespace orvane

@@ -2,12 +2,12 @@
 #include "base/notation.h"
 #include "base/number_text.h"
 #include "base/text.h"
+#include "crafts/common/lecture.h"
 #include "crafts/common/material_codes.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "settings/level_indicator.h"
 #include "toolkit/calculation.h"
 #include "toolkit/visibility.h"
-#include "toolkit/writing.h"
 
 #include <array>
 
@@ -40,16 +40,24 @@ std::string TexteNiveau(double NiveauObjet, std::int16_t Degré)
 
 } // namespace
 
+// Each line price that changes runs CalculerPrixVente inside its write.
 void frm_ArtisanatsManuels::cbo_Degré_Click()
 {
-    ReadOrStale(Together(Résultats(), txt_PrixMat), [&] {
-        LireDegré();
-        ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
-    });
-    CalculerPrixMatériaux();
-    CalculerPrixVente();
-    for (int i = 1; i <= 6; ++i)
-        ActualiserVerrouPrix(txt_PrixMat[i], txt_Matériaux[i]);
+    if (!ObjetLu) // the counts are of two objects
+        throw Failure(FailureKind::ChoiceMissing, cbo_Objet.Text);
+    LireOuPérimer(
+        {{&Matériaux}, {&txt_PrixRevente, &txt_NbObjetSup}},
+        [&] {
+            LireDegré();
+            ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
+            int i = 0;
+            Matériaux.Chiffrer(ProduitDeMontants, [&](const LigneMatériau& Each) {
+                return ++i < 3 || Each.Code->Text != CodeSansMatériau;
+            });
+        },
+        [&] { CalculerPrixVente(); });
+    for (LigneMatériau& Each : Matériaux)
+        ActualiserVerrouPrix(Each);
 }
 
 void frm_ArtisanatsManuels::LireDegré()
@@ -60,9 +68,8 @@ void frm_ArtisanatsManuels::LireDegré()
     NuméroDegré = PremierEnregistrement(Globals).Whole("NuméroDegré");
     const std::string& Nom = cbo_Objet.Text();
     const bool Couronne = Contains(Nom, "couronne") || Contains(Nom, "Couronne");
-    for (int i = 1; i <= 6; ++i)
-        RésoudreMatériau(Globals, txt_MatériauxBruts[i].Text, NuméroDegré, Couronne,
-                         txt_Matériaux[i], txt_PrixMatUnitaire[i]);
+    for (LigneMatériau& Each : Matériaux)
+        RésoudreMatériau(Globals, NuméroDegré, Couronne, Each);
 
     Globals.TexteSQL = "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text());
     const Recordset& Objet = PremierEnregistrement(Globals);
@@ -100,13 +107,10 @@ void frm_ArtisanatsManuels::LireStatistiques(const Recordset& Objet)
 }
 
 // Shows or hides a row with its code, and opens its price for a material that the crafter prices.
-void frm_ArtisanatsManuels::txt_MatériauxBruts_Change(int i)
+void frm_ArtisanatsManuels::txt_MatériauxBruts_Change(LigneMatériau& Ligne)
 {
-    const bool Montrée = txt_MatériauxBruts[i].Text != CodeSansMatériau;
-    Montrer(Ligne(i), Montrée);
-    const bool Libre = txt_MatériauxBruts[i].Text == CodePrixLibre;
-    txt_PrixMat[i].Locked = !Libre;
-    txt_PrixMat[i].BackColor = Libre ? InputGrey : White;
+    Ligne.Montrer(Ligne.Code->Text != CodeSansMatériau);
+    Ligne.PoserVerrou(Ligne.Code->Text == CodePrixLibre, InputGrey, White);
 }
 
 void frm_ArtisanatsManuels::MontrerStatistique(TextBox& Valeur, Label& Titre)

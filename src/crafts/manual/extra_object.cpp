@@ -1,6 +1,7 @@
 #include "app/queries.h"
 #include "base/text.h"
 #include "crafts/common/alchemy_object.h"
+#include "crafts/common/lecture.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "settings/level_indicator.h"
 #include "toolkit/calculation.h"
@@ -71,22 +72,23 @@ void frm_ArtisanatsManuels::cbo_TypeDégats_Click()
         return;
     }
     txt_ObjetSup.Text = txt_ObjetSup.Text() + Degré->Suffixe;
-    std::vector<TextBox*> Renouvelés = Résultats();
-    Renouvelés.push_back(&txt_ObjetSUpPrixCoûtant);
-    ReadOrStale(Renouvelés, [&] {
-        LireObjetSup();
-        if (txt_ObjetSup.Text != "")
-            ChangerCouleurCraft(App, lbl_ObjetSupNiveauCraft.Caption, NiveauAlchimie,
-                                img_ObjetSupNiveau);
-        if (Type != nullptr) {
-            const bool Durable = ContainsIgnoringCase(cbo_Objet.Text(), "durable");
-            lbl_Niveau.Caption = WithoutLastCharacters(lbl_Niveau.Caption(), 2) +
-                                 (Durable ? Type->NiveauDurable : Type->Niveau);
-        }
-        ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
-    });
-    if (CalculerPrixObjetSup() && txt_PrixVente.Stale) // the same price runs nothing by itself
-        CalculerPrixVente();
+    LireOuPérimer(
+        {{&MatériauxSup}, {}},
+        [&] {
+            LireObjetSup();
+            if (txt_ObjetSup.Text != "")
+                ChangerCouleurCraft(App, lbl_ObjetSupNiveauCraft.Caption, NiveauAlchimie,
+                                    img_ObjetSupNiveau);
+            if (Type != nullptr) {
+                const bool Durable = ContainsIgnoringCase(cbo_Objet.Text(), "durable");
+                lbl_Niveau.Caption = WithoutLastCharacters(lbl_Niveau.Caption(), 2) +
+                                     (Durable ? Type->NiveauDurable : Type->Niveau);
+            }
+            ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
+            // whole numbers here; the handler of a unit price takes them as amounts
+            MatériauxSup.Chiffrer(EntierFoisMontant);
+        },
+        [&] { CalculerPrixObjetSup(); });
 }
 
 // One row of the alchemy objects, found by the name just built.
@@ -94,59 +96,44 @@ void frm_ArtisanatsManuels::LireObjetSup()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
     ChargerObjetSup(Globals, txt_ObjetSup.Text,
-                    {lbl_ObjetSupNiveauCraft, txt_IconeObjetSup, txt_MatSup, txt_MatSupQté,
-                     txt_PrixMatSuptUnitaire});
+                    {lbl_ObjetSupNiveauCraft, txt_IconeObjetSup, MatériauxSup});
 }
 
-// Here quantities are whole numbers; the handler of a unit price takes them as amounts. Tells
-// whether the price is good; if not, the prices that rest on it are shown as stale.
-bool frm_ArtisanatsManuels::CalculerPrixObjetSup()
+// The sale price follows, also when the price of the object is the same as before.
+void frm_ArtisanatsManuels::CalculerPrixObjetSup()
 {
-    std::array<Montant, 4> Lignes;
-    Montant Total;
-    const bool Juste = Calculate({}, [&] {
-        Montant Somme;
-        for (int i = 1; i <= 4; ++i) {
-            Montant& Ligne = Lignes[static_cast<std::size_t>(i - 1)];
-            Ligne = I(txt_MatSupQté[i]) * M(txt_PrixMatSuptUnitaire[i]);
-            Somme = Somme + Ligne;
-        }
-        Total = I(txt_NbObjetSup) * Somme;
+    const bool Juste = Calculate({&txt_ObjetSUpPrixCoûtant}, [&] {
+        txt_ObjetSUpPrixCoûtant.Text = T(I(txt_NbObjetSup) * MatériauxSup.Somme());
     });
-    txt_ObjetSUpPrixCoûtant.Stale = !Juste;
-    if (!Juste) {
-        for (TextBox* Each : Résultats())
-            Each->Stale = true;
-        return false;
-    }
-    for (int i = 1; i <= 4; ++i)
-        txt_PrixMatSup[i].Text = T(Lignes[static_cast<std::size_t>(i - 1)]);
-    txt_ObjetSUpPrixCoûtant.Text = T(Total);
-    return true;
+    if (!Juste || txt_PrixVente.Stale)
+        CalculerPrixVente();
 }
 
 // The whole panel follows the name: empty or not.
 void frm_ArtisanatsManuels::txt_ObjetSup_Change()
 {
-    const bool Montré = txt_ObjetSup.Text != "";
-    ShowAll({&shp_ObjetSup, &lbl_ObjetSup, &txt_ObjetSup}, Montré);
-    for (int i = 1; i <= 4; ++i)
-        Montrer(LigneSup(i), Montré);
+    MontrerObjetSup(txt_ObjetSup.Text != "");
     txt_IconeObjetSup.Text = "";
-    ShowAll({&lbl_ObjetSupNiveau, &lbl_ObjetSupNiveauCraft, &img_ObjetSupNiveau, &img_ObjetSup,
-             &lbl_ObjetSUpPrixCoûtant, &txt_ObjetSUpPrixCoûtant, &txt_NbObjetSup, &lbl_NbObjetSup},
-            Montré);
     for (int i : {3, 4}) // hides again the rows without a material
-        if (txt_MatSup[i].Text == SansNom) {
-            txt_MatSup[i].Text = "";
-            txt_MatSup[i].Text = std::string(SansNom);
+        if (TextBox& Nom = MatériauxSup[i].Nom; Nom.Text == SansNom) {
+            Nom.Text = "";
+            Nom.Text = std::string(SansNom);
         }
 }
 
-void frm_ArtisanatsManuels::txt_MatSup_Change(int i)
+void frm_ArtisanatsManuels::MontrerObjetSup(bool Montré)
+{
+    ShowAll({&shp_ObjetSup, &lbl_ObjetSup, &txt_ObjetSup}, Montré);
+    MatériauxSup.Montrer(Montré);
+    ShowAll({&lbl_ObjetSupNiveau, &lbl_ObjetSupNiveauCraft, &img_ObjetSupNiveau, &img_ObjetSup,
+             &lbl_ObjetSUpPrixCoûtant, &txt_ObjetSUpPrixCoûtant, &txt_NbObjetSup, &lbl_NbObjetSup},
+            Montré);
+}
+
+void frm_ArtisanatsManuels::txt_MatSup_Change(LigneMatériau& Ligne)
 {
     if (txt_ObjetSup.Text != "")
-        Montrer(LigneSup(i), txt_MatSup[i].Text != SansNom);
+        Ligne.Montrer(!Ligne.EstSansMatériau());
 }
 
 } // namespace orvane

@@ -68,7 +68,7 @@ void frm_ArtisanatsManuels::Relier()
         MontrerIcôneCommune(this->App, txt_IconeObjetSup, img_ObjetSup);
     };
     for (int i = 3; i <= 6; ++i) // rows 1 and 2 are always shown
-        txt_MatériauxBruts[i].OnChange = [this, i] { txt_MatériauxBruts_Change(i); };
+        Matériaux[i].Code->OnChange = [this, i] { txt_MatériauxBruts_Change(Matériaux[i]); };
     txt_Dps.OnChange = [this] { MontrerStatistique(txt_Dps, lbl_Dps); };
     txt_Vit.OnChange = [this] { MontrerStatistique(txt_Vit, lbl_Vit); };
     txt_AF.OnChange = [this] { MontrerStatistique(txt_AF, lbl_AF); };
@@ -77,16 +77,14 @@ void frm_ArtisanatsManuels::Relier()
     RecalculerAuChangement(txt_NbObjet, {"0", ""}, "1", Calculer);
     RecalculerAuChangement(txt_NbEssais, {""}, "0", Calculer);
     RecalculerAuChangement(txt_ObjetSUpPrixCoûtant, {""}, "0", Calculer);
-    for (TextBox& Prix : txt_PrixMat)
-        RecalculerAuChangement(Prix, {""}, "0", Calculer);
+    for (LigneMatériau& Each : Matériaux)
+        RecalculerAuChangement(Each.Prix, {""}, "0", Calculer);
     cbo_TypeDégats.OnClick = [this] { cbo_TypeDégats_Click(); };
     txt_ObjetSup.OnChange = [this] { txt_ObjetSup_Change(); };
     for (int i : {3, 4})
-        txt_MatSup[i].OnChange = [this, i] { txt_MatSup_Change(i); };
-    for (int i = 1; i <= 4; ++i)
-        txt_PrixMatSuptUnitaire[i].OnChange = [this, i] {
-            CalculerPrixLigne(txt_PrixMatSuptUnitaire[i], txt_MatSupQté[i], txt_PrixMatSup[i]);
-        };
+        MatériauxSup[i].Nom.OnChange = [this, i] { txt_MatSup_Change(MatériauxSup[i]); };
+    for (LigneMatériau& Each : MatériauxSup)
+        Each.PrixUnitaire.OnChange = [&Each] { Each.CalculerPrix(); };
     cmd_AjouterPanier.OnClick = [this] { cmd_AjouterPanier_Click(); };
     cmd_Retour.OnClick = [this] { WayBack(); };
 }

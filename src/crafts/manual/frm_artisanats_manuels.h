@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/feuille.h"
-#include "crafts/common/material_line.h"
+#include "crafts/common/nomenclature.h"
 
 #include <cstdint>
 #include <string>
@@ -64,11 +64,10 @@ class frm_ArtisanatsManuels : public Feuille
     // Materials
     Shape NAMED(shp_Matériaux);
     Label NAMED(lbl21);
-    Family<TextBox, 6> NAMED(txt_Matériaux);
-    Family<Label, 6> NAMED(lbl_MatX);
-    Family<TextBox, 6> NAMED(txt_MatériauxQté);
-    Family<Label, 6> NAMED(lbl_Mat);
-    Family<TextBox, 6> NAMED(txt_PrixMat);
+    Nomenclature Matériaux{*this,
+                           {"txt_Matériaux", "lbl_MatX", "txt_MatériauxQté", "lbl_Mat",
+                            "txt_PrixMat", "txt_PrixMatUnitaire", "txt_MatériauxBruts"},
+                           6};
     Label NAMED(lbl23);
     TextBox NAMED(txt_PrixCoûtant);
     Label NAMED(lbl22);
@@ -98,16 +97,17 @@ class frm_ArtisanatsManuels : public Feuille
     Image NAMED(img_ObjetSup);
     Label NAMED(lbl_ObjetSUpPrixCoûtant);
     TextBox NAMED(txt_ObjetSUpPrixCoûtant);
-    Family<TextBox, 4> NAMED(txt_MatSup);
-    Family<Label, 4> NAMED(lbl_MatSupX);
-    Family<TextBox, 4> NAMED(txt_MatSupQté);
-    Family<Label, 4> NAMED(lbl_MatSup);
-    Family<TextBox, 4> NAMED(txt_PrixMatSup);
+    Nomenclature MatériauxSup{*this,
+                              {"txt_MatSup",
+                               "lbl_MatSupX",
+                               "txt_MatSupQté",
+                               "lbl_MatSup",
+                               "txt_PrixMatSup",
+                               "txt_PrixMatSuptUnitaire",
+                               {}},
+                              4};
 
     // Hidden holders: working values that are never shown
-    Family<TextBox, 6> NAMED(txt_MatériauxBruts);
-    Family<TextBox, 6> NAMED(txt_PrixMatUnitaire);
-    Family<TextBox, 4> NAMED(txt_PrixMatSuptUnitaire);
     TextBox NAMED(txt_Sup);
     TextBox NAMED(txt_Image);
     TextBox NAMED(txt_Icône);
@@ -126,14 +126,12 @@ class frm_ArtisanatsManuels : public Feuille
     void DéfinirVente();
     void DéfinirObjetSup();
     void Relier(); // handlers to their controls
-    LigneMatériau Ligne(int i);
-    LigneMatériau LigneSup(int i);
 
     // Selection
     void Bar_Menus_ItemClick(const SideMenu::Item& Entrée);
     void PrendreArtisanat(const std::string& Nom);
     void EffacerSélection(std::int16_t Palier);
-    void EffacerMatériaux();
+    void EffacerPrix();
     void EffacerInfosObjet();
     void RemplirProduits();
     void cbo_Produit_Click();
@@ -148,21 +146,21 @@ class frm_ArtisanatsManuels : public Feuille
     void LireDegré();
     void LireNiveaux(const Recordset& Objet);
     void LireStatistiques(const Recordset& Objet);
-    void txt_MatériauxBruts_Change(int i);
+    static void txt_MatériauxBruts_Change(LigneMatériau& Ligne);
     void MontrerStatistique(TextBox& Valeur, Label& Titre);
 
     // Costing
-    void CalculerPrixMatériaux();
     void CalculerPrixVente();
-    std::vector<TextBox*> Résultats(); // of CalculerPrixVente
-    void ActualiserVerrouPrix(TextBox& Prix, TextBox& Nom);
+    bool CalculerVente();
+    void ActualiserVerrouPrix(LigneMatériau& Ligne);
 
     // Extra object
     void cbo_TypeDégats_Click();
     void LireObjetSup();
-    bool CalculerPrixObjetSup();
+    void CalculerPrixObjetSup();
     void txt_ObjetSup_Change();
-    void txt_MatSup_Change(int i);
+    void MontrerObjetSup(bool Montré); // the whole panel
+    void txt_MatSup_Change(LigneMatériau& Ligne);
 
     void cmd_AjouterPanier_Click();
 
@@ -172,6 +170,7 @@ class frm_ArtisanatsManuels : public Feuille
     std::int16_t MargeEssais = 0;    // percent, on the extra trials
     std::string ColonneDegré;     // column of Degrés_ListeTypes that spells the product's degrees
     std::int16_t NuméroDegré = 0; // of the degree chosen last
+    bool ObjetLu = true;          // not when the pick of the object in hand was given up
 };
 
 } // namespace orvane

@@ -1,5 +1,6 @@
 #include "app/queries.h"
 #include "base/text.h"
+#include "crafts/common/lecture.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "toolkit/visibility.h"
 #include "toolkit/writing.h"
@@ -57,24 +58,17 @@ void frm_ArtisanatsManuels::EffacerSélection(std::int16_t Palier)
         txt_ObjetSupBis.Text = "";
     }
     txt_Sup.Text = "";
-    EffacerMatériaux();
+    EffacerPrix();
     EffacerInfosObjet();
 }
 
 // Prices are recalculated as they fall; counts, totals and level aren't written here.
-void frm_ArtisanatsManuels::EffacerMatériaux()
+void frm_ArtisanatsManuels::EffacerPrix()
 {
-    WriteAll(txt_Matériaux, "");
-    WriteAll(txt_MatériauxBruts, "");
-    WriteAll(txt_MatériauxQté, "0");
-    WriteAll(txt_PrixMatUnitaire, "0");
-    WriteAll(txt_PrixMat, "0");
+    Matériaux.Vider();
     txt_PrixRevente.Text = "0";
     txt_PrixCoûtant.Text = "0";
-    WriteAll(txt_MatSup, "");
-    WriteAll(txt_MatSupQté, "0");
-    WriteAll(txt_PrixMatSuptUnitaire, "0");
-    WriteAll(txt_PrixMatSup, "0");
+    MatériauxSup.Vider();
     txt_ObjetSUpPrixCoûtant.Text = "0";
     txt_NbObjetSup.Text = "1";
 }
@@ -125,11 +119,22 @@ void frm_ArtisanatsManuels::cbo_ProduitDétaillé_Click()
     RemplirListe(Globals, cbo_Objet, "Classique_ListeObjets.Nom");
 }
 
+// An object that couldn't be read has no degree, and no type that belongs to another one.
 void frm_ArtisanatsManuels::cbo_Objet_Click()
 {
     EffacerSélection(4);
-    LireObjet();
-    PréparerTypeDégats();
+    ObjetLu = false;
+    LireOuPérimer(
+        {{&Matériaux}, {}},
+        [&] {
+            LireObjet();
+            ObjetLu = true;
+        },
+        [&] {
+            PréparerTypeDégats();
+            if (!ObjetLu)
+                CalculerPrixVente();
+        });
 }
 
 void frm_ArtisanatsManuels::LireObjet()
@@ -141,10 +146,7 @@ void frm_ArtisanatsManuels::LireObjet()
 
     Globals.TexteSQL = "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text());
     const Recordset& Objet = PremierEnregistrement(Globals);
-    for (int i = 1; i <= 6; ++i)
-        txt_MatériauxBruts[i].Text = Objet.Text("Mat" + std::to_string(i));
-    for (int i = 1; i <= 6; ++i)
-        txt_MatériauxQté[i].Text = Objet.Text("Qté" + std::to_string(i));
+    Matériaux.ChargerCodes(Objet, 6);
     txt_Image.Text = Objet.TextOrEmpty("Image");
     txt_Icône.Text = Objet.TextOrEmpty("Icône");
     Globals.Enregistrements.Empty();

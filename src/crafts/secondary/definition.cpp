@@ -14,11 +14,6 @@ constexpr int BottomY = 448;
 
 } // namespace
 
-LigneMatériau frm_ArtisanatsSecondaires::Ligne(int i)
-{
-    return {txt_Matériaux[i], lbl_MatX[i], txt_MatériauxQté[i], lbl_Mat[i], txt_PrixMat[i]};
-}
-
 void frm_ArtisanatsSecondaires::Définir()
 {
     cadre::Placer(*this, {Bar_Menus, img_Bannière, shp_Artisanat, pct_Artisanat, lbl_Artisanat});
@@ -28,11 +23,6 @@ void frm_ArtisanatsSecondaires::Définir()
     DéfinirRecyclage();
     AfficherVente(false);
     AfficherRecyclage(false);
-    for (auto* Holders : {&txt_MatériauxBruts, &txt_PrixMatUnitaire})
-        for (TextBox& Holder : *Holders)
-            Holder.Visible = false;
-    for (TextBox& Holder : txt_PrixMatUnitaire)
-        Holder.StartWith("0");
     txt_Icône.Visible = false;
     txt_Image.Visible = false;
     txt_Image.StartWith("Vide"); // so that the first empty text shows the placeholder
@@ -61,11 +51,8 @@ void frm_ArtisanatsSecondaires::DéfinirMatériaux()
     constexpr int X = MiddleX + Margin;
     PlacePanel(shp_Matériaux, {MiddleX, MaterialsY, MiddleWide, 242});
     PlaceHeading(lbl21, "Matériaux", {X, MaterialsY + 4, 300, High});
-    for (int i = 1; i <= 4; ++i) {
-        Placer(Ligne(i), X, MaterialsY + 34 + (i - 1) * 33, {268, 42, 114});
-        txt_MatériauxQté[i].StartWith("0");
-        txt_PrixMat[i].StartWith("0");
-    }
+    Matériaux.Placer(X, MaterialsY + 34, 33, {268, 42, 114});
+    Matériaux.CommencerParZéro();
     PlaceField(lbl23, "Prix coûtant :", txt_PrixCoûtant, {X + 136, MaterialsY + 174, 202, High},
                114);
     PlaceField(lbl22, "Prix de revente à un PNJ :", txt_PrixRevente,

@@ -107,10 +107,10 @@ void frm_ArtisanatsSecondaires::Relier()
             ChoisirDegré();
     };
     for (int i : {3, 4})
-        txt_Matériaux[i].OnChange = [this, i] { txt_Matériaux_Change(i); };
+        Matériaux[i].Nom.OnChange = [this, i] { txt_Matériaux_Change(Matériaux[i]); };
     for (int i : {2, 3})
-        txt_MatériauxBruts[i].OnChange = [this, i] {
-            Montrer(Ligne(i), txt_MatériauxBruts[i].Text != CodeSansMatériau);
+        Matériaux[i].Code->OnChange = [this, i] {
+            Matériaux[i].Montrer(Matériaux[i].Code->Text != CodeSansMatériau);
         };
     txt_Icône.OnChange = [this] { MontrerIcôneRoyaume(this->App, txt_Icône, img_Icône); };
     txt_Image.OnChange = [this] { MontrerImageObjet(this->App, txt_Image, img_Objet); };
@@ -194,11 +194,7 @@ void frm_ArtisanatsSecondaires::ViderListes()
 // Choices, pictures and level stay. A row that was hidden for want of a material comes back.
 void frm_ArtisanatsSecondaires::ViderChamps()
 {
-    WriteAll(txt_Matériaux, "");
-    WriteAll(txt_MatériauxBruts, "");
-    WriteAll(txt_MatériauxQté, "0");
-    WriteAll(txt_PrixMatUnitaire, "0");
-    WriteAll(txt_PrixMat, "0");
+    Matériaux.Vider();
     txt_PrixRevente.Text = "0";
     txt_SellerieNbObjets.Text = "1";
     WriteAll({&txt_PrixCoûtant, &txt_SelleriePrixCoûtant, &txt_SelleriePrixVente, &txt_CoûtSuppl},
@@ -230,9 +226,9 @@ void frm_ArtisanatsSecondaires::MontrerIcône(const Recordset& Objet)
     MontrerIcôneRoyaume(App, txt_Icône, img_Icône);
 }
 
-void frm_ArtisanatsSecondaires::txt_Matériaux_Change(int i)
+void frm_ArtisanatsSecondaires::txt_Matériaux_Change(LigneMatériau& Ligne)
 {
-    Montrer(Ligne(i), !(txt_Matériaux[i].Text == SansNom && EnSellerie()));
+    Ligne.Montrer(!(Ligne.EstSansMatériau() && EnSellerie()));
 }
 
 void frm_ArtisanatsSecondaires::cmd_AjouterPanier_Click()

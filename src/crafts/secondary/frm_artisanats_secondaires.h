@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/feuille.h"
-#include "crafts/common/material_line.h"
+#include "crafts/common/nomenclature.h"
 
 #include <cstdint>
 #include <string>
@@ -43,11 +43,10 @@ class frm_ArtisanatsSecondaires : public Feuille
     // Materials
     Shape NAMED(shp_Matériaux);
     Label NAMED(lbl21);
-    Family<TextBox, 4> NAMED(txt_Matériaux);
-    Family<Label, 4> NAMED(lbl_MatX);
-    Family<TextBox, 4> NAMED(txt_MatériauxQté);
-    Family<Label, 4> NAMED(lbl_Mat);
-    Family<TextBox, 4> NAMED(txt_PrixMat);
+    Nomenclature Matériaux{*this,
+                           {"txt_Matériaux", "lbl_MatX", "txt_MatériauxQté", "lbl_Mat",
+                            "txt_PrixMat", "txt_PrixMatUnitaire", "txt_MatériauxBruts"},
+                           4};
     Label NAMED(lbl23);
     TextBox NAMED(txt_PrixCoûtant);
     Label NAMED(lbl22);
@@ -76,8 +75,6 @@ class frm_ArtisanatsSecondaires : public Feuille
     TextBox NAMED(txt_Gain);
 
     // Hidden holders
-    Family<TextBox, 4> NAMED(txt_MatériauxBruts); // material codes
-    Family<TextBox, 4> NAMED(txt_PrixMatUnitaire);
     TextBox NAMED(txt_Icône);
     TextBox NAMED(txt_Image);
 
@@ -91,7 +88,6 @@ class frm_ArtisanatsSecondaires : public Feuille
     void DéfinirMatériaux();
     void DéfinirVente();
     void DéfinirRecyclage();
-    LigneMatériau Ligne(int i);
     void Relier(); // handlers to their controls
 
     // Menu and modes
@@ -105,7 +101,7 @@ class frm_ArtisanatsSecondaires : public Feuille
     void AfficherVente(bool Visible);
     void AfficherRecyclage(bool Visible);
     void MontrerIcône(const Recordset& Objet);
-    void txt_Matériaux_Change(int i);
+    void txt_Matériaux_Change(LigneMatériau& Ligne);
     void cmd_AjouterPanier_Click();
 
     // Saddlery
@@ -118,9 +114,10 @@ class frm_ArtisanatsSecondaires : public Feuille
     // Recycling
     void PréparerRecyclage();
     void ChoisirRecyclage();
+    void LireRecyclage();
     void ChoisirDegré();
     void LireDegré();
-    void CalculerMatériaux();
+    void CalculerCoût();
     void CalculerGain();
 
     std::int16_t NiveauCraft = 0; // the crafter's level in the trade in hand
@@ -131,6 +128,7 @@ class frm_ArtisanatsSecondaires : public Feuille
     std::int16_t NuméroDegré = 0;
     std::string ColonneDegré;
     std::string ColonneRevente;
+    bool ObjetLu = true; // not when the pick of the object in hand was given up
 };
 
 } // namespace orvane

@@ -1,13 +1,12 @@
 #include "app/queries.h"
 #include "base/number_text.h"
 #include "base/text.h"
+#include "crafts/common/lecture.h"
 #include "crafts/common/material_codes.h"
 #include "crafts/secondary/frm_artisanats_secondaires.h"
 #include "settings/level_indicator.h"
 #include "toolkit/calculation.h"
 #include "toolkit/visibility.h"
-
-#include <array>
 
 // What making an object only to sell it to a merchant gains. What counts as cost is what the
 // crafter types; the bill of materials is there to look at, and nothing reaches the basket.
@@ -19,7 +18,7 @@ void frm_ArtisanatsSecondaires::PréparerRecyclage()
     lbl_Zone1.Caption = "Objet :";
     lbl_Zone2.Caption = "Degré :";
     ShowAll({&lbl_Zone2, &cbo_Degré}, true);
-    Montrer(Ligne(4), false);
+    Matériaux[4].Montrer(false);
     cmd_AjouterPanier.Visible = false;
     LireNiveauCraft();
 
@@ -33,14 +32,26 @@ void frm_ArtisanatsSecondaires::PréparerRecyclage()
 void frm_ArtisanatsSecondaires::ChoisirRecyclage()
 {
     cbo_Degré.Clear();
+    ObjetLu = false;
+    LireOuPérimer(
+        {{&Matériaux}, {}},
+        [&] {
+            LireRecyclage();
+            ObjetLu = true;
+        },
+        [&] {
+            if (!ObjetLu)
+                CalculerCoût();
+        });
+}
+
+void frm_ArtisanatsSecondaires::LireRecyclage()
+{
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
     Globals.TexteSQL = "SELECT * FROM R_SecondaireObjets WHERE Secondaire_Produits.Nom=" +
                        Quoted(cbo_ObjetSecondaire.Text());
     const Recordset& Objet = PremierEnregistrement(Globals);
-    for (int i = 1; i <= 3; ++i)
-        txt_MatériauxBruts[i].Text = Objet.Text("Mat" + std::to_string(i));
-    for (int i = 1; i <= 3; ++i)
-        txt_MatériauxQté[i].Text = Objet.Text("Qté" + std::to_string(i));
+    Matériaux.ChargerCodes(Objet, 3);
     MontrerIcône(Objet);
 
     Globals.TexteSQL =
@@ -54,12 +65,20 @@ void frm_ArtisanatsSecondaires::ChoisirRecyclage()
 
 void frm_ArtisanatsSecondaires::ChoisirDegré()
 {
-    ReadOrStale({&txt_PrixCoûtant, &txt_PrixRevente, &txt_Gain}, [&] {
-        LireDegré();
-        ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
-    });
-    CalculerMatériaux();
-    CalculerGain();
+    if (!ObjetLu) // the counts are of two objects
+        throw Failure(FailureKind::ChoiceMissing, cbo_ObjetSecondaire.Text);
+    LireOuPérimer(
+        {{&Matériaux}, {&txt_PrixRevente}},
+        [&] {
+            LireDegré();
+            ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
+            int i = 0;
+            Matériaux.Chiffrer(ProduitDeMontants, [&](const LigneMatériau& Each) {
+                ++i;
+                return i == 1 || (i < 4 && Each.Code->Text != CodeSansMatériau);
+            });
+        },
+        [&] { CalculerCoût(); });
 }
 
 void frm_ArtisanatsSecondaires::LireDegré()
@@ -70,8 +89,7 @@ void frm_ArtisanatsSecondaires::LireDegré()
     NuméroDegré = PremierEnregistrement(Globals).Whole("NuméroDegré");
     const bool Couronne = Contains(cbo_ObjetSecondaire.Text(), "couronne");
     for (int i = 1; i <= 3; ++i)
-        RésoudreMatériau(Globals, txt_MatériauxBruts[i].Text, NuméroDegré, Couronne,
-                         txt_Matériaux[i], txt_PrixMatUnitaire[i]);
+        RésoudreMatériau(Globals, NuméroDegré, Couronne, Matériaux[i]);
 
     Globals.TexteSQL = "SELECT * FROM R_SecondaireObjets WHERE Secondaire_Produits.Nom=" +
                        Quoted(cbo_ObjetSecondaire.Text());
@@ -83,27 +101,19 @@ void frm_ArtisanatsSecondaires::LireDegré()
     Globals.Enregistrements.Empty();
 }
 
-void frm_ArtisanatsSecondaires::CalculerMatériaux()
+void frm_ArtisanatsSecondaires::CalculerCoût()
 {
-    Calculate({&txt_PrixCoûtant}, [&] {
-        std::array<Montant, 3> Lignes;
-        Montant Coût;
-        for (int i = 1; i <= 3; ++i) {
-            Montant& Prix = Lignes[static_cast<std::size_t>(i - 1)];
-            if (i == 1 || txt_MatériauxBruts[i].Text != CodeSansMatériau)
-                Prix = M(txt_PrixMatUnitaire[i]) * M(txt_MatériauxQté[i]);
-            Coût = Coût + Prix;
-        }
-        for (int i = 1; i <= 3; ++i)
-            txt_PrixMat[i].Text = T(Lignes[static_cast<std::size_t>(i - 1)]);
-        txt_PrixCoûtant.Text = T(Coût);
-    });
+    Calculate({&txt_PrixCoûtant}, [&] { txt_PrixCoûtant.Text = T(Matériaux.Somme()); });
+    CalculerGain();
 }
 
+// No figure of the bill takes part, but a bill that couldn't be read is no object to sell.
 void frm_ArtisanatsSecondaires::CalculerGain()
 {
-    Calculate({&txt_Gain},
-              [&] { txt_Gain.Text = T(M(txt_PrixRevente) * M(txt_NbObjet) - M(txt_CoûtSuppl)); });
+    Calculate({&txt_Gain}, [&] {
+        Matériaux.Somme();
+        txt_Gain.Text = T(M(txt_PrixRevente) * M(txt_NbObjet) - M(txt_CoûtSuppl));
+    });
 }
 
 } // namespace orvane

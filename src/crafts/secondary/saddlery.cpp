@@ -1,13 +1,10 @@
 #include "app/queries.h"
 #include "base/typography.h"
-#include "crafts/common/joined_column.h"
+#include "crafts/common/lecture.h"
 #include "crafts/secondary/frm_artisanats_secondaires.h"
 #include "settings/level_indicator.h"
 #include "toolkit/calculation.h"
 #include "toolkit/visibility.h"
-#include "toolkit/writing.h"
-
-#include <array>
 
 // Objects for horses: chosen by trade, narrowed by a word of their names, priced with the trade's
 // one margin. There are no trials, and what a merchant pays is only shown.
@@ -19,7 +16,7 @@ void frm_ArtisanatsSecondaires::PréparerSellerie()
     lbl_Zone1.Caption = "Objet :";
     lbl_Zone2.Caption = "Tri :";
     ShowAll({&lbl_Zone2, &cbo_Degré}, true);
-    Montrer(Ligne(4), true);
+    Matériaux[4].Montrer(true);
     cmd_AjouterPanier.Visible = true;
     LireNiveauCraft();
 
@@ -55,13 +52,16 @@ void frm_ArtisanatsSecondaires::FiltrerSellerie()
 void frm_ArtisanatsSecondaires::ChoisirSellerie()
 {
     ViderChamps();
-    ReadOrStale(Together({&txt_PrixCoûtant, &txt_SelleriePrixCoûtant, &txt_SelleriePrixVente},
-                         txt_PrixMatUnitaire),
-                [&] {
-                    LireSellerie();
-                    ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
-                });
-    CalculerSellerie();
+    LireOuPérimer(
+        {{&Matériaux}, {&txt_PrixRevente}},
+        [&] {
+            LireSellerie();
+            ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
+            // a hidden row counts nothing, whatever its quantity and price
+            Matériaux.Chiffrer(ProduitDeMontants,
+                               [](const LigneMatériau& Each) { return Each.Nom.Visible(); });
+        },
+        [&] { CalculerSellerie(); });
 }
 
 void frm_ArtisanatsSecondaires::LireSellerie()
@@ -74,32 +74,17 @@ void frm_ArtisanatsSecondaires::LireSellerie()
     txt_Image.Text = Objet.TextOrEmpty("Image");
     txt_PrixRevente.Text = Objet.Text("PrixRevente");
     lbl_Niveau.Caption = Objet.Text("NiveauCraft");
-    for (int i = 1; i <= 4; ++i)
-        txt_Matériaux[i].Text = Objet.Text(ColonneJointe("Matériaux_Classique", i, "Nom"));
-    for (int i = 1; i <= 4; ++i)
-        txt_PrixMatUnitaire[i].Text = Objet.Text(ColonneJointe("Matériaux_Classique", i, "Prix"));
-    for (int i = 1; i <= 4; ++i)
-        txt_MatériauxQté[i].Text = Objet.Text("Qté" + std::to_string(i));
+    Matériaux.Charger(Objet, "Matériaux_Classique", false);
     Globals.Enregistrements.Empty();
 }
 
-// A hidden row counts nothing, whatever its quantity and price.
 void frm_ArtisanatsSecondaires::CalculerSellerie()
 {
     Calculate({&txt_PrixCoûtant, &txt_SelleriePrixCoûtant, &txt_SelleriePrixVente}, [&] {
-        std::array<Montant, 4> Lignes;
-        Montant Coût;
-        for (int i = 1; i <= 4; ++i) {
-            Montant& Prix = Lignes[static_cast<std::size_t>(i - 1)];
-            if (i <= 2 || txt_Matériaux[i].Visible)
-                Prix = M(txt_PrixMatUnitaire[i]) * M(txt_MatériauxQté[i]);
-            Coût = Coût + Prix;
-        }
+        const Montant Coût = Matériaux.Somme();
         const Montant Total = I(txt_SellerieNbObjets) * Coût;
         const double Vente = D(Total) * (1 + Marge / 100.0);
 
-        for (int i = 1; i <= 4; ++i)
-            txt_PrixMat[i].Text = T(Lignes[static_cast<std::size_t>(i - 1)]);
         txt_PrixCoûtant.Text = T(Coût);
         txt_SelleriePrixCoûtant.Text = T(Total);
         txt_SelleriePrixVente.Text = T(Vente);
