@@ -86,15 +86,15 @@ void WalkToGem(Walk& On)
 void AddPick(Walk& On)
 {
     auto& Screen = On.Manuels();
-    On.Raw.Add(ObjetParNom, {Screen.cbo_Objet.Text()});
+    On.Raw.Add(ObjetParNom, {Screen.cbo_Objet.Text});
     On.Raw.Add("SELECT d.Nom, p.Nom, p.Degré FROM Classique_Produits p "
                "JOIN Artisanat_Liste a ON p.Artisanat = a.Num "
                "LEFT JOIN Classique_ProduitsDétaillés d ON d.Produit = p.Num "
                "LEFT JOIN Classique_ListeObjets o ON o.ProduitDétaillé = d.Num "
                "WHERE a.Nom = ? COLLATE NOCASE AND p.Nom = ? COLLATE NOCASE",
-               {Screen.lbl_Artisanat.Caption(), Screen.cbo_Produit.Text()});
+               {Screen.lbl_Artisanat.Caption, Screen.cbo_Produit.Text});
     On.Raw.Add("SELECT * FROM Degrés_ListeTypes", {});
-    On.Raw.Add(ObjetParNom, {Screen.cbo_Objet.Text()});
+    On.Raw.Add(ObjetParNom, {Screen.cbo_Objet.Text});
 }
 
 // The queries of a degree click: its number, the materials, the object.
@@ -102,12 +102,12 @@ void AddDegree(Walk& On)
 {
     auto& Screen = On.Manuels();
     On.Raw.Add("SELECT * FROM Degrés_ListeTypes WHERE DegréType1 = ? COLLATE NOCASE",
-               {Screen.cbo_Degré.Text()});
+               {Screen.cbo_Degré.Text});
     for (const LigneMatériau& Each : Screen.Matériaux)
         if (Each.Code->Text != "10" && Each.Code->Text != "8")
             On.Raw.Add("SELECT * FROM Matériaux_Classique WHERE Type = ? AND Degré = 0",
-                       {Each.Code->Text()});
-    On.Raw.Add(ObjetParNom, {Screen.cbo_Objet.Text()});
+                       {Each.Code->Text});
+    On.Raw.Add(ObjetParNom, {Screen.cbo_Objet.Text});
 }
 
 void AddLayout(Walk& On)
@@ -131,21 +131,21 @@ void AddLayout(Walk& On)
 void AddPotion(Walk& On)
 {
     auto& Screen = On.Magiques();
-    On.Raw.Add(ObjetAlchimique, {Screen.cbo_Produit.Text(), Screen.cbo_ProduitDétaillé.Text(),
-                                 Screen.cbo_Objet.Text()});
+    On.Raw.Add(ObjetAlchimique,
+               {Screen.cbo_Produit.Text, Screen.cbo_ProduitDétaillé.Text, Screen.cbo_Objet.Text});
 }
 
 void AddGem(Walk& On)
 {
     auto& Screen = On.Magiques();
     const std::string Degrés =
-        "SELECT DegréType1, DegréType" + Screen.txt_Degré.Text() + " FROM Degrés_Arcanes";
+        "SELECT DegréType1, DegréType" + Screen.txt_Degré.Text + " FROM Degrés_Arcanes";
     const std::string ParNom = " WHERE DegréType1 = ? COLLATE NOCASE";
     On.Raw.Add(Degrés, {});
-    On.Raw.Add(Degrés + ParNom, {Screen.cbo_DegréGemmes.Text()});
+    On.Raw.Add(Degrés + ParNom, {Screen.cbo_DegréGemmes.Text});
     On.Raw.Add("SELECT NuméroDegré, PrixRevente, DegréType1 FROM Degrés_Arcanes" + ParNom,
-               {Screen.cbo_DegréGemmes.Text()});
-    On.Raw.Add(Gemme, {Screen.cbo_TypeBonus.Text(), Screen.cbo_SousTypeBonus.Text()});
+               {Screen.cbo_DegréGemmes.Text});
+    On.Raw.Add(Gemme, {Screen.cbo_TypeBonus.Text, Screen.cbo_SousTypeBonus.Text});
     On.Raw.Add("SELECT * FROM Matériaux_Arcanes WHERE Degré = 1", {});
 }
 

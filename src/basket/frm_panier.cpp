@@ -50,7 +50,7 @@ void frm_Panier::RemplirListes()
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminPanier);
     Globals.TexteSQL =
         "SELECT * FROM PanierGlobal WHERE (Royaume=" + Quoted(Globals.RoyaumeCourant) +
-        " AND Acheteur=" + Quoted(cbo_Commandes.Text()) + ") ORDER BY Nom";
+        " AND Acheteur=" + Quoted(cbo_Commandes.Text) + ") ORDER BY Nom";
     for (Recordset& Lignes = OuvrirEnregistrements(Globals); !Lignes.Eof(); Lignes.MoveNext()) {
         lst_Num.AddItem(Lignes.TextOrEmpty("Num"));
         lst_Objet.AddItem(Lignes.TextOrEmpty("Nom"));
@@ -100,7 +100,7 @@ void frm_Panier::cbo_Commandes_Click()
 {
     ViderListes();
     RemplirListes();
-    cmd_Enregistrer.Visible = lst_Num.ListCount() > 0 && cbo_Commandes.Text() == NouvelleCommande;
+    cmd_Enregistrer.Visible = lst_Num.ListCount() > 0 && cbo_Commandes.Text == NouvelleCommande;
 }
 
 void frm_Panier::cmd_Enregistrer_Click()
@@ -138,7 +138,7 @@ void frm_Panier::cmd_SupprimerObjet_Click()
         return;
     {
         const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminPanier);
-        Globals.TexteSQL = "DELETE * FROM PanierGlobal WHERE Num=" + lst_Num.Text();
+        Globals.TexteSQL = "DELETE * FROM PanierGlobal WHERE Num=" + lst_Num.Text;
         Globals.BaseDonnées->Execute(Globals.TexteSQL);
     }
     ViderListes();
@@ -152,7 +152,7 @@ void frm_Panier::cmd_SupprimerCommande_Click()
     {
         const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminPanier);
         Globals.TexteSQL =
-            "DELETE * FROM PanierGlobal WHERE Acheteur=" + Quoted(cbo_Commandes.Text());
+            "DELETE * FROM PanierGlobal WHERE Acheteur=" + Quoted(cbo_Commandes.Text);
         Globals.BaseDonnées->Execute(Globals.TexteSQL);
     }
     ViderListes();

@@ -55,11 +55,11 @@ void AjouterLigne(Application& App, const LigneCommande& Ligne)
     Recordset& Panier = OuvrirEnregistrements2(Globals);
     Panier.AddNew();
     Panier.Set("Nom", Ligne.Nom);
-    Panier.Set("Nb", Ligne.Nb.Text());
-    Panier.Set("PrixCoûtant", Ligne.PrixCoûtant.Text());
-    Panier.Set("PrixVente", Ligne.PrixVente.Text());
+    Panier.Set("Nb", Ligne.Nb.Text);
+    Panier.Set("PrixCoûtant", Ligne.PrixCoûtant.Text);
+    Panier.Set("PrixVente", Ligne.PrixVente.Text);
     Panier.Set("Royaume", Globals.RoyaumeCourant);
-    Panier.Set("Acheteur", App.Feuilles.Get<frm_Panier>().cbo_Commandes.Text());
+    Panier.Set("Acheteur", App.Feuilles.Get<frm_Panier>().cbo_Commandes.Text);
     Panier.Update();
     Globals.Enregistrements2.Empty();
 }

@@ -125,10 +125,10 @@ void frm_Configuration::DéfinirRéglages()
         PlaceRow(Each);
     for (const RéglagesArtisanat& Craft : Boxes) {
         if (Craft.Niveau != nullptr)
-            Craft.Niveau->StartWith("1");
+            Craft.Niveau->Text.StartWith("1");
         for (TextBox* Margin : {Craft.Marge, Craft.Essai})
             if (Margin != nullptr)
-                Margin->StartWith("0");
+                Margin->Text.StartWith("0");
         for (TextBox* Box : {Craft.Niveau, Craft.Marge, Craft.Essai})
             if (Box != nullptr)
                 Box->OpenFor(NumberKind::Entier16);

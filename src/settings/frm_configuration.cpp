@@ -68,16 +68,16 @@ bool frm_Configuration::ToutEstValable()
 {
     std::string Faute;
     // What is in force stays possible, also when its files are gone.
-    const bool MêmeRésolution = cbo_Résolution.Text() == EnVigueur("txt_Résolution").Text();
+    const bool MêmeRésolution = cbo_Résolution.Text == EnVigueur("txt_Résolution").Text;
     if (!MêmeRésolution && cbo_Résolution.FindItem(cbo_Résolution.Text) < 0)
         Faute = "La résolution « " + cbo_Résolution.Text + " » n’existe pas.";
-    const bool MêmeSkin = cbo_Skin.Text() == EnVigueur("txt_Skin").Text();
+    const bool MêmeSkin = cbo_Skin.Text == EnVigueur("txt_Skin").Text;
     if (!MêmeSkin && (cbo_Skin.FindItem(cbo_Skin.Text) < 0 || !SkinExiste(App, cbo_Skin.Text)))
         Faute = "La skin « " + cbo_Skin.Text + " » n’existe pas.";
     for (const RéglagesArtisanat& Artisanat : Réglages())
         for (TextBox* Case : {Artisanat.Niveau, Artisanat.Marge, Artisanat.Essai})
             if (Case != nullptr) {
-                Case->Marked = !Entier16FromText(Case->Text());
+                Case->Marked = !Entier16FromText(Case->Text);
                 if (Case->Marked)
                     Faute = "Les cases marquées doivent contenir un nombre entier.";
             }
@@ -95,11 +95,11 @@ void frm_Configuration::EnregistrerRéglages()
     for (const RéglagesArtisanat& Artisanat : Réglages()) {
         Lignes.Edit();
         if (Artisanat.Niveau != nullptr)
-            Lignes.Set("Craft" + Royaume, Artisanat.Niveau->Text());
+            Lignes.Set("Craft" + Royaume, Artisanat.Niveau->Text);
         if (Artisanat.Marge != nullptr)
-            Lignes.Set("Marges1" + Royaume, Artisanat.Marge->Text());
+            Lignes.Set("Marges1" + Royaume, Artisanat.Marge->Text);
         if (Artisanat.Essai != nullptr)
-            Lignes.Set("Marges2" + Royaume, Artisanat.Essai->Text());
+            Lignes.Set("Marges2" + Royaume, Artisanat.Essai->Text);
         Lignes.Update();
         Lignes.MoveNext();
     }
@@ -114,22 +114,22 @@ TextBox& frm_Configuration::EnVigueur(const char* Case)
 void frm_Configuration::EnregistrerChoix(const std::string& Table, ComboBox& Liste,
                                          const char* Case)
 {
-    if (Liste.Text().empty()) // no skin was found at all: the stored name may come back
+    if (Liste.Text.empty()) // no skin was found at all: the stored name may come back
         return;
     Globals.TexteSQL = "SELECT Nom FROM " + Table;
     Recordset& Ligne = PremierEnregistrement(Globals);
     Ligne.Edit();
-    Ligne.Set("Nom", Liste.Text());
+    Ligne.Set("Nom", Liste.Text);
     Ligne.Update();
     Globals.Enregistrements.Empty();
     TextBox& Courant = EnVigueur(Case);
-    if (Courant.Text != Liste.Text())
-        Courant.Text = Liste.Text();
+    if (Courant.Text != Liste.Text)
+        Courant.Text = Liste.Text;
 }
 
 void LireRéglage(const TextBox& Réglage, std::int16_t& Variable)
 {
-    if (const auto Valeur = Entier16FromText(Réglage.Text()))
+    if (const auto Valeur = Entier16FromText(Réglage.Text))
         Variable = *Valeur;
 }
 

@@ -19,12 +19,12 @@ Number OrMarked(std::optional<Number> Read, TextBox& Box)
 
 Montant M(TextBox& Box)
 {
-    return OrMarked(Montant::FromText(Box.Text()), Box);
+    return OrMarked(Montant::FromText(Box.Text), Box);
 }
 
 std::int16_t I(TextBox& Box)
 {
-    return OrMarked(Entier16FromText(Box.Text()), Box);
+    return OrMarked(Entier16FromText(Box.Text), Box);
 }
 
 } // namespace orvane

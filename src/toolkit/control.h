@@ -46,7 +46,7 @@ class Control : private PropertyOwner
     Property<double> FontSize{*this, PropertyId::FontSize, 9.0};
     Property<Colour> ForeColor{*this, PropertyId::ForeColor, Black};
     Property<Colour> BackColor{*this, PropertyId::BackColor, White};
-    Property<std::string> Tip{*this, PropertyId::Tip}; // what a hovering mouse and a reader tell
+    TextProperty Tip{*this, PropertyId::Tip}; // what a hovering mouse and a reader tell
 
   protected:
     PropertyOwner& AsOwner() { return *this; }

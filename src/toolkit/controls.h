@@ -15,7 +15,7 @@ class Label : public Control
   public:
     Label(Screen& Owner, std::string Name) : Control(Owner, ControlKind::Label, std::move(Name)) {}
 
-    Property<std::string> Caption{AsOwner(), PropertyId::Caption};
+    TextProperty Caption{AsOwner(), PropertyId::Caption};
     Property<bool> Bold{AsOwner(), PropertyId::Bold};
     Alignment Align = Alignment::Left;
 };
@@ -79,7 +79,7 @@ class Button : public PictureControl
     {
     }
 
-    Property<std::string> Words{AsOwner(), PropertyId::Caption};
+    TextProperty Words{AsOwner(), PropertyId::Caption};
 };
 
 } // namespace orvane

@@ -73,7 +73,7 @@ class ComboBox : public ListControl
     }
 
     // Assigning runs nothing and leaves the index alone.
-    Property<std::string> Text{AsOwner(), PropertyId::Text};
+    TextProperty Text{AsOwner(), PropertyId::Text};
 
   protected:
     void ShowChoice(const std::string& Entry) override { Text = Entry; }
@@ -87,14 +87,11 @@ class ListBox : public ListControl
     {
     }
 
-    // The chosen entry, or the empty text.
-    const std::string& Text() const { return Chosen; }
+    // The chosen entry, or the empty text; written by the choice alone.
+    TextProperty Text{AsOwner(), PropertyId::Text};
 
   protected:
-    void ShowChoice(const std::string& Entry) override { Chosen = Entry; }
-
-  private:
-    std::string Chosen;
+    void ShowChoice(const std::string& Entry) override { Text = Entry; }
 };
 
 } // namespace orvane

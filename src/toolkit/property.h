@@ -36,6 +36,7 @@ class PropertyOwner
 {
   public:
     virtual void Changed(PropertyId Id) = 0;
+    virtual void Assigned(PropertyId) {} // a text was written, perhaps the same one
 
   protected:
     ~PropertyOwner() = default;
@@ -76,14 +77,62 @@ class Property
     Type Value;
 };
 
-// Texts are joined as handlers write them: cbo_Objet.Text + " " + cbo_Degré.Text.
-inline std::string operator+(const std::string& Left, const Property<std::string>& Right)
+// A text of a control: read, joined and compared as a text is.
+// cbo_Objet.Text + " " + cbo_Degré.Text
+class TextProperty
 {
-    return Left + Right();
-}
-inline std::string operator+(const Property<std::string>& Left, const std::string& Right)
-{
-    return Left() + Right;
-}
+  public:
+    TextProperty(PropertyOwner& Owner, PropertyId Id, std::string Initial = {})
+        : Owner(Owner),
+          Id(Id),
+          Value(std::move(Initial))
+    {
+    }
+    TextProperty(const TextProperty&) = delete;
+
+    TextProperty& operator=(const std::string& Given)
+    {
+        Owner.Assigned(Id);
+        if (Value != Given) {
+            Value = Given;
+            Owner.Changed(Id);
+        }
+        return *this;
+    }
+    TextProperty& operator=(const TextProperty& Other) { return *this = Other.Value; }
+
+    // The text of a screen's definition: nobody is told.
+    void StartWith(std::string Initial) { Value = std::move(Initial); }
+
+    operator const std::string&() const { return Value; }
+    operator std::string_view() const { return Value; }
+    bool empty() const { return Value.empty(); }
+
+    friend bool operator==(const TextProperty& Left, std::string_view Right)
+    {
+        return Left.Value == Right;
+    }
+    friend bool operator==(const TextProperty& Left, const TextProperty& Right)
+    {
+        return Left.Value == Right.Value;
+    }
+    friend std::string operator+(const TextProperty& Left, std::string_view Right)
+    {
+        return std::string(Left.Value).append(Right);
+    }
+    friend std::string operator+(std::string_view Left, const TextProperty& Right)
+    {
+        return std::string(Left).append(Right.Value);
+    }
+    friend std::string operator+(const TextProperty& Left, const TextProperty& Right)
+    {
+        return Left.Value + Right.Value;
+    }
+
+  private:
+    PropertyOwner& Owner;
+    PropertyId Id;
+    std::string Value;
+};
 
 } // namespace orvane

@@ -42,7 +42,7 @@ class Screen : private PropertyOwner
     Control& Find(std::string_view Name) const;
     Control* FindOrNull(std::string_view Name) const;
 
-    Property<std::string> Caption{*this, PropertyId::Caption};
+    TextProperty Caption{*this, PropertyId::Caption};
     Property<int> Width{*this, PropertyId::Width};
     Property<int> Height{*this, PropertyId::Height};
     Property<orvane::Picture> Picture{*this, PropertyId::Picture}; // the background

@@ -20,16 +20,6 @@ TextBox::TextBox(Screen& Owner, std::string Name)
 {
 }
 
-TextBox::TextProperty& TextBox::TextProperty::operator=(const std::string& Given)
-{
-    Box.Stale = false;
-    if (Value != Given) {
-        Value = Given;
-        Box.TextChanged();
-    }
-    return *this;
-}
-
 void TextBox::OpenFor(NumberKind Kind)
 {
     Accepts = Kind;
@@ -37,11 +27,18 @@ void TextBox::OpenFor(NumberKind Kind)
     BackColor = InputGrey;
 }
 
-void TextBox::TextChanged()
+void TextBox::Assigned(PropertyId Id)
 {
-    Marked = Accepts != NumberKind::None && !IsNumber(Text, Accepts);
-    Changed(PropertyId::Text);
-    if (OnChange)
+    if (Id == PropertyId::Text)
+        Stale = false;
+}
+
+void TextBox::Changed(PropertyId Id)
+{
+    if (Id == PropertyId::Text)
+        Marked = Accepts != NumberKind::None && !IsNumber(Text, Accepts);
+    Control::Changed(Id);
+    if (Id == PropertyId::Text && OnChange)
         OnChange();
 }
 

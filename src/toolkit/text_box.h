@@ -17,31 +17,7 @@ class TextBox : public Control
 
     // Assigning a different text runs OnChange inside the assignment; the same text runs nothing.
     // Whatever is written is no longer stale.
-    class TextProperty
-    {
-      public:
-        explicit TextProperty(TextBox& Box) : Box(Box) {}
-        TextProperty(const TextProperty&) = delete;
-
-        TextProperty& operator=(const std::string& Given);
-        TextProperty& operator=(const TextProperty& Other) { return *this = Other.Value; }
-
-        operator const std::string&() const { return Value; }
-        const std::string& operator()() const { return Value; }
-
-        friend bool operator==(const TextProperty& Left, std::string_view Right)
-        {
-            return Left.Value == Right;
-        }
-
-      private:
-        friend class TextBox;
-
-        TextBox& Box;
-        std::string Value;
-    };
-
-    TextProperty Text{*this};
+    TextProperty Text{AsOwner(), PropertyId::Text};
     Property<bool> Locked{AsOwner(), PropertyId::Locked, true};
 
     // The text is no number of the kind that the box accepts, or that a calculation needed.
@@ -55,14 +31,12 @@ class TextBox : public Control
     NumberKind Accepts = NumberKind::None;
     std::function<void()> OnChange;
 
-    // The text of a screen's definition: no handler runs.
-    void StartWith(std::string Initial) { Text.Value = std::move(Initial); }
-
     // Open to typing on the input ground, meant for numbers of that kind.
     void OpenFor(NumberKind Kind);
 
   private:
-    void TextChanged();
+    void Assigned(PropertyId Id) override;
+    void Changed(PropertyId Id) override;
 };
 
 } // namespace orvane

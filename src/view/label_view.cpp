@@ -71,7 +71,7 @@ void LabelView::Fit()
         Font.setPointSizeF(TheLabel.FontSize * Share);
         setFont(Font);
     }
-    setToolTip(!Fits() && TheLabel.Tip().empty() ? text() : ToQt(TheLabel.Tip));
+    setToolTip(!Fits() && TheLabel.Tip.empty() ? text() : ToQt(TheLabel.Tip));
 }
 
 void LabelView::resizeEvent(QResizeEvent* Event)

@@ -68,7 +68,7 @@ std::string RoleAfterSign(const Control& Input)
     }));
     if (Sign == nullptr)
         return {};
-    return Sign->Caption() == "x" ? ", quantité" : Sign->Caption() == "=" ? ", prix" : "";
+    return Sign->Caption == "x" ? ", quantité" : Sign->Caption == "=" ? ", prix" : "";
 }
 
 // The first box of a row whose boxes stand behind signs.

@@ -82,7 +82,7 @@ void TextBoxView::Insert(const QString& Pasted)
 
 void TextBoxView::ShowText()
 {
-    const QString Wanted = ToQt(Box.Text());
+    const QString Wanted = ToQt(Box.Text);
     if (text() == Wanted)
         return;
     setText(Wanted);

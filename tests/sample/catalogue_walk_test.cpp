@@ -142,7 +142,7 @@ class Catalogue : public testing::TestWithParam<const char*>
         const auto& List = Le<ComboBox>(Along.Screen, Along.Lists[Depth]);
         if (List.Name() != "cbo_TypeDégats" || !List.Visible)
             return List.Visible;
-        const std::string& Degree = Le<ComboBox>(Along.Screen, "cbo_Degré").Text();
+        const std::string& Degree = Le<ComboBox>(Along.Screen, "cbo_Degré").Text;
         return Degree == "en dyr" || Degree == "en arcania";
     }
 

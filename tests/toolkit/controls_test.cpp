@@ -13,8 +13,8 @@ class ControlsTest : public ScreenTest, public ScreenObserver
         for (ListControl* Each : std::initializer_list<ListControl*>{&Combo, &List})
             for (const char* Entry : {"Arc", "Dague", "Lance"})
                 Each->AddItem(Entry);
-        Combo.OnClick = [this] { Log += "combo " + Combo.Text() + ";"; };
-        List.OnClick = [this] { Log += "list " + List.Text() + ";"; };
+        Combo.OnClick = [this] { Log += "combo " + Combo.Text + ";"; };
+        List.OnClick = [this] { Log += "list " + List.Text + ";"; };
         Logged();
     }
 
@@ -30,7 +30,7 @@ class ControlsTest : public ScreenTest, public ScreenObserver
     {
         const bool Good = Calculate({&Prix}, [this] { Prix.Text = T(I(Nb) * M(Mat)); });
         EXPECT_EQ(Good, !Prix.Stale());
-        return Prix.Text() + (Good ? "" : " stale") + (Nb.Marked ? " Nb" : "") +
+        return Prix.Text + (Good ? "" : " stale") + (Nb.Marked ? " Nb" : "") +
                (Mat.Marked ? " Mat" : "");
     }
 
@@ -57,6 +57,7 @@ TEST_F(ControlsTest, AnObserverIsToldOnceOfAChangeAndBeforeHandlersRun)
     EXPECT_EQ(Log, Told("cmd_Action", PropertyId::Left) + Told("screen", PropertyId::Caption) +
                        Told("txt_Nb", PropertyId::Text) + "change;" +
                        Told("lst_Objets", PropertyId::Items) +
+                       Told("lst_Objets", PropertyId::Text) +
                        Told("lst_Objets", PropertyId::ListIndex) + "list Arc;");
 }
 
@@ -99,7 +100,7 @@ TEST_F(ControlsTest, AddItemClearAndTextRunNothing)
     Combo.OnClick = [this] { Combo.Clear(); }; // a handler may empty its own list
     Combo.ListIndex = 2;
     List.Clear();
-    EXPECT_EQ(Logged() + Combo.Text() + List.Text(), "");
+    EXPECT_EQ(Logged() + Combo.Text + List.Text, "");
     EXPECT_EQ(Combo.ListIndex + Combo.ListCount() + List.ListCount(), -1);
 }
 
@@ -124,9 +125,9 @@ TEST_F(ControlsTest, ChangeRunsInsideTheAssignmentOfADifferentText)
             Nb.Text = "0";
         if (Nb.Text == "0")
             Nb.Text = "1";
-        Log += "[" + Nb.Text() + "]";
+        Log += "[" + Nb.Text + "]";
     };
-    Nb.StartWith("5");
+    Nb.Text.StartWith("5");
     Nb.Text = "5";
     EXPECT_EQ(Logged(), "") << "the text of a definition runs nothing";
     Nb.Text = "5 ";

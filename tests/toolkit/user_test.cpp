@@ -26,7 +26,7 @@ class UserTest : public ScreenTest
     // Everything that a person can do to the controls of A.
     void DoEverything()
     {
-        Person.Type(A.txt_Nb, A.txt_Nb.Text() + "1");
+        Person.Type(A.txt_Nb, A.txt_Nb.Text + "1");
         Person.Click(A.cmd_Action);
         Person.Pick(A.cbo_Objet, 0);
         Person.Pick(A.cbo_Objet, "Arc");
@@ -60,7 +60,7 @@ TEST_F(UserTest, WhatIsLockedOrNotThereCannotBeTypedPickedOrClicked)
     A.txt_Nb.Locked = true;
     Person.Type(A.txt_Nb, "5");
     Person.Type(A.cbo_Objet, "Arc");
-    EXPECT_EQ(A.txt_Nb.Text() + A.cbo_Objet.Text(), "Arc");
+    EXPECT_EQ(A.txt_Nb.Text + A.cbo_Objet.Text, "Arc");
     EXPECT_EQ(A.cbo_Objet.ListIndex, -1) << "typing chooses nothing";
     Person.Pick(A.cbo_Objet, 1);
     Person.Pick(A.cbo_Objet, -1);

@@ -40,13 +40,13 @@ class ComboBoxOnScreen : public Stage
     // "text#index (picks) [open list, its highlighted entry with a star]"
     std::string Seen() override
     {
-        EXPECT_EQ(FromQt(Field().text()), Box().Text());
+        EXPECT_EQ(FromQt(Field().text()), Box().Text);
         QStringList Offered;
         if (const EntryPopup* List = View().Popup(); List != nullptr && List->isVisible())
             for (int Row = 0; Row < List->model()->rowCount(); ++Row)
                 Offered << (Row == List->currentIndex().row() ? "*" : "") +
                                List->model()->index(Row, 0).data().toString();
-        return Box().Text() + "#" + std::to_string(Box().ListIndex) + " (" + Stage::Seen() + ") [" +
+        return Box().Text + "#" + std::to_string(Box().ListIndex) + " (" + Stage::Seen() + ") [" +
                FromQt(Offered.join('/')) + "]";
     }
 };

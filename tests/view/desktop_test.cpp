@@ -32,7 +32,7 @@ class TwoWindows : public Stage
         Voisin().Show();
         Show();
         Voisin().Log.clear();
-        Voisin().txt_Nom.OnChange = [this] { Voisin().Log << ToQt(Voisin().txt_Nom.Text()); };
+        Voisin().txt_Nom.OnChange = [this] { Voisin().Log << ToQt(Voisin().txt_Nom.Text); };
     }
     frm_Atelier& Voisin() { return static_cast<frm_Atelier&>(TheForms.Touch("frm_Voisin")); }
     ScreenWindow& Lower() { return Checked(Windows.WindowOf(Voisin()), "lower window"); }

@@ -34,7 +34,7 @@ class frm_Atelier : public Screen
         Place(txt_Nom, {290, 80, 100, 24});
         txt_Nom.Locked = false;
         Place(txt_Total, {290, 120, 100, 24});
-        txt_Total.StartWith("42");
+        txt_Total.Text.StartWith("42");
         PlaceLabel(lbl_Objet, "Objet :", {490, 40, 60, 24});
         Place(cbo_Objet, {560, 40, 160, 24});
         for (const char* Each : {"Cape", "Épée courte", "Grande épée", "Écharpe"})

@@ -40,7 +40,7 @@ class TextBoxOnScreen : public Stage
         Deeds["total"] = [this](const QString& Text) { Atelier().txt_Total.Text = FromQt(Text); };
         for (TextBox* Each : Fields())
             Each->OnChange = [this, Each] {
-                Log() << ToQt(Each->Text());
+                Log() << ToQt(Each->Text);
                 if (Each == &Atelier().txt_Nombre && Each->Text == "")
                     Each->Text = "0"; // the program repairs it
             };
@@ -55,7 +55,7 @@ class TextBoxOnScreen : public Stage
     {
         for (TextBox* Each : Fields()) {
             const auto& Field = The<QLineEdit>(ToQt(Each->Name()));
-            EXPECT_EQ(FromQt(Field.text()), Each->Text());
+            EXPECT_EQ(FromQt(Field.text()), Each->Text);
             EXPECT_EQ(Field.isReadOnly(), Each->Locked());
         }
         return Stage::Seen();

@@ -66,7 +66,7 @@ std::string Told(const SideMenu& Menu, const std::string& Side)
 
 std::string Told(const TextBox& Box)
 {
-    std::string Result = Box.Text();
+    std::string Result = Box.Text;
     for (const auto& [Holds, Sign] : {std::pair(Box.Marked(), '!'), std::pair(Box.Stale(), '?')})
         if (Holds)
             Result += (Result.empty() ? "" : " ") + std::string(1, Sign);
@@ -84,7 +84,7 @@ std::string Appearance::Of(const Control& Which) const
     if (const auto* Box = dynamic_cast<const ComboBox*>(&Which))
         return Box->Text;
     if (const auto* Box = dynamic_cast<const ListBox*>(&Which))
-        return Box->Text();
+        return Box->Text;
     if (const auto* Words = dynamic_cast<const Label*>(&Which))
         return Words->Caption;
     if (const auto* Menu = dynamic_cast<const SideMenu*>(&Which))

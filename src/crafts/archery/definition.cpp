@@ -32,12 +32,12 @@ void frm_Archerie::Définir()
 
     PlacePanel(shp_Vente, {16, 292, 648, 172});
     PlaceField(lbl32, "Nb de carquois :", txt_NbObjet, {30, 306, 154, High}, 80);
-    txt_NbObjet.StartWith("1");
+    txt_NbObjet.Text.StartWith("1");
     txt_NbObjet.OpenFor(NumberKind::Entier16);
     PlaceLabel(lbl33, "20 unités par carquois", {280, 306, 360, High});
     PlaceField(lbl31, "Prix coûtant :", txt_PrixCoûtant, {30, 346, 154, High}, 180);
     PlaceField(lbl34, "Prix de vente : ", txt_PrixVente, {30, 386, 154, High}, 180);
-    txt_PrixVente.StartWith("0");
+    txt_PrixVente.Text.StartWith("0");
     PlaceLabel(lbl35, "Application globale de la marge", {30, 426, 360, High});
     txt_Icône.Visible = false;
 

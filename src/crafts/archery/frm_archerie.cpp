@@ -48,7 +48,7 @@ void frm_Archerie::cbo_Type_Click()
     cbo_Objet.Clear();
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
     Globals.TexteSQL =
-        "SELECT Archerie.Nom FROM R_Archerie WHERE ArcherieType.Nom=" + Quoted(cbo_Type.Text());
+        "SELECT Archerie.Nom FROM R_Archerie WHERE ArcherieType.Nom=" + Quoted(cbo_Type.Text);
     RemplirListe(Globals, cbo_Objet, "Nom");
 }
 
@@ -67,9 +67,8 @@ void frm_Archerie::cbo_Objet_Click()
 void frm_Archerie::LireCarquois()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    Globals.TexteSQL =
-        "SELECT * FROM R_Archerie WHERE (ArcherieType.Nom=" + Quoted(cbo_Type.Text()) +
-        " AND Archerie.Nom=" + Quoted(cbo_Objet.Text()) + ")";
+    Globals.TexteSQL = "SELECT * FROM R_Archerie WHERE (ArcherieType.Nom=" + Quoted(cbo_Type.Text) +
+                       " AND Archerie.Nom=" + Quoted(cbo_Objet.Text) + ")";
     const Recordset& Carquois = PremierEnregistrement(Globals);
     lbl_Niveau.Caption = Carquois.Text("NiveauCraft");
     Matériaux.Charger(Carquois, "Matériaux_Classique", false);
@@ -93,7 +92,7 @@ void frm_Archerie::CalculerPrixCarquois()
 
 void frm_Archerie::cmd_AjouterPanier_Click()
 {
-    if (cbo_Objet.Text() == "") {
+    if (cbo_Objet.Text == "") {
         App.MsgBox("Aucun carquois sélectionné.");
         return;
     }

@@ -14,9 +14,9 @@ constexpr std::string_view BarresDeMétal = "Barres de métal";
 void RemplacerDernierCaractère(Variables& Globals, TextBox& Nom)
 {
     const std::string& Royaume = Globals.RoyaumeCourant;
-    Globals.TexteSQL = "SELECT Nom, " + Royaume + " FROM Matériaux WHERE Nom=" + Quoted(Nom.Text());
+    Globals.TexteSQL = "SELECT Nom, " + Royaume + " FROM Matériaux WHERE Nom=" + Quoted(Nom.Text);
     const std::string Terminaison = PremierEnregistrement(Globals).Text(Royaume);
-    Nom.Text = WithoutLastCharacters(Nom.Text(), 1) + Terminaison;
+    Nom.Text = WithoutLastCharacters(Nom.Text, 1) + Terminaison;
     Globals.Enregistrements.Empty();
 }
 
@@ -28,7 +28,7 @@ void ChargerObjetSup(Variables& Globals, const std::string& Nom, const ObjetSup&
     Où.Icône.Text = Objet.TextOrEmpty("Icône");
     Où.Matériaux.Charger(Objet, "Matériaux", true);
     TextBox& Premier = Où.Matériaux[1].Nom;
-    if (FirstCharacters(Premier.Text(), CharacterCount(BarresDeMétal)) == BarresDeMétal)
+    if (FirstCharacters(Premier.Text, CharacterCount(BarresDeMétal)) == BarresDeMétal)
         RemplacerDernierCaractère(Globals, Premier);
 }
 

@@ -7,7 +7,7 @@ namespace orvane {
 void RésoudreMatériau(Variables& Globals, std::int16_t NuméroDegré, bool PatronCouronne,
                       LigneMatériau& Ligne)
 {
-    const std::string& Code = Ligne.Code->Text();
+    const std::string& Code = Ligne.Code->Text;
     if (Code == CodeSansMatériau)
         return;
     if (Code == CodePatron) {

@@ -95,7 +95,7 @@ void Nomenclature::CommencerParZéro()
 {
     for (LigneMatériau& Each : Lignes)
         for (TextBox* Chiffre : {&Each.Qté, &Each.PrixUnitaire, &Each.Prix})
-            Chiffre->StartWith("0");
+            Chiffre->Text.StartWith("0");
 }
 
 void Nomenclature::Montrer(bool Montrée)

@@ -10,7 +10,7 @@ void Montrer(Application& App, const std::string& Dossier, const TextBox& Fichie
     Où.Picture =
         Fichier.Text == ""
             ? Sinon
-            : App.Images.LoadOr(App.Chemin("/Objets/" + Dossier + "/" + Fichier.Text()), Sinon);
+            : App.Images.LoadOr(App.Chemin("/Objets/" + Dossier + "/" + Fichier.Text), Sinon);
 }
 
 Picture PasImage(Application& App)

@@ -48,7 +48,7 @@ void frm_ArmesLégendaires::LireArme()
     const Ouverture Base(App, Globals.BaseDonnées, CheminArtisanat);
     Globals.TexteSQL =
         "SELECT * FROM R_ArmesLégendairesObjets WHERE ArmesLégendaires_ListeObjets.Nom=" +
-        Quoted(cbo_Arme.Text());
+        Quoted(cbo_Arme.Text);
     const Recordset& Lue = PremierEnregistrement(Globals);
     struct Copie
     {
@@ -88,7 +88,7 @@ void frm_ArmesLégendaires::LireType()
 {
     const Ouverture Base(App, Globals.BaseDonnées, CheminArtisanat);
     Globals.TexteSQL = "SELECT * FROM R_ArmesLégendairesType WHERE ArmesLégendaires_Type.Nom=" +
-                       Quoted(cbo_Type.Text());
+                       Quoted(cbo_Type.Text);
     const Recordset& Type = PremierEnregistrement(Globals);
     txt_Teinture.Text = Type.Text("Alchimie_ListeObjets.Nom");
     txt_Spécial.Text = Type.Text("ObjetSpécial");
@@ -102,7 +102,7 @@ void frm_ArmesLégendaires::ChargerArmeEtGemme()
 {
     {
         const Ouverture Base(App, Globals.BaseDonnées, CheminArtisanat);
-        Globals.TexteSQL = "SELECT * FROM R_ClassiqueObjets WHERE Num=" + txt_ObjetNum.Text();
+        Globals.TexteSQL = "SELECT * FROM R_ClassiqueObjets WHERE Num=" + txt_ObjetNum.Text;
         const Recordset Objet = PremierEnregistrement(Globals);
         for (int i = 1; i <= 3; ++i) {
             Arme.Matériaux[i].Nom.Text =
@@ -124,7 +124,7 @@ void frm_ArmesLégendaires::ChargerArmeEtGemme()
 // database open.
 void frm_ArmesLégendaires::ChargerGemme()
 {
-    Globals.TexteSQL = "SELECT * FROM R_ArcanesObjets WHERE Num=" + txt_GemmeNum.Text();
+    Globals.TexteSQL = "SELECT * FROM R_ArcanesObjets WHERE Num=" + txt_GemmeNum.Text;
     const Recordset Lue = PremierEnregistrement(Globals);
     for (int i : {1, 2}) {
         LigneMatériau& Ligne = Gemme.Matériaux[i + 1];
@@ -151,7 +151,7 @@ void frm_ArmesLégendaires::ChercherMatériauArme(LigneMatériau& Ligne)
 {
     Globals.TexteSQL = "SELECT * FROM R_ArmesLégendairesMatériaux "
                        "WHERE Matériaux_ClassiqueType.Nom=" +
-                       Quoted(Ligne.Nom.Text());
+                       Quoted(Ligne.Nom.Text);
     const Recordset Matériau = PremierEnregistrement(Globals);
     Ligne.Nom.Text = Matériau.Text("Matériaux_Classique.Nom");
     Ligne.PrixUnitaire.Text = Matériau.Text("Prix");
@@ -162,7 +162,7 @@ void frm_ArmesLégendaires::ChargerTeinture()
 {
     {
         const Ouverture Base(App, Globals.BaseDonnées, CheminTeintures);
-        Globals.TexteSQL = "SELECT * FROM R_AlchimieObjet WHERE Num=" + txt_TeintureNum.Text();
+        Globals.TexteSQL = "SELECT * FROM R_AlchimieObjet WHERE Num=" + txt_TeintureNum.Text;
         const Recordset Lue = PremierEnregistrement(Globals);
         Teinture.Matériaux.Charger(Lue, "Matériaux", true);
         Teinture.Niveau.Caption = Lue.Text("NiveauCraft"); // a dye has no degrees
@@ -177,12 +177,12 @@ void frm_ArmesLégendaires::ChargerTeinture()
 // have no picture together.
 void frm_ArmesLégendaires::ChargerImages()
 {
-    if (cbo_Type.Text() == "" || cbo_Arme.Text() == "")
+    if (cbo_Type.Text == "" || cbo_Arme.Text == "")
         return;
     const Ouverture Base(App, Globals.BaseDonnées, CheminArtisanat);
     Globals.TexteSQL =
         "SELECT * FROM R_ArmesLégendairesImages WHERE (ArmesLégendaires_ListeObjets.Nom=" +
-        Quoted(cbo_Arme.Text()) + " AND ArmesLégendaires_Type.Nom=" + Quoted(cbo_Type.Text()) + ")";
+        Quoted(cbo_Arme.Text) + " AND ArmesLégendaires_Type.Nom=" + Quoted(cbo_Type.Text) + ")";
     const Recordset& Images = OuvrirEnregistrements(Globals);
     txt_Image.Text = Images.Eof() ? "" : Images.TextOrEmpty("Image");
     txt_Icône.Text = Images.Eof() ? "" : Images.TextOrEmpty("Icône");

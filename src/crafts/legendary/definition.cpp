@@ -71,7 +71,7 @@ void frm_ArmesLégendaires::DéfinirInfos()
     PlaceField(lbl_Dégâts, "Dégât :", txt_Dégâts, {X + 156, 116, 62, High}, 76);
     PlaceField(lbl_PrixRevente, "Prix de revente à un PNJ :", txt_PrixRevente, {X, 176, 184, High},
                110);
-    txt_PrixRevente.StartWith("0");
+    txt_PrixRevente.Text.StartWith("0");
     PlacePanel(shp_Image, {RightX + 330, 12, 160, 214});
     Place(img_Objet, {RightX + 335, 44, 150, 150});
 }
@@ -100,14 +100,14 @@ void frm_ArmesLégendaires::DéfinirComposants()
         PlaceLabel(lbl_Composant[i], Each.Words, {X, Y, 76, High});
         PlacerLigne(Each.Nom, lbl_ComposantX[i], Each.Qté, lbl_ComposantÉgale[i], Each.Prix, X + 78,
                     Y, {214, 38, 98});
-        Each.Qté.StartWith(Each.Nombre);
-        Each.Prix.StartWith("0");
+        Each.Qté.Text.StartWith(Each.Nombre);
+        Each.Prix.Text.StartWith("0");
     }
     for (TextBox* Libre : {&txt_PrixGemme, &txt_PrixTeinture, &txt_PrixSpécial})
         Libre->OpenFor(NumberKind::Montant);
     PlaceField(lbl_PrixCoûtant, "Prix coûtant :", txt_PrixCoûtant,
                {X + 250, BillY + 204, 108, High}, 98);
-    txt_PrixCoûtant.StartWith("0");
+    txt_PrixCoûtant.Text.StartWith("0");
 }
 
 void frm_ArmesLégendaires::DéfinirVente()
@@ -121,9 +121,9 @@ void frm_ArmesLégendaires::DéfinirVente()
     PlaceField(lbl_PrixCoûtantTotal, "Prix coûtant :", txt_PrixCoûtantTotal,
                {X + 232, Y + 44, 100, High}, 130);
     PlaceField(lbl_PrixVente, "Px de vente :", txt_PrixVente, {X + 232, Y + 92, 100, High}, 130);
-    txt_NbObjet.StartWith("1");
+    txt_NbObjet.Text.StartWith("1");
     for (TextBox* Zéro : {&txt_NbEssais, &txt_PrixCoûtantTotal, &txt_PrixVente})
-        Zéro->StartWith("0");
+        Zéro->Text.StartWith("0");
     txt_NbObjet.OpenFor(NumberKind::Entier16);
     txt_NbEssais.OpenFor(NumberKind::Entier16);
 }
@@ -141,7 +141,7 @@ void frm_ArmesLégendaires::DéfinirComposant(Composant& Lequel, const char* Tit
     Lequel.Matériaux.CommencerParZéro();
     PlaceField(Lequel.TitrePrixCoûtant, "Px coût. :", Lequel.PrixCoûtant,
                {X + 120, BlocksY + 164, 74, High}, 100);
-    Lequel.PrixCoûtant.StartWith("0");
+    Lequel.PrixCoûtant.Text.StartWith("0");
     Lequel.FichierIcône.Visible = false;
 }
 
@@ -150,9 +150,9 @@ void frm_ArmesLégendaires::DéfinirCachés()
     for (TextBox* Holder : {&txt_PrixUnitaireMatériau, &txt_ObjetNum, &txt_GemmeNum,
                             &txt_TeintureNum, &txt_Image, &txt_Icône})
         Holder->Visible = false;
-    txt_PrixUnitaireMatériau.StartWith("0");
+    txt_PrixUnitaireMatériau.Text.StartWith("0");
     for (TextBox* Holder : {&txt_Image, &Teinture.FichierIcône})
-        Holder->StartWith("Vide"); // so that the first empty text shows the placeholder
+        Holder->Text.StartWith("Vide"); // so that the first empty text shows the placeholder
 }
 
 } // namespace orvane

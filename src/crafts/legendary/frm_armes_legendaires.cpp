@@ -123,11 +123,11 @@ void frm_ArmesLégendaires::EffacerArme()
 
 void frm_ArmesLégendaires::cmd_AjouterPanier_Click()
 {
-    if (cbo_Arme.Text() == "" || cbo_Type.Text() == "") {
+    if (cbo_Arme.Text == "" || cbo_Type.Text == "") {
         App.MsgBox("Aucun objet sélectionné.");
         return;
     }
-    AjouterLigne(App, {cbo_Arme.Text + " " + cbo_Type.Text(), txt_NbObjet, txt_PrixCoûtantTotal,
+    AjouterLigne(App, {cbo_Arme.Text + " " + cbo_Type.Text, txt_NbObjet, txt_PrixCoûtantTotal,
                        txt_PrixVente});
 }
 

@@ -59,10 +59,10 @@ void frm_ArtisanatsMagiques::cbo_Produit_Click()
     {
         const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
         Globals.TexteSQL =
-            "SELECT * FROM R_Alchimie WHERE Produits.Nom=" + Quoted(cbo_Produit.Text());
+            "SELECT * FROM R_Alchimie WHERE Produits.Nom=" + Quoted(cbo_Produit.Text);
         orvane::RemplirListe(Globals, cbo_ProduitDétaillé, "ProduitsDétaillés.Nom");
     }
-    const bool AvecFiltre = cbo_Produit.Text() == EffetsÀDéclenchement;
+    const bool AvecFiltre = cbo_Produit.Text == EffetsÀDéclenchement;
     ShowAll({&cbo_Type, &lbl_Type}, AvecFiltre);
     cbo_ProduitDétaillé.Width = AvecFiltre ? DétailÉtroit : DétailLarge;
 }
@@ -74,8 +74,8 @@ void frm_ArtisanatsMagiques::cbo_ProduitDétaillé_Click()
     {
         const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
         Globals.TexteSQL = "SELECT ListeObjets.Nom FROM R_AlchimieObjet WHERE (Produits.Nom=" +
-                           Quoted(cbo_Produit.Text()) +
-                           " AND ProduitsDétaillés.Nom=" + Quoted(cbo_ProduitDétaillé.Text()) + ")";
+                           Quoted(cbo_Produit.Text) +
+                           " AND ProduitsDétaillés.Nom=" + Quoted(cbo_ProduitDétaillé.Text) + ")";
         orvane::RemplirListe(Globals, cbo_Objet, "Nom");
     }
     RemplirFiltres(cbo_Type, cbo_ProduitDétaillé.Text);
@@ -87,8 +87,8 @@ void frm_ArtisanatsMagiques::cbo_Type_Click()
     EffacerMatériaux();
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
     Globals.TexteSQL = "SELECT ListeObjets.Nom FROM R_AlchimieObjet WHERE (Produits.Nom=" +
-                       Quoted(cbo_Produit.Text()) +
-                       " AND ProduitsDétaillés.Nom=" + Quoted(cbo_ProduitDétaillé.Text()) +
+                       Quoted(cbo_Produit.Text) +
+                       " AND ProduitsDétaillés.Nom=" + Quoted(cbo_ProduitDétaillé.Text) +
                        " AND ListeObjets.Nom LIKE " + Quoted("*" + cbo_Type.Text + "*") +
                        ") ORDER BY NiveauCraft";
     Recordset& Objets = OuvrirEnregistrements(Globals);
@@ -117,9 +117,9 @@ void frm_ArtisanatsMagiques::LireObjet()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
     Globals.TexteSQL =
-        "SELECT * FROM R_AlchimieObjet WHERE (Produits.Nom=" + Quoted(cbo_Produit.Text()) +
-        " AND ProduitsDétaillés.Nom=" + Quoted(cbo_ProduitDétaillé.Text()) +
-        " AND ListeObjets.Nom=" + Quoted(cbo_Objet.Text()) + ")";
+        "SELECT * FROM R_AlchimieObjet WHERE (Produits.Nom=" + Quoted(cbo_Produit.Text) +
+        " AND ProduitsDétaillés.Nom=" + Quoted(cbo_ProduitDétaillé.Text) +
+        " AND ListeObjets.Nom=" + Quoted(cbo_Objet.Text) + ")";
     const Recordset Objet = PremierEnregistrement(Globals); // its own copy: the writes below nest
     lbl_NiveauAlchimie.Caption = Objet.Text("NiveauCraft");
     txt_IcôneAlchimie.Text = Objet.TextOrEmpty("Icône");
@@ -130,7 +130,7 @@ void frm_ArtisanatsMagiques::LireObjet()
     txt_PrixReventeAlchimie.Text = Objet.Text("Revente");
     Globals.Enregistrements.Empty();
 
-    if (cbo_Produit.Text() == EffetsÀDéclenchement)
+    if (cbo_Produit.Text == EffetsÀDéclenchement)
         RemplacerDernierCaractère(Globals, Ingrédients[1].Nom);
     if (txt_AlchimieObjetSup.Text != "")
         ChargerObjetSup(Globals, txt_AlchimieObjetSup.Text,

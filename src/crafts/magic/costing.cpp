@@ -21,7 +21,7 @@ Montant EnMontant(std::optional<Montant> Lu)
 // The caption tells the craft in hand.
 void frm_ArtisanatsMagiques::CalculerPrix()
 {
-    if (lbl_Artisanat.Caption() == "Alchimie")
+    if (lbl_Artisanat.Caption == "Alchimie")
         CalculerPrixAlchimie();
     else
         CalculerPrixArcanes();

@@ -146,8 +146,8 @@ void frm_ArtisanatsMagiques::DéfinirObjetSup()
     MatériauxSup.Placer(X, Y + 92, 28, {145, 32, 65});
     PlaceField(lbl_AlchimieObjetSUpPrixCoûtant, "Prix coûtant :", txt_AlchimieObjetSUpPrixCoûtant,
                {X + 70, Y + 208, 100, High}, 100);
-    txt_NbAlchimieObjetSup.StartWith("1");
-    txt_AlchimieObjetSUpPrixCoûtant.StartWith("0");
+    txt_NbAlchimieObjetSup.Text.StartWith("1");
+    txt_AlchimieObjetSUpPrixCoûtant.Text.StartWith("0");
     txt_AlchimieObjetSup.Locked = false;
     MatériauxSup[2].Prix.Accepts = NumberKind::Montant;
     txt_AlchimieObjetSup_Change(); // the whole panel is hidden until an object asks for another one
@@ -172,7 +172,7 @@ void frm_ArtisanatsMagiques::DéfinirPrixAlchimie()
           Row{lbl_AlchimiePrixvente, "Px de vente :", txt_PrixVenteAlchimie, "0"},
           Row{lbl_AlchimiePrixrevente, "Revente à un PNJ :", txt_PrixReventeAlchimie, "0"}}) {
         PlaceField(Each.Name, Each.Words, Each.Value, {X, Y, 200, High}, 160);
-        Each.Value.StartWith(Each.Initial);
+        Each.Value.Text.StartWith(Each.Initial);
         Y += 40;
     }
     txt_NbObjetAlchimie.OpenFor(NumberKind::Entier16);
@@ -217,9 +217,9 @@ void frm_ArtisanatsMagiques::DéfinirPrixArcanes()
     };
     for (const Cell& Each : Cells) {
         PlaceStacked(Each.Name, Each.Words, Each.Value, Each.X, PricesY + 38 + Each.Row * 54, Wide);
-        Each.Value.StartWith("0");
+        Each.Value.Text.StartWith("0");
     }
-    txt_ArcanesNbObjet.StartWith("1");
+    txt_ArcanesNbObjet.Text.StartWith("1");
     for (TextBox* Count : {&txt_ArcanesNbEssais, &txt_ArcanesNbObjet})
         Count->OpenFor(NumberKind::Entier16);
 }

@@ -29,14 +29,14 @@ std::string Matériau(int i, const char* Colonne)
 // These gems exist at the first degree only.
 bool frm_ArtisanatsMagiques::PremierDegréSeul() const
 {
-    return cbo_TypeGemmes.Text() == Trophées ||
-           std::ranges::count(Délicates, cbo_SousTypeGemmes.Text()) > 0;
+    return cbo_TypeGemmes.Text == Trophées ||
+           std::ranges::count(Délicates, cbo_SousTypeGemmes.Text) > 0;
 }
 
 bool frm_ArtisanatsMagiques::ASixLignes() const
 {
-    return cbo_TypeGemmes.Text() == Trophées ||
-           std::ranges::count(Travaillées, cbo_SousTypeGemmes.Text()) > 0;
+    return cbo_TypeGemmes.Text == Trophées ||
+           std::ranges::count(Travaillées, cbo_SousTypeGemmes.Text) > 0;
 }
 
 // Needs the realm database open.
@@ -44,14 +44,14 @@ void frm_ArtisanatsMagiques::ChargerGemme()
 {
     Globals.TexteSQL = "SELECT NuméroDegré, PrixRevente, DegréType1 FROM Degrés_Arcanes "
                        "WHERE DegréType1=" +
-                       Quoted(cbo_DegréGemmes.Text());
+                       Quoted(cbo_DegréGemmes.Text);
     const Recordset Degré = PremierEnregistrement(Globals);
     const std::int16_t NuméroDegré = Degré.Whole("NuméroDegré");
     txt_ArcanesPrixRevente.Text = Degré.Text("PrixRevente");
 
     Globals.TexteSQL =
-        "SELECT * FROM R_ArcanesObjets WHERE (Arcanes_Bonus.Nom=" + Quoted(cbo_TypeBonus.Text()) +
-        " AND Bonus=" + Quoted(cbo_SousTypeBonus.Text()) + ")";
+        "SELECT * FROM R_ArcanesObjets WHERE (Arcanes_Bonus.Nom=" + Quoted(cbo_TypeBonus.Text) +
+        " AND Bonus=" + Quoted(cbo_SousTypeBonus.Text) + ")";
     const Recordset Gemme = PremierEnregistrement(Globals); // its own copy: the writes below nest
     Ingrédients[2].Nom.Text = Gemme.Text(Matériau(1, "Nom"));
     txt_ArcanesCoefQté2.Text = Gemme.Text("CoefQté2");
@@ -80,7 +80,7 @@ void frm_ArtisanatsMagiques::ChargerLignesSup(const Recordset& Gemme, std::int16
             Ingrédients[i].Nom.Text = std::string(SansNom);
         return;
     }
-    const std::string Qté = cbo_SousTypeGemmes.Text() == "Eclatant"
+    const std::string Qté = cbo_SousTypeGemmes.Text == "Eclatant"
                                 ? T(Gemme.Number("QtéSup") + Entier16(6 * NuméroDegré))
                                 : Gemme.Text("QtéSup");
     for (int i = 4; i <= 6; ++i)
@@ -96,7 +96,7 @@ void frm_ArtisanatsMagiques::ChargerLignesSup(const Recordset& Gemme, std::int16
 // Line 1.
 void frm_ArtisanatsMagiques::ChargerBase(std::int16_t NuméroDegré)
 {
-    if (cbo_TypeGemmes.Text() == Trophées) {
+    if (cbo_TypeGemmes.Text == Trophées) {
         Ingrédients[1].Nom.Text = std::string(SansNom);
         Ingrédients[1].PrixUnitaire.Text = "0";
         return;
@@ -111,7 +111,7 @@ void frm_ArtisanatsMagiques::ChargerBase(std::int16_t NuméroDegré)
 void frm_ArtisanatsMagiques::ChargerGemmeSup()
 {
     Globals.TexteSQL = "SELECT * FROM R_ArcanesObjets WHERE (Arcanes_ProduitsDétaillés.Nom=" +
-                       Quoted(txt_AlchimieObjetSup.Text()) + ")";
+                       Quoted(txt_AlchimieObjetSup.Text) + ")";
     const Recordset Gemme = PremierEnregistrement(Globals);
     lbl_AlchimieObjetSupNiveauCraft.Caption = Gemme.Text("NiveauCraft");
     txt_AlchimieIconeObjetSup.Text = Gemme.TextOrEmpty("Icône");

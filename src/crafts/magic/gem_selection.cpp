@@ -28,27 +28,27 @@ void frm_ArtisanatsMagiques::RemplirSousTypesGemmes()
 {
     RemplirListe("SELECT Arcanes_ProduitsDétaillés.Nom,Arcanes_Produits.Nom FROM R_Arcanes "
                  "WHERE (Arcanes_Produits.Nom=" +
-                     Quoted(cbo_TypeGemmes.Text()) + ")",
+                     Quoted(cbo_TypeGemmes.Text) + ")",
                  cbo_SousTypeGemmes, "Arcanes_ProduitsDétaillés.Nom");
 }
 
 void frm_ArtisanatsMagiques::RemplirSousTypesBonus()
 {
     RemplirListe("SELECT Bonus,Arcanes_Bonus.Nom FROM R_Arcanes WHERE (Arcanes_Bonus.Nom=" +
-                     Quoted(cbo_TypeBonus.Text()) + ")",
+                     Quoted(cbo_TypeBonus.Text) + ")",
                  cbo_SousTypeBonus, "Bonus");
 }
 
 void frm_ArtisanatsMagiques::LireDegréBonus()
 {
-    RemplirTexte("SELECT Degré FROM Arcanes_Bonus WHERE Nom=" + Quoted(cbo_TypeBonus.Text()),
+    RemplirTexte("SELECT Degré FROM Arcanes_Bonus WHERE Nom=" + Quoted(cbo_TypeBonus.Text),
                  txt_Degré, "Degré");
 }
 
 // The column of Degrés_Arcanes that spells the degrees for the bonus type.
 std::string frm_ArtisanatsMagiques::ColonneDegré() const
 {
-    return "DegréType" + txt_Degré.Text();
+    return "DegréType" + txt_Degré.Text;
 }
 
 void frm_ArtisanatsMagiques::cbo_TypeGemmes_Click()
@@ -60,7 +60,7 @@ void frm_ArtisanatsMagiques::cbo_TypeGemmes_Click()
     RemplirSousTypesGemmes();
     RemplirTexte("SELECT DISTINCT Arcanes_Produits.Nom, Arcanes_Bonus.Nom FROM R_Arcanes "
                  "WHERE Arcanes_Produits.Nom=" +
-                     Quoted(cbo_TypeGemmes.Text()),
+                     Quoted(cbo_TypeGemmes.Text),
                  cbo_TypeBonus, "Arcanes_Bonus.Nom");
     LireDegréBonus();
     RemplirSousTypesBonus();
@@ -80,7 +80,7 @@ void frm_ArtisanatsMagiques::cbo_TypeBonus_Click()
                  ColonneDegré());
     RemplirTexte("SELECT DISTINCT Arcanes_Produits.Nom, Arcanes_Bonus.Nom FROM R_Arcanes "
                  "WHERE Arcanes_Bonus.Nom=" +
-                     Quoted(cbo_TypeBonus.Text()),
+                     Quoted(cbo_TypeBonus.Text),
                  cbo_TypeGemmes, "Arcanes_Produits.Nom");
     RemplirSousTypesGemmes();
 }
@@ -100,8 +100,8 @@ void frm_ArtisanatsMagiques::cbo_SousTypeGemmes_Click()
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
     RemplirTexte("SELECT DISTINCT Arcanes_ProduitsDétaillés.Nom, Arcanes_Produits.Nom, Bonus "
                  "FROM R_ArcanesObjets WHERE (Arcanes_Produits.Nom=" +
-                     Quoted(cbo_TypeGemmes.Text()) + " AND Arcanes_ProduitsDétaillés.Nom=" +
-                     Quoted(cbo_SousTypeGemmes.Text()) + ")",
+                     Quoted(cbo_TypeGemmes.Text) +
+                     " AND Arcanes_ProduitsDétaillés.Nom=" + Quoted(cbo_SousTypeGemmes.Text) + ")",
                  cbo_SousTypeBonus, "Bonus");
     LireIcône();
 }
@@ -112,17 +112,17 @@ void frm_ArtisanatsMagiques::cbo_SousTypeBonus_Click()
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
     RemplirTexte("SELECT DISTINCT Arcanes_ProduitsDétaillés.Nom, Arcanes_Bonus.Nom, Bonus "
                  "FROM R_ArcanesObjets WHERE (Arcanes_Bonus.Nom=" +
-                     Quoted(cbo_TypeBonus.Text()) +
-                     " AND Bonus=" + Quoted(cbo_SousTypeBonus.Text()) + ")",
+                     Quoted(cbo_TypeBonus.Text) + " AND Bonus=" + Quoted(cbo_SousTypeBonus.Text) +
+                     ")",
                  cbo_SousTypeGemmes, "Arcanes_ProduitsDétaillés.Nom");
     LireIcône();
 }
 
 void frm_ArtisanatsMagiques::LireIcône()
 {
-    Globals.TexteSQL = "SELECT Icône FROM R_ArcanesObjets WHERE (Arcanes_Bonus.Nom=" +
-                       Quoted(cbo_TypeBonus.Text()) +
-                       " AND Bonus=" + Quoted(cbo_SousTypeBonus.Text()) + ")";
+    Globals.TexteSQL =
+        "SELECT Icône FROM R_ArcanesObjets WHERE (Arcanes_Bonus.Nom=" + Quoted(cbo_TypeBonus.Text) +
+        " AND Bonus=" + Quoted(cbo_SousTypeBonus.Text) + ")";
     txt_IcôneArcanes.Text = PremierEnregistrement(Globals).TextOrEmpty("Icône");
     Globals.Enregistrements.Empty();
 }
@@ -138,7 +138,7 @@ void frm_ArtisanatsMagiques::cbo_DegréGemmes_Click()
         const std::string Degrés = "SELECT DegréType1, " + ColonneDegré() + " FROM Degrés_Arcanes";
         cbo_DegréBonus.Clear();
         RemplirListe(Degrés, cbo_DegréBonus, ColonneDegré());
-        RemplirTexte(Degrés + " WHERE DegréType1=" + Quoted(cbo_DegréGemmes.Text()), cbo_DegréBonus,
+        RemplirTexte(Degrés + " WHERE DegréType1=" + Quoted(cbo_DegréGemmes.Text), cbo_DegréBonus,
                      ColonneDegré());
         ChargerGemme();
         ChangerCouleurCraft(App, lbl_NiveauAlchimie.Caption, NiveauArcanes, img_NiveauAlchimie);
@@ -154,7 +154,7 @@ void frm_ArtisanatsMagiques::cbo_DegréBonus_Click()
     const auto Lire = [&] {
         const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
         RemplirTexte("SELECT DegréType1, " + ColonneDegré() + " FROM Degrés_Arcanes WHERE " +
-                         ColonneDegré() + "=" + Quoted(cbo_DegréBonus.Text()),
+                         ColonneDegré() + "=" + Quoted(cbo_DegréBonus.Text),
                      cbo_DegréGemmes, "DegréType1");
         ChargerGemme();
         ChangerCouleurCraft(App, lbl_NiveauAlchimie.Caption, NiveauArcanes, img_NiveauAlchimie);

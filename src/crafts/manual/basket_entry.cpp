@@ -7,7 +7,7 @@ namespace orvane {
 // one has no prices.
 void frm_ArtisanatsManuels::cmd_AjouterPanier_Click()
 {
-    if (cbo_Degré.Text() == "") {
+    if (cbo_Degré.Text == "") {
         App.MsgBox("Aucun objet sélectionné.");
         return;
     }

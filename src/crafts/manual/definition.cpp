@@ -19,7 +19,7 @@ void frm_ArtisanatsManuels::Définir()
     DéfinirObjetSup();
     for (TextBox* Holder : {&txt_Sup, &txt_Image, &txt_Icône, &txt_IconeObjetSup, &txt_ObjetSupBis})
         Holder->Visible = false;
-    txt_Image.StartWith("Vide"); // so that the first empty text shows the placeholder
+    txt_Image.Text.StartWith("Vide"); // so that the first empty text shows the placeholder
     PlacerBoutons(cmd_AjouterPanier, cmd_Retour);
 }
 
@@ -87,8 +87,8 @@ void frm_ArtisanatsManuels::DéfinirMatériaux()
         Total->Align = Alignment::Right;
         Total->Width = Total->Width - 8 * TwipsPerPixel;
     }
-    txt_PrixCoûtant.StartWith("0");
-    txt_PrixRevente.StartWith("0");
+    txt_PrixCoûtant.Text.StartWith("0");
+    txt_PrixRevente.Text.StartWith("0");
 }
 
 void frm_ArtisanatsManuels::DéfinirVente()
@@ -99,10 +99,10 @@ void frm_ArtisanatsManuels::DéfinirVente()
     PlaceField(lbl44, "Nb d'essais suppl. :", txt_NbEssais, {MiddleX + 14, 634, 140, High}, 66);
     PlaceField(lbl48, "Prix coûtant :", txt_PrixCoûtantTotal, {MiddleX + 236, 594, 100, High}, 130);
     PlaceField(lbl42, "Prix de vente :", txt_PrixVente, {MiddleX + 236, 634, 100, High}, 130);
-    txt_NbObjet.StartWith("1");
-    txt_NbEssais.StartWith("0");
-    txt_PrixCoûtantTotal.StartWith("0");
-    txt_PrixVente.StartWith("0");
+    txt_NbObjet.Text.StartWith("1");
+    txt_NbEssais.Text.StartWith("0");
+    txt_PrixCoûtantTotal.Text.StartWith("0");
+    txt_PrixVente.Text.StartWith("0");
     txt_NbObjet.OpenFor(NumberKind::Entier16);
     txt_NbEssais.OpenFor(NumberKind::Entier16);
 }
@@ -121,8 +121,8 @@ void frm_ArtisanatsManuels::DéfinirObjetSup()
     PlaceField(lbl_ObjetSUpPrixCoûtant, "Prix :", txt_ObjetSUpPrixCoûtant,
                {RightX + 128, 600, 56, High}, 100);
     lbl_ObjetSUpPrixCoûtant.Align = Alignment::Right;
-    txt_NbObjetSup.StartWith("1");
-    txt_ObjetSUpPrixCoûtant.StartWith("0");
+    txt_NbObjetSup.Text.StartWith("1");
+    txt_ObjetSUpPrixCoûtant.Text.StartWith("0");
     txt_ObjetSUpPrixCoûtant.OpenFor(NumberKind::Montant);
     txt_ObjetSup.Locked = false;
 

@@ -64,14 +64,14 @@ void frm_ArtisanatsManuels::LireDegré()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
     Globals.TexteSQL =
-        "SELECT * FROM Degrés_ListeTypes WHERE " + ColonneDegré + "=" + Quoted(cbo_Degré.Text());
+        "SELECT * FROM Degrés_ListeTypes WHERE " + ColonneDegré + "=" + Quoted(cbo_Degré.Text);
     NuméroDegré = PremierEnregistrement(Globals).Whole("NuméroDegré");
-    const std::string& Nom = cbo_Objet.Text();
+    const std::string& Nom = cbo_Objet.Text;
     const bool Couronne = Contains(Nom, "couronne") || Contains(Nom, "Couronne");
     for (LigneMatériau& Each : Matériaux)
         RésoudreMatériau(Globals, NuméroDegré, Couronne, Each);
 
-    Globals.TexteSQL = "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text());
+    Globals.TexteSQL = "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text);
     const Recordset& Objet = PremierEnregistrement(Globals);
     LireNiveaux(Objet);
     txt_ObjetSupBis.Text = Objet.TextOrEmpty("NomObjet");
@@ -89,7 +89,7 @@ void frm_ArtisanatsManuels::LireNiveaux(const Recordset& Objet)
 
 void frm_ArtisanatsManuels::LireStatistiques(const Recordset& Objet)
 {
-    const std::string& Métier = lbl_Artisanat.Caption();
+    const std::string& Métier = lbl_Artisanat.Caption;
     if (Métier == "Empennage" || Métier == "Forge") {
         txt_Dps.Text = Objet.Text("Dps") == NonDéfini
                            ? NonDéfini
@@ -98,7 +98,7 @@ void frm_ArtisanatsManuels::LireStatistiques(const Recordset& Objet)
         txt_AF.Text = NonDéfini;
         txt_BonusSpécial.Text = Objet.Text("BonusSpécial");
     } else if (Métier == "Armurerie" || Métier == "Couture") {
-        const int Facteur = cbo_Produit.Text() == "Tissu" ? 1 : 2;
+        const int Facteur = cbo_Produit.Text == "Tissu" ? 1 : 2;
         txt_AF.Text = std::to_string(Entier16(Facteur * I(txt_Niveau)));
         txt_BonusSpécial.Text = Objet.Text("BonusSpécial");
         txt_Dps.Text = NonDéfini;

@@ -63,15 +63,15 @@ void frm_ArtisanatsManuels::cbo_TypeDégats_Click()
 {
     const TypeDégats* Type = ChercherType(cbo_TypeDégats.Text);
     if (Type != nullptr)
-        txt_ObjetSup.Text = txt_ObjetSupBis.Text() + Type->Suffixe;
+        txt_ObjetSup.Text = txt_ObjetSupBis.Text + Type->Suffixe;
     const SuffixeDegré* Degré = ChercherDegré(cbo_Degré.Text);
     if (Degré == nullptr) {
         App.MsgBox("Il faut d'abord sélectionner un degré.");
-        txt_ObjetSup.Text = txt_ObjetSupBis.Text();
+        txt_ObjetSup.Text = txt_ObjetSupBis.Text;
         cbo_TypeDégats.Text = "";
         return;
     }
-    txt_ObjetSup.Text = txt_ObjetSup.Text() + Degré->Suffixe;
+    txt_ObjetSup.Text = txt_ObjetSup.Text + Degré->Suffixe;
     LireOuPérimer(
         {{&MatériauxSup}, {}},
         [&] {
@@ -80,8 +80,8 @@ void frm_ArtisanatsManuels::cbo_TypeDégats_Click()
                 ChangerCouleurCraft(App, lbl_ObjetSupNiveauCraft.Caption, NiveauAlchimie,
                                     img_ObjetSupNiveau);
             if (Type != nullptr) {
-                const bool Durable = ContainsIgnoringCase(cbo_Objet.Text(), "durable");
-                lbl_Niveau.Caption = WithoutLastCharacters(lbl_Niveau.Caption(), 2) +
+                const bool Durable = ContainsIgnoringCase(cbo_Objet.Text, "durable");
+                lbl_Niveau.Caption = WithoutLastCharacters(lbl_Niveau.Caption, 2) +
                                      (Durable ? Type->NiveauDurable : Type->Niveau);
             }
             ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);

@@ -84,7 +84,7 @@ void frm_ArtisanatsManuels::RemplirProduits()
     Globals.TexteSQL =
         "SELECT DISTINCT Classique_Produits.Nom,Artisanat_Liste.Nom FROM R_Classique "
         "WHERE (Artisanat_Liste.Nom=" +
-        Quoted(lbl_Artisanat.Caption()) + ")";
+        Quoted(lbl_Artisanat.Caption) + ")";
     RemplirListe(Globals, cbo_Produit, "Classique_Produits.Nom");
 }
 
@@ -92,14 +92,14 @@ void frm_ArtisanatsManuels::cbo_Produit_Click()
 {
     EffacerSélection(2);
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    if (cbo_Produit.Text() == "Armes légendaires") {
+    if (cbo_Produit.Text == "Armes légendaires") {
         App.Feuilles.Touch("frm_ArmesLégendaires").Show();
         return;
     }
     Globals.TexteSQL = "SELECT DISTINCT Classique_ProduitsDétaillés.Nom,Classique_Produits.Nom "
                        "FROM R_Classique WHERE ((Artisanat_Liste.Nom = " +
-                       Quoted(lbl_Artisanat.Caption()) +
-                       ") AND (Classique_Produits.Nom=" + Quoted(cbo_Produit.Text()) + "))";
+                       Quoted(lbl_Artisanat.Caption) +
+                       ") AND (Classique_Produits.Nom=" + Quoted(cbo_Produit.Text) + "))";
     RemplirListe(Globals, cbo_ProduitDétaillé, "Classique_ProduitsDétaillés.Nom");
 }
 
@@ -107,15 +107,14 @@ void frm_ArtisanatsManuels::cbo_ProduitDétaillé_Click()
 {
     EffacerSélection(3);
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    if (cbo_ProduitDétaillé.Text() == "Carreaux" || cbo_ProduitDétaillé.Text() == "Flèches") {
+    if (cbo_ProduitDétaillé.Text == "Carreaux" || cbo_ProduitDétaillé.Text == "Flèches") {
         App.Feuilles.Touch("frm_Archerie").Show();
         return;
     }
     Globals.TexteSQL =
-        "SELECT * FROM R_Classique WHERE ((Artisanat_Liste.Nom = " +
-        Quoted(lbl_Artisanat.Caption()) +
-        ") AND (Classique_Produits.Nom = " + Quoted(cbo_Produit.Text()) +
-        ") AND (Classique_ProduitsDétaillés.Nom = " + Quoted(cbo_ProduitDétaillé.Text()) + "))";
+        "SELECT * FROM R_Classique WHERE ((Artisanat_Liste.Nom = " + Quoted(lbl_Artisanat.Caption) +
+        ") AND (Classique_Produits.Nom = " + Quoted(cbo_Produit.Text) +
+        ") AND (Classique_ProduitsDétaillés.Nom = " + Quoted(cbo_ProduitDétaillé.Text) + "))";
     RemplirListe(Globals, cbo_Objet, "Classique_ListeObjets.Nom");
 }
 
@@ -140,11 +139,11 @@ void frm_ArtisanatsManuels::cbo_Objet_Click()
 void frm_ArtisanatsManuels::LireObjet()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    Globals.TexteSQL = "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text());
+    Globals.TexteSQL = "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text);
     const std::string Sup = PremierEnregistrement(Globals).Text("Sup");
     txt_Sup.Text = Sup; // its handler uses the open database and the slot of this very set
 
-    Globals.TexteSQL = "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text());
+    Globals.TexteSQL = "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text);
     const Recordset& Objet = PremierEnregistrement(Globals);
     Matériaux.ChargerCodes(Objet, 6);
     txt_Image.Text = Objet.TextOrEmpty("Image");
@@ -154,7 +153,7 @@ void frm_ArtisanatsManuels::LireObjet()
 
 void frm_ArtisanatsManuels::PréparerTypeDégats()
 {
-    const std::string& Objet = cbo_Objet.Text();
+    const std::string& Objet = cbo_Objet.Text;
     const bool AvecType =
         ContainsIgnoringCase(Objet, "durable") || ContainsIgnoringCase(Objet, "supérieur");
     ShowAll({&lbl_TypeDégats, &cbo_TypeDégats}, AvecType);
@@ -176,8 +175,8 @@ void frm_ArtisanatsManuels::txt_Sup_Change()
         return;
     Globals.TexteSQL = "SELECT DISTINCT Classique_ProduitsDétaillés.Nom,Classique_Produits.Nom, "
                        "Degré FROM R_Classique WHERE (Artisanat_Liste.Nom=" +
-                       Quoted(lbl_Artisanat.Caption()) +
-                       " AND Classique_Produits.Nom=" + Quoted(cbo_Produit.Text()) + ")";
+                       Quoted(lbl_Artisanat.Caption) +
+                       " AND Classique_Produits.Nom=" + Quoted(cbo_Produit.Text) + ")";
     const std::string Degré = PremierEnregistrement(Globals).Text("Degré");
     Globals.TexteSQL = std::string("SELECT * FROM Degrés_ListeTypes") + Règle->Restriction;
     ColonneDegré = "DegréType" + Degré;

@@ -25,7 +25,7 @@ void frm_ArtisanatsSecondaires::Définir()
     AfficherRecyclage(false);
     txt_Icône.Visible = false;
     txt_Image.Visible = false;
-    txt_Image.StartWith("Vide"); // so that the first empty text shows the placeholder
+    txt_Image.Text.StartWith("Vide"); // so that the first empty text shows the placeholder
     PlacerBoutons(cmd_AjouterPanier, cmd_Retour);
 }
 
@@ -61,8 +61,8 @@ void frm_ArtisanatsSecondaires::DéfinirMatériaux()
         Total->Align = Alignment::Right;
         Total->Width = Total->Width - 8 * TwipsPerPixel;
     }
-    txt_PrixCoûtant.StartWith("0");
-    txt_PrixRevente.StartWith("0");
+    txt_PrixCoûtant.Text.StartWith("0");
+    txt_PrixRevente.Text.StartWith("0");
 }
 
 void frm_ArtisanatsSecondaires::DéfinirVente()
@@ -78,9 +78,9 @@ void frm_ArtisanatsSecondaires::DéfinirVente()
                {X, BottomY + 86, 200, High}, 160);
     PlaceField(lbl_SelleriePrixVente, "Prix de vente :", txt_SelleriePrixVente,
                {X, BottomY + 128, 200, High}, 160);
-    txt_SellerieNbObjets.StartWith("1");
-    txt_SelleriePrixCoûtant.StartWith("0");
-    txt_SelleriePrixVente.StartWith("0");
+    txt_SellerieNbObjets.Text.StartWith("1");
+    txt_SelleriePrixCoûtant.Text.StartWith("0");
+    txt_SelleriePrixVente.Text.StartWith("0");
     txt_SellerieNbObjets.OpenFor(NumberKind::Entier16);
 }
 
@@ -96,9 +96,9 @@ void frm_ArtisanatsSecondaires::DéfinirRecyclage()
                {X, BottomY + 86, Wide, High}, 128);
     PlaceField(lbl_RecyclageGain, "Gain total  (Produit revente - coût mat 1ère) :", txt_Gain,
                {X, BottomY + 128, Wide, High}, 128);
-    txt_CoûtSuppl.StartWith("0");
-    txt_NbObjet.StartWith("1");
-    txt_Gain.StartWith("0");
+    txt_CoûtSuppl.Text.StartWith("0");
+    txt_NbObjet.Text.StartWith("1");
+    txt_Gain.Text.StartWith("0");
     for (TextBox* Input : {&txt_CoûtSuppl, &txt_NbObjet}) // amounts both: 2,5 objects count 2,5
         Input->OpenFor(NumberKind::Montant);
 }

@@ -138,12 +138,12 @@ void frm_ArtisanatsSecondaires::WayBack()
 
 bool frm_ArtisanatsSecondaires::EnSellerie() const
 {
-    return lbl_Zone2.Caption() == "Tri :";
+    return lbl_Zone2.Caption == "Tri :";
 }
 
 bool frm_ArtisanatsSecondaires::EnRecyclage() const
 {
-    return lbl_Zone2.Caption() == "Degré :";
+    return lbl_Zone2.Caption == "Degré :";
 }
 
 // Every entry ends by emptying the bill, also the one that opens the basket.
@@ -177,7 +177,7 @@ void frm_ArtisanatsSecondaires::PrendreArtisanat(const std::string& Nom)
 
 void frm_ArtisanatsSecondaires::LireNiveauCraft()
 {
-    LireRéglage(App.Feuilles.Get<frm_Configuration>().*Chercher(lbl_Artisanat.Caption()).Niveau,
+    LireRéglage(App.Feuilles.Get<frm_Configuration>().*Chercher(lbl_Artisanat.Caption).Niveau,
                 NiveauCraft);
 }
 
@@ -233,7 +233,7 @@ void frm_ArtisanatsSecondaires::txt_Matériaux_Change(LigneMatériau& Ligne)
 
 void frm_ArtisanatsSecondaires::cmd_AjouterPanier_Click()
 {
-    if (cbo_ObjetSecondaire.Text() == "") {
+    if (cbo_ObjetSecondaire.Text == "") {
         App.MsgBox("Aucun objet sélectionné.");
         return;
     }

@@ -24,7 +24,7 @@ void frm_ArtisanatsSecondaires::PréparerRecyclage()
 
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
     Globals.TexteSQL = "SELECT DISTINCT * FROM R_Secondaire WHERE (Artisanat_Liste.Nom=" +
-                       Quoted(lbl_Artisanat.Caption()) + ")";
+                       Quoted(lbl_Artisanat.Caption) + ")";
     RemplirListe(Globals, cbo_ObjetSecondaire, "Secondaire_Produits.Nom");
 }
 
@@ -49,14 +49,14 @@ void frm_ArtisanatsSecondaires::LireRecyclage()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
     Globals.TexteSQL = "SELECT * FROM R_SecondaireObjets WHERE Secondaire_Produits.Nom=" +
-                       Quoted(cbo_ObjetSecondaire.Text());
+                       Quoted(cbo_ObjetSecondaire.Text);
     const Recordset& Objet = PremierEnregistrement(Globals);
     Matériaux.ChargerCodes(Objet, 3);
     MontrerIcône(Objet);
 
     Globals.TexteSQL =
-        "SELECT * FROM R_Secondaire WHERE (Artisanat_Liste.Nom=" + Quoted(lbl_Artisanat.Caption()) +
-        " AND Secondaire_Produits.Nom=" + Quoted(cbo_ObjetSecondaire.Text()) + ")";
+        "SELECT * FROM R_Secondaire WHERE (Artisanat_Liste.Nom=" + Quoted(lbl_Artisanat.Caption) +
+        " AND Secondaire_Produits.Nom=" + Quoted(cbo_ObjetSecondaire.Text) + ")";
     NuméroDegré = PremierEnregistrement(Globals).Whole("Degré");
     Globals.TexteSQL = "SELECT * FROM Degrés_ListeTypes";
     ColonneDegré = "DegréType" + std::to_string(NuméroDegré);
@@ -85,14 +85,14 @@ void frm_ArtisanatsSecondaires::LireDegré()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
     Globals.TexteSQL =
-        "SELECT * FROM Degrés_ListeTypes WHERE " + ColonneDegré + "=" + Quoted(cbo_Degré.Text());
+        "SELECT * FROM Degrés_ListeTypes WHERE " + ColonneDegré + "=" + Quoted(cbo_Degré.Text);
     NuméroDegré = PremierEnregistrement(Globals).Whole("NuméroDegré");
-    const bool Couronne = Contains(cbo_ObjetSecondaire.Text(), "couronne");
+    const bool Couronne = Contains(cbo_ObjetSecondaire.Text, "couronne");
     for (int i = 1; i <= 3; ++i)
         RésoudreMatériau(Globals, NuméroDegré, Couronne, Matériaux[i]);
 
     Globals.TexteSQL = "SELECT * FROM R_SecondaireObjets WHERE Secondaire_Produits.Nom=" +
-                       Quoted(cbo_ObjetSecondaire.Text());
+                       Quoted(cbo_ObjetSecondaire.Text);
     const Recordset& Objet = PremierEnregistrement(Globals);
     MontrerIcône(Objet);
     ColonneRevente = "PrixReventeDegré" + std::to_string(NuméroDegré);

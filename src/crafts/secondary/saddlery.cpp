@@ -22,10 +22,10 @@ void frm_ArtisanatsSecondaires::PréparerSellerie()
 
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
     Globals.TexteSQL = "SELECT DISTINCT * FROM R_SellerieObjets WHERE (Artisanat_Liste.Nom =" +
-                       Quoted(lbl_Artisanat.Caption()) + ")";
+                       Quoted(lbl_Artisanat.Caption) + ")";
     RemplirListe(Globals, cbo_ObjetSecondaire, "Sellerie_ListeObjets.Nom");
     Globals.TexteSQL = "SELECT * FROM R_SellerieProduits WHERE Artisanat_Liste.Nom = " +
-                       Quoted(lbl_Artisanat.Caption());
+                       Quoted(lbl_Artisanat.Caption);
     RemplirListe(Globals, cbo_Degré, "Sellerie_ProduitsDétaillés.Nom");
     if (cbo_Degré.ListCount() == 0) // a trade without filters
         ShowAll({&cbo_Degré, &lbl_Zone2}, false);
@@ -36,7 +36,7 @@ void frm_ArtisanatsSecondaires::FiltrerSellerie()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
     Globals.TexteSQL = "SELECT DISTINCT * FROM R_SellerieObjets WHERE (Artisanat_Liste.Nom =" +
-                       Quoted(lbl_Artisanat.Caption()) + " AND Sellerie_ListeObjets.Nom LIKE " +
+                       Quoted(lbl_Artisanat.Caption) + " AND Sellerie_ListeObjets.Nom LIKE " +
                        Quoted("*" + cbo_Degré.Text + "*") + ")";
     Recordset& Objets = OuvrirEnregistrements(Globals);
     if (Objets.RecordCount() == 0) {
@@ -68,7 +68,7 @@ void frm_ArtisanatsSecondaires::LireSellerie()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
     Globals.TexteSQL = "SELECT * FROM R_SellerieObjets WHERE Sellerie_ListeObjets.Nom =" +
-                       Quoted(cbo_ObjetSecondaire.Text());
+                       Quoted(cbo_ObjetSecondaire.Text);
     const Recordset& Objet = PremierEnregistrement(Globals);
     MontrerIcône(Objet);
     txt_Image.Text = Objet.TextOrEmpty("Image");
