@@ -43,8 +43,6 @@ void Application::TellNotices()
 
 void Application::EmptySlots()
 {
-    Globals.Enregistrements.Empty();
-    Globals.Enregistrements2.Empty();
     Globals.BaseDonnées.Empty();
     Globals.BaseDonnées2.Empty();
 }

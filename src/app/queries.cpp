@@ -7,30 +7,40 @@ Ouverture::Ouverture(Application& App, Slot<Database>& Base, const std::string& 
     Base = App.Bases.Open(Chemin);
 }
 
-Recordset& OuvrirEnregistrements(Variables& Globals)
+Recordset OuvrirEnregistrements(Variables& Globals, const std::string& Requête)
 {
-    return Globals.Enregistrements = Globals.BaseDonnées->OpenRecordset(Globals.TexteSQL);
+    Globals.TexteSQL = Requête;
+    Globals.Enregistrements = Globals.BaseDonnées->OpenRecordset(Globals.TexteSQL);
+    return Globals.Enregistrements.Take();
 }
 
-Recordset& PremierEnregistrement(Variables& Globals)
+Recordset PremierEnregistrement(Variables& Globals, const std::string& Requête)
 {
-    Recordset& Lignes = OuvrirEnregistrements(Globals);
+    Recordset Lignes = OuvrirEnregistrements(Globals, Requête);
     Lignes.MoveFirst();
     return Lignes;
 }
 
-Recordset& OuvrirEnregistrements2(Variables& Globals)
+Recordset OuvrirEnregistrements2(Variables& Globals, const std::string& Requête)
 {
-    return Globals.Enregistrements2 = Globals.BaseDonnées2->OpenRecordset(Globals.TexteSQL);
+    Globals.TexteSQL = Requête;
+    Globals.Enregistrements2 = Globals.BaseDonnées2->OpenRecordset(Globals.TexteSQL);
+    return Globals.Enregistrements2.Take();
 }
 
-void RemplirListe(Variables& Globals, ListControl& Liste, std::string_view Colonne)
+void Supprimer(Variables& Globals, const std::string& Requête)
 {
-    RemplirListe(OuvrirEnregistrements(Globals), Liste, Colonne);
-    Globals.Enregistrements.Empty();
+    Globals.TexteSQL = Requête;
+    Globals.BaseDonnées->Execute(Globals.TexteSQL);
 }
 
-void RemplirListe(Recordset& Lignes, ListControl& Liste, std::string_view Colonne)
+void RemplirListe(Variables& Globals, const std::string& Requête, ListControl& Liste,
+                  std::string_view Colonne)
+{
+    RemplirListe(OuvrirEnregistrements(Globals, Requête), Liste, Colonne);
+}
+
+void RemplirListe(Recordset Lignes, ListControl& Liste, std::string_view Colonne)
 {
     for (; !Lignes.Eof(); Lignes.MoveNext())
         if (!Lignes.IsNull(Colonne))

@@ -8,7 +8,8 @@
 #include <string_view>
 
 // The habit of every handler, in few words: open a database into a shared slot for the length of a
-// block, send TexteSQL, read, and leave the slots empty behind, by return or by failure.
+// block, send a query, get its rows. The shared record slots and TexteSQL are filled and emptied on
+// the way: rows are values, which a handler nested in a write can't touch.
 namespace orvane {
 
 // A database open in a slot until the end of the block.
@@ -24,20 +25,22 @@ class [[nodiscard]] Ouverture
     Slot<Database>& Base;
 };
 
-// Sends TexteSQL to BaseDonnées, into Enregistrements. The set may be empty.
-Recordset& OuvrirEnregistrements(Variables& Globals);
+// The rows of a query in BaseDonnées; there may be none.
+Recordset OuvrirEnregistrements(Variables& Globals, const std::string& Requête);
 
 // The same, on the first row. Failure when there is none.
-Recordset& PremierEnregistrement(Variables& Globals);
+Recordset PremierEnregistrement(Variables& Globals, const std::string& Requête);
 
-// The same pair on the second slots.
-Recordset& OuvrirEnregistrements2(Variables& Globals);
+// The rows of a query in BaseDonnées2.
+Recordset OuvrirEnregistrements2(Variables& Globals, const std::string& Requête);
 
-// Sends TexteSQL to BaseDonnées and adds Colonne of each row to the list, behind what it holds; a
-// query without rows adds nothing. Rows without a value are passed over.
-void RemplirListe(Variables& Globals, ListControl& Liste, std::string_view Colonne);
+// "DELETE * FROM table WHERE condition", in BaseDonnées.
+void Supprimer(Variables& Globals, const std::string& Requête);
 
-// The same from a set that is open already.
-void RemplirListe(Recordset& Lignes, ListControl& Liste, std::string_view Colonne);
+// Adds Colonne of each row to the list, behind what it holds; a query without rows adds nothing.
+// Rows without a value are passed over.
+void RemplirListe(Variables& Globals, const std::string& Requête, ListControl& Liste,
+                  std::string_view Colonne);
+void RemplirListe(Recordset Lignes, ListControl& Liste, std::string_view Colonne);
 
 } // namespace orvane

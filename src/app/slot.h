@@ -27,6 +27,9 @@ class Slot
         return &*Content;
     }
 
+    // What it holds, which leaves it empty.
+    Type Take() { return *std::exchange(Content, std::nullopt); }
+
     bool IsEmpty() const { return !Content; }
     void Empty() { Content.reset(); }
 

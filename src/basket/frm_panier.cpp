@@ -48,17 +48,17 @@ void frm_Panier::ViderListes()
 void frm_Panier::RemplirListes()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminPanier);
-    Globals.TexteSQL =
-        "SELECT * FROM PanierGlobal WHERE (Royaume=" + Quoted(Globals.RoyaumeCourant) +
-        " AND Acheteur=" + Quoted(cbo_Commandes.Text) + ") ORDER BY Nom";
-    for (Recordset& Lignes = OuvrirEnregistrements(Globals); !Lignes.Eof(); Lignes.MoveNext()) {
+    for (Recordset Lignes = OuvrirEnregistrements(
+             Globals,
+             "SELECT * FROM PanierGlobal WHERE (Royaume=" + Quoted(Globals.RoyaumeCourant) +
+                 " AND Acheteur=" + Quoted(cbo_Commandes.Text) + ") ORDER BY Nom");
+         !Lignes.Eof(); Lignes.MoveNext()) {
         lst_Num.AddItem(Lignes.TextOrEmpty("Num"));
         lst_Objet.AddItem(Lignes.TextOrEmpty("Nom"));
         lst_Nb.AddItem(Lignes.TextOrEmpty("Nb"));
         lst_PrixCoûtant.AddItem(Lignes.TextOrEmpty("PrixCoûtant"));
         lst_PrixVente.AddItem(Lignes.TextOrEmpty("PrixVente"));
     }
-    Globals.Enregistrements.Empty();
 }
 
 void frm_Panier::TotalCoûtant()
@@ -76,11 +76,11 @@ void frm_Panier::Totaliser(const std::string& Colonne, TextBox& Total)
 {
     TotalPanier = {};
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminPanier);
-    Globals.TexteSQL = "SELECT " + Colonne + " FROM PanierGlobal";
-    for (Recordset& Lignes = OuvrirEnregistrements(Globals); !Lignes.Eof(); Lignes.MoveNext())
+    for (Recordset Lignes =
+             OuvrirEnregistrements(Globals, "SELECT " + Colonne + " FROM PanierGlobal");
+         !Lignes.Eof(); Lignes.MoveNext())
         TotalPanier =
             TotalPanier + Montant::FromText(Lignes.TextOrEmpty(Colonne)).value_or(Montant());
-    Globals.Enregistrements.Empty();
     Total.Text = T(TotalPanier);
 }
 
@@ -123,13 +123,13 @@ void frm_Panier::cmd_Enregistrer_Click()
 void frm_Panier::NommerLignes(const std::string& Acheteur)
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminPanier);
-    Globals.TexteSQL = "SELECT * FROM PanierGlobal WHERE Acheteur=" + Quoted(NouvelleCommande);
-    for (Recordset& Lignes = PremierEnregistrement(Globals); !Lignes.Eof(); Lignes.MoveNext()) {
+    for (Recordset Lignes = PremierEnregistrement(
+             Globals, "SELECT * FROM PanierGlobal WHERE Acheteur=" + Quoted(NouvelleCommande));
+         !Lignes.Eof(); Lignes.MoveNext()) {
         Lignes.Edit();
         Lignes.Set("Acheteur", Acheteur);
         Lignes.Update();
     }
-    Globals.Enregistrements.Empty();
 }
 
 void frm_Panier::cmd_SupprimerObjet_Click()
@@ -138,8 +138,7 @@ void frm_Panier::cmd_SupprimerObjet_Click()
         return;
     {
         const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminPanier);
-        Globals.TexteSQL = "DELETE * FROM PanierGlobal WHERE Num=" + lst_Num.Text;
-        Globals.BaseDonnées->Execute(Globals.TexteSQL);
+        Supprimer(Globals, "DELETE * FROM PanierGlobal WHERE Num=" + lst_Num.Text);
     }
     ViderListes();
     RemplirListes();
@@ -151,9 +150,8 @@ void frm_Panier::cmd_SupprimerCommande_Click()
 {
     {
         const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminPanier);
-        Globals.TexteSQL =
-            "DELETE * FROM PanierGlobal WHERE Acheteur=" + Quoted(cbo_Commandes.Text);
-        Globals.BaseDonnées->Execute(Globals.TexteSQL);
+        Supprimer(Globals,
+                  "DELETE * FROM PanierGlobal WHERE Acheteur=" + Quoted(cbo_Commandes.Text));
     }
     ViderListes();
     RemplirCommandes(App);

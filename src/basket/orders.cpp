@@ -28,13 +28,13 @@ void RemplirCommandes(Application& App)
     Commandes.Clear();
     bool Trouvée = false;
     const Ouverture Base(App, Globals.BaseDonnées2, Globals.CheminPanier);
-    Globals.TexteSQL = "SELECT DISTINCT Acheteur FROM PanierGlobal ORDER BY Acheteur";
-    for (Recordset& Lignes = OuvrirEnregistrements2(Globals); !Lignes.Eof(); Lignes.MoveNext()) {
+    for (Recordset Lignes = OuvrirEnregistrements2(
+             Globals, "SELECT DISTINCT Acheteur FROM PanierGlobal ORDER BY Acheteur");
+         !Lignes.Eof(); Lignes.MoveNext()) {
         const std::string Acheteur = Lignes.TextOrEmpty("Acheteur");
         Trouvée = Trouvée || Acheteur == NouvelleCommande;
         Commandes.AddItem(Acheteur);
     }
-    Globals.Enregistrements2.Empty();
     if (!Trouvée)
         Commandes.AddItem(NouvelleCommande);
     Commandes.Text = NouvelleCommande;
@@ -51,8 +51,8 @@ void AjouterLigne(Application& App, const LigneCommande& Ligne)
     }
     Variables& Globals = App.Globals;
     const Ouverture Base(App, Globals.BaseDonnées2, Globals.CheminPanier);
-    Globals.TexteSQL = "SELECT * FROM PanierGlobal WHERE Num=0"; // no row is needed to add one
-    Recordset& Panier = OuvrirEnregistrements2(Globals);
+    // no row is needed to add one
+    Recordset Panier = OuvrirEnregistrements2(Globals, "SELECT * FROM PanierGlobal WHERE Num=0");
     Panier.AddNew();
     Panier.Set("Nom", Ligne.Nom);
     Panier.Set("Nb", Ligne.Nb.Text);
@@ -61,7 +61,6 @@ void AjouterLigne(Application& App, const LigneCommande& Ligne)
     Panier.Set("Royaume", Globals.RoyaumeCourant);
     Panier.Set("Acheteur", App.Feuilles.Get<frm_Panier>().cbo_Commandes.Text);
     Panier.Update();
-    Globals.Enregistrements2.Empty();
 }
 
 } // namespace orvane

@@ -64,8 +64,8 @@ void frm_Accueil::ChargerConfigRoyaume()
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminConfig);
     const std::string& Royaume = Globals.RoyaumeCourant;
     ColonnesRoyaume = frm_Configuration::ColonnesPour(Royaume);
-    Globals.TexteSQL = "SELECT " + ColonnesRoyaume + " FROM ConfigRoyaume ORDER BY Num";
-    Recordset& Lignes = PremierEnregistrement(Globals);
+    Recordset Lignes = PremierEnregistrement(Globals, "SELECT " + ColonnesRoyaume +
+                                                          " FROM ConfigRoyaume ORDER BY Num");
     for (const RéglagesArtisanat& Artisanat : App.Feuilles.Get<frm_Configuration>().Réglages()) {
         if (Artisanat.Niveau != nullptr)
             Artisanat.Niveau->Text = Lignes.Text("Craft" + Royaume);
@@ -75,7 +75,6 @@ void frm_Accueil::ChargerConfigRoyaume()
             Artisanat.Essai->Text = Lignes.Text("Marges2" + Royaume);
         Lignes.MoveNext();
     }
-    Globals.Enregistrements.Empty();
 }
 
 std::vector<frm_Accueil::Écu> frm_Accueil::Écus()
@@ -93,8 +92,8 @@ void frm_Accueil::MontrerÉcu(const Écu& Which, bool Choisi)
 
 void frm_Accueil::RestaurerRoyaume()
 {
-    Globals.TexteSQL = "SELECT Nom FROM DernierRoyaume";
-    const std::string Dernier = PremierEnregistrement(Globals).Text("Nom");
+    const std::string Dernier =
+        PremierEnregistrement(Globals, "SELECT Nom FROM DernierRoyaume").Text("Nom");
     const auto Tous = Écus();
     auto Choisi = std::ranges::find(Tous, Dernier, &Écu::Royaume);
     if (Choisi == Tous.end()) {
@@ -105,20 +104,18 @@ void frm_Accueil::RestaurerRoyaume()
     Globals.RoyaumeCourant = Choisi->Royaume;
     MontrerÉcu(*Choisi, true);
     Globals.CheminRoyaume = App.Chemin("/" + RoyaumeFile(Globals.RoyaumeCourant));
-    Globals.Enregistrements.Empty();
 }
 
 std::string frm_Accueil::RestaurerChoix(const std::string& Liste, const std::string& Dernier,
                                         ComboBox& Box,
                                         const std::function<bool(const std::string&)>& Possible)
 {
-    Globals.TexteSQL = "SELECT Nom FROM " + Liste + " ORDER BY Num";
     std::vector<std::string> Noms;
-    for (Recordset& Lignes = PremierEnregistrement(Globals); !Lignes.Eof(); Lignes.MoveNext())
+    for (Recordset Lignes =
+             PremierEnregistrement(Globals, "SELECT Nom FROM " + Liste + " ORDER BY Num");
+         !Lignes.Eof(); Lignes.MoveNext())
         Box.AddItem(Noms.emplace_back(Lignes.Text("Nom")));
-    Globals.TexteSQL = "SELECT Nom FROM " + Dernier;
-    std::string Choix = PremierEnregistrement(Globals).Text("Nom");
-    Globals.Enregistrements.Empty();
+    std::string Choix = PremierEnregistrement(Globals, "SELECT Nom FROM " + Dernier).Text("Nom");
     if (Box.FindItem(Choix) < 0 || !Possible(Choix)) {
         const auto Premier = std::ranges::find_if(Noms, Possible);
         const std::string Remplaçant = Premier == Noms.end() ? std::string() : *Premier;
@@ -194,12 +191,10 @@ void frm_Accueil::cmd_Quitter_Click()
 void frm_Accueil::EnregistrerRoyaume()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminConfig);
-    Globals.TexteSQL = "SELECT Nom FROM DernierRoyaume";
-    Recordset& Ligne = PremierEnregistrement(Globals);
+    Recordset Ligne = PremierEnregistrement(Globals, "SELECT Nom FROM DernierRoyaume");
     Ligne.Edit();
     Ligne.Set("Nom", Globals.RoyaumeCourant);
     Ligne.Update();
-    Globals.Enregistrements.Empty();
 }
 
 } // namespace orvane

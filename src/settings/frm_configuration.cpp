@@ -90,8 +90,8 @@ void frm_Configuration::EnregistrerRéglages()
 {
     const std::string& Royaume = Globals.RoyaumeCourant;
     ColonnesRoyaume = ColonnesPour(Royaume);
-    Globals.TexteSQL = "SELECT " + ColonnesRoyaume + " FROM ConfigRoyaume ORDER BY Num";
-    Recordset& Lignes = PremierEnregistrement(Globals);
+    Recordset Lignes = PremierEnregistrement(Globals, "SELECT " + ColonnesRoyaume +
+                                                          " FROM ConfigRoyaume ORDER BY Num");
     for (const RéglagesArtisanat& Artisanat : Réglages()) {
         Lignes.Edit();
         if (Artisanat.Niveau != nullptr)
@@ -103,7 +103,6 @@ void frm_Configuration::EnregistrerRéglages()
         Lignes.Update();
         Lignes.MoveNext();
     }
-    Globals.Enregistrements.Empty();
 }
 
 TextBox& frm_Configuration::EnVigueur(const char* Case)
@@ -116,12 +115,10 @@ void frm_Configuration::EnregistrerChoix(const std::string& Table, ComboBox& Lis
 {
     if (Liste.Text.empty()) // no skin was found at all: the stored name may come back
         return;
-    Globals.TexteSQL = "SELECT Nom FROM " + Table;
-    Recordset& Ligne = PremierEnregistrement(Globals);
+    Recordset Ligne = PremierEnregistrement(Globals, "SELECT Nom FROM " + Table);
     Ligne.Edit();
     Ligne.Set("Nom", Liste.Text);
     Ligne.Update();
-    Globals.Enregistrements.Empty();
     TextBox& Courant = EnVigueur(Case);
     if (Courant.Text != Liste.Text)
         Courant.Text = Liste.Text;

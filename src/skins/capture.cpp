@@ -102,8 +102,7 @@ void RécupérerRésolution(Application& App)
     }
     const Screen& Feuille = Feuilles[*Choix];
     const Database Base = App.Bases.Open(App.Globals.CheminBaseSkin);
-    App.Globals.TexteSQL = "SELECT * FROM Temp";
-    Recordset Temp = Base.OpenRecordset(App.Globals.TexteSQL);
+    Recordset Temp = Base.OpenRecordset("SELECT * FROM Temp");
     for (const Control* Contrôle : Feuille.Controls()) {
         Temp.AddNew();
         Temp.Set("NomControl", Contrôle->Name());

@@ -62,12 +62,11 @@ std::string TableDe(Application& App, const Screen& Feuille, const std::string& 
 {
     Variables& Globals = App.Globals;
     const Ouverture Base(App, Globals.BaseDonnées2, Globals.CheminBaseSkin);
-    Globals.TexteSQL = "SELECT * FROM RésolutionCommune WHERE Nom=" + Quoted(Feuille.Name());
-    Recordset& Ligne = OuvrirEnregistrements2(Globals);
+    Recordset Ligne = OuvrirEnregistrements2(Globals, "SELECT * FROM RésolutionCommune WHERE Nom=" +
+                                                          Quoted(Feuille.Name()));
     Ligne.MoveFirst();
     std::string Table =
         Feuille.Name() + "_" + (Vaut(Ligne, "Commun") ? "Commun" : SansEspaces(Résolution));
-    Globals.Enregistrements2.Empty();
     return Table;
 }
 
@@ -105,8 +104,7 @@ void AppliquerRésolution(Application& App, std::int16_t IndexFeuille, const std
     Screen& Feuille = App.Feuilles[IndexFeuille];
     const std::string Table = TableDe(App, Feuille, Résolution);
     const Database Base = App.Bases.Open(Globals.CheminBaseSkin);
-    Globals.TexteSQL = "SELECT * FROM [" + Table + "] ORDER BY Num";
-    Lignes Rangées(Base.OpenRecordset(Globals.TexteSQL));
+    Lignes Rangées(Base.OpenRecordset("SELECT * FROM [" + Table + "] ORDER BY Num"));
     const Recordset* Propre = Rangées.Pour(Feuille.Name());
     if (Propre == nullptr)
         throw Failure(FailureKind::NoRow, Feuille.Name());

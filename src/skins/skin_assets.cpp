@@ -171,13 +171,12 @@ void ChoisirDossierImages(Application& App, const std::string& Feuille,
                           const std::string& Résolution)
 {
     Variables& Globals = App.Globals;
-    Globals.TexteSQL = "SELECT * FROM RésolutionCommune WHERE Nom=" + Quoted(Feuille);
-    Recordset& Ligne = OuvrirEnregistrements2(Globals);
+    Recordset Ligne = OuvrirEnregistrements2(Globals, "SELECT * FROM RésolutionCommune WHERE Nom=" +
+                                                          Quoted(Feuille));
     Ligne.MoveFirst();
     Globals.CheminImages =
         Globals.CheminSkin +
         (Ligne.TextOrEmpty("Commun") == "O" ? "Commun/" : SansEspaces(Résolution) + "/");
-    Globals.Enregistrements2.Empty();
 }
 
 void RelierAlchimie(Application& App, const std::string& Royaume)

@@ -35,8 +35,7 @@ void frm_Archerie::Activate()
     cbo_Type.Clear();
     {
         const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-        Globals.TexteSQL = "SELECT Nom FROM ArcherieType";
-        RemplirListe(Globals, cbo_Type, "Nom");
+        RemplirListe(Globals, "SELECT Nom FROM ArcherieType", cbo_Type, "Nom");
     }
     auto& Configuration = App.Feuilles.Get<frm_Configuration>();
     LireRéglage(Configuration.txt_NiveauEmpennage, NiveauCraft);
@@ -47,9 +46,10 @@ void frm_Archerie::cbo_Type_Click()
 {
     cbo_Objet.Clear();
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    Globals.TexteSQL =
-        "SELECT Archerie.Nom FROM R_Archerie WHERE ArcherieType.Nom=" + Quoted(cbo_Type.Text);
-    RemplirListe(Globals, cbo_Objet, "Nom");
+    RemplirListe(Globals,
+                 "SELECT Archerie.Nom FROM R_Archerie WHERE ArcherieType.Nom=" +
+                     Quoted(cbo_Type.Text),
+                 cbo_Objet, "Nom");
 }
 
 void frm_Archerie::cbo_Objet_Click()
@@ -67,13 +67,12 @@ void frm_Archerie::cbo_Objet_Click()
 void frm_Archerie::LireCarquois()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    Globals.TexteSQL = "SELECT * FROM R_Archerie WHERE (ArcherieType.Nom=" + Quoted(cbo_Type.Text) +
-                       " AND Archerie.Nom=" + Quoted(cbo_Objet.Text) + ")";
-    const Recordset& Carquois = PremierEnregistrement(Globals);
+    const Recordset Carquois = PremierEnregistrement(
+        Globals, "SELECT * FROM R_Archerie WHERE (ArcherieType.Nom=" + Quoted(cbo_Type.Text) +
+                     " AND Archerie.Nom=" + Quoted(cbo_Objet.Text) + ")");
     lbl_Niveau.Caption = Carquois.Text("NiveauCraft");
     Matériaux.Charger(Carquois, "Matériaux_Classique", false);
     txt_Icône.Text = Carquois.Text("Icône");
-    Globals.Enregistrements.Empty();
 }
 
 // Each line is rounded before the count multiplies. Before the first quiver there is nothing to

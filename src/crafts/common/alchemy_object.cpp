@@ -14,16 +14,17 @@ constexpr std::string_view BarresDeMétal = "Barres de métal";
 void RemplacerDernierCaractère(Variables& Globals, TextBox& Nom)
 {
     const std::string& Royaume = Globals.RoyaumeCourant;
-    Globals.TexteSQL = "SELECT Nom, " + Royaume + " FROM Matériaux WHERE Nom=" + Quoted(Nom.Text);
-    const std::string Terminaison = PremierEnregistrement(Globals).Text(Royaume);
+    const std::string Terminaison =
+        PremierEnregistrement(Globals, "SELECT Nom, " + Royaume +
+                                           " FROM Matériaux WHERE Nom=" + Quoted(Nom.Text))
+            .Text(Royaume);
     Nom.Text = WithoutLastCharacters(Nom.Text, 1) + Terminaison;
-    Globals.Enregistrements.Empty();
 }
 
 void ChargerObjetSup(Variables& Globals, const std::string& Nom, const ObjetSup& Où)
 {
-    Globals.TexteSQL = "SELECT * FROM R_AlchimieObjet WHERE (ListeObjets.Nom=" + Quoted(Nom) + ")";
-    const Recordset Objet = PremierEnregistrement(Globals); // its own copy: the writes below nest
+    const Recordset Objet = PremierEnregistrement(
+        Globals, "SELECT * FROM R_AlchimieObjet WHERE (ListeObjets.Nom=" + Quoted(Nom) + ")");
     Où.Niveau.Caption = Objet.Text("NiveauCraft");
     Où.Icône.Text = Objet.TextOrEmpty("Icône");
     Où.Matériaux.Charger(Objet, "Matériaux", true);

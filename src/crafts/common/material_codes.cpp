@@ -16,12 +16,11 @@ void RésoudreMatériau(Variables& Globals, std::int16_t NuméroDegré, bool Pat
         Ligne.PrixUnitaire.Text = "0,0050";
         return;
     }
-    Globals.TexteSQL = "SELECT * FROM Matériaux_Classique WHERE (Type=" + Code +
-                       " AND Degré=" + std::to_string(NuméroDegré) + ")";
-    const Recordset& Matériau = PremierEnregistrement(Globals);
+    const Recordset Matériau =
+        PremierEnregistrement(Globals, "SELECT * FROM Matériaux_Classique WHERE (Type=" + Code +
+                                           " AND Degré=" + std::to_string(NuméroDegré) + ")");
     Ligne.Nom.Text = Matériau.Text("Nom");
     Ligne.PrixUnitaire.Text = Matériau.Text("Prix");
-    Globals.Enregistrements.Empty();
 }
 
 } // namespace orvane

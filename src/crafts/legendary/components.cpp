@@ -46,10 +46,9 @@ void frm_ArmesLégendaires::cbo_Arme_Click()
 void frm_ArmesLégendaires::LireArme()
 {
     const Ouverture Base(App, Globals.BaseDonnées, CheminArtisanat);
-    Globals.TexteSQL =
-        "SELECT * FROM R_ArmesLégendairesObjets WHERE ArmesLégendaires_ListeObjets.Nom=" +
-        Quoted(cbo_Arme.Text);
-    const Recordset& Lue = PremierEnregistrement(Globals);
+    const Recordset Lue = PremierEnregistrement(
+        Globals, "SELECT * FROM R_ArmesLégendairesObjets WHERE ArmesLégendaires_ListeObjets.Nom=" +
+                     Quoted(cbo_Arme.Text));
     struct Copie
     {
         const char* Colonne;
@@ -65,7 +64,6 @@ void frm_ArmesLégendaires::LireArme()
           Copie{"Classique_ListeObjets.Num", txt_ObjetNum},
           Copie{"Arcanes_ListeObjets.Num", txt_GemmeNum}})
         Each.Où.Text = Lue.Text(Each.Colonne);
-    Globals.Enregistrements.Empty();
 }
 
 void frm_ArmesLégendaires::cbo_Type_Click()
@@ -87,14 +85,13 @@ void frm_ArmesLégendaires::cbo_Type_Click()
 void frm_ArmesLégendaires::LireType()
 {
     const Ouverture Base(App, Globals.BaseDonnées, CheminArtisanat);
-    Globals.TexteSQL = "SELECT * FROM R_ArmesLégendairesType WHERE ArmesLégendaires_Type.Nom=" +
-                       Quoted(cbo_Type.Text);
-    const Recordset& Type = PremierEnregistrement(Globals);
+    const Recordset Type = PremierEnregistrement(
+        Globals, "SELECT * FROM R_ArmesLégendairesType WHERE ArmesLégendaires_Type.Nom=" +
+                     Quoted(cbo_Type.Text));
     txt_Teinture.Text = Type.Text("Alchimie_ListeObjets.Nom");
     txt_Spécial.Text = Type.Text("ObjetSpécial");
     txt_Dégâts.Text = Type.Text("TypeDégât");
     txt_TeintureNum.Text = Type.Text("Num");
-    Globals.Enregistrements.Empty();
 }
 
 // The weapon's row names its materials by type only; each type has its material of the last degree.
@@ -102,8 +99,8 @@ void frm_ArmesLégendaires::ChargerArmeEtGemme()
 {
     {
         const Ouverture Base(App, Globals.BaseDonnées, CheminArtisanat);
-        Globals.TexteSQL = "SELECT * FROM R_ClassiqueObjets WHERE Num=" + txt_ObjetNum.Text;
-        const Recordset Objet = PremierEnregistrement(Globals);
+        const Recordset Objet = PremierEnregistrement(
+            Globals, "SELECT * FROM R_ClassiqueObjets WHERE Num=" + txt_ObjetNum.Text);
         for (int i = 1; i <= 3; ++i) {
             Arme.Matériaux[i].Nom.Text =
                 Objet.Text(ColonneJointe("Matériaux_ClassiqueType", i, "Nom"));
@@ -124,8 +121,8 @@ void frm_ArmesLégendaires::ChargerArmeEtGemme()
 // database open.
 void frm_ArmesLégendaires::ChargerGemme()
 {
-    Globals.TexteSQL = "SELECT * FROM R_ArcanesObjets WHERE Num=" + txt_GemmeNum.Text;
-    const Recordset Lue = PremierEnregistrement(Globals);
+    const Recordset Lue = PremierEnregistrement(
+        Globals, "SELECT * FROM R_ArcanesObjets WHERE Num=" + txt_GemmeNum.Text);
     for (int i : {1, 2}) {
         LigneMatériau& Ligne = Gemme.Matériaux[i + 1];
         Ligne.Nom.Text = Lue.Text(ColonneJointe("Matériaux_Arcanes", i, "Nom"));
@@ -138,9 +135,8 @@ void frm_ArmesLégendaires::ChargerGemme()
     Gemme.FichierIcône.Text = Lue.TextOrEmpty("Icône");
     MontrerIcôneCommune(App, Gemme.FichierIcône, Gemme.Icône);
 
-    Globals.TexteSQL =
-        "SELECT * FROM Matériaux_Arcanes WHERE Degré=" + std::to_string(DernierDegré);
-    const Recordset Base = PremierEnregistrement(Globals);
+    const Recordset Base = PremierEnregistrement(
+        Globals, "SELECT * FROM Matériaux_Arcanes WHERE Degré=" + std::to_string(DernierDegré));
     Gemme.Matériaux[1].Nom.Text = Base.Text("Nom");
     Gemme.Matériaux[1].Qté.Text = "1";
     Gemme.Matériaux[1].PrixUnitaire.Text = Base.Text("Prix");
@@ -149,21 +145,20 @@ void frm_ArmesLégendaires::ChargerGemme()
 // Puts the material's own name in the place of its type's, and gives its price.
 void frm_ArmesLégendaires::ChercherMatériauArme(LigneMatériau& Ligne)
 {
-    Globals.TexteSQL = "SELECT * FROM R_ArmesLégendairesMatériaux "
-                       "WHERE Matériaux_ClassiqueType.Nom=" +
-                       Quoted(Ligne.Nom.Text);
-    const Recordset Matériau = PremierEnregistrement(Globals);
+    const Recordset Matériau =
+        PremierEnregistrement(Globals, "SELECT * FROM R_ArmesLégendairesMatériaux "
+                                       "WHERE Matériaux_ClassiqueType.Nom=" +
+                                           Quoted(Ligne.Nom.Text));
     Ligne.Nom.Text = Matériau.Text("Matériaux_Classique.Nom");
     Ligne.PrixUnitaire.Text = Matériau.Text("Prix");
-    Globals.Enregistrements.Empty();
 }
 
 void frm_ArmesLégendaires::ChargerTeinture()
 {
     {
         const Ouverture Base(App, Globals.BaseDonnées, CheminTeintures);
-        Globals.TexteSQL = "SELECT * FROM R_AlchimieObjet WHERE Num=" + txt_TeintureNum.Text;
-        const Recordset Lue = PremierEnregistrement(Globals);
+        const Recordset Lue = PremierEnregistrement(
+            Globals, "SELECT * FROM R_AlchimieObjet WHERE Num=" + txt_TeintureNum.Text);
         Teinture.Matériaux.Charger(Lue, "Matériaux", true);
         Teinture.Niveau.Caption = Lue.Text("NiveauCraft"); // a dye has no degrees
         Teinture.FichierIcône.Text = Lue.TextOrEmpty("Icône");
@@ -180,13 +175,12 @@ void frm_ArmesLégendaires::ChargerImages()
     if (cbo_Type.Text == "" || cbo_Arme.Text == "")
         return;
     const Ouverture Base(App, Globals.BaseDonnées, CheminArtisanat);
-    Globals.TexteSQL =
-        "SELECT * FROM R_ArmesLégendairesImages WHERE (ArmesLégendaires_ListeObjets.Nom=" +
-        Quoted(cbo_Arme.Text) + " AND ArmesLégendaires_Type.Nom=" + Quoted(cbo_Type.Text) + ")";
-    const Recordset& Images = OuvrirEnregistrements(Globals);
+    const Recordset Images = OuvrirEnregistrements(
+        Globals, "SELECT * FROM R_ArmesLégendairesImages WHERE (ArmesLégendaires_ListeObjets.Nom=" +
+                     Quoted(cbo_Arme.Text) +
+                     " AND ArmesLégendaires_Type.Nom=" + Quoted(cbo_Type.Text) + ")");
     txt_Image.Text = Images.Eof() ? "" : Images.TextOrEmpty("Image");
     txt_Icône.Text = Images.Eof() ? "" : Images.TextOrEmpty("Icône");
-    Globals.Enregistrements.Empty();
 }
 
 } // namespace orvane

@@ -58,9 +58,9 @@ void frm_ArtisanatsMagiques::cbo_Produit_Click()
     EffacerMatériaux();
     {
         const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
-        Globals.TexteSQL =
-            "SELECT * FROM R_Alchimie WHERE Produits.Nom=" + Quoted(cbo_Produit.Text);
-        orvane::RemplirListe(Globals, cbo_ProduitDétaillé, "ProduitsDétaillés.Nom");
+        RemplirListe(Globals,
+                     "SELECT * FROM R_Alchimie WHERE Produits.Nom=" + Quoted(cbo_Produit.Text),
+                     cbo_ProduitDétaillé, "ProduitsDétaillés.Nom");
     }
     const bool AvecFiltre = cbo_Produit.Text == EffetsÀDéclenchement;
     ShowAll({&cbo_Type, &lbl_Type}, AvecFiltre);
@@ -73,10 +73,11 @@ void frm_ArtisanatsMagiques::cbo_ProduitDétaillé_Click()
     EffacerMatériaux();
     {
         const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
-        Globals.TexteSQL = "SELECT ListeObjets.Nom FROM R_AlchimieObjet WHERE (Produits.Nom=" +
-                           Quoted(cbo_Produit.Text) +
-                           " AND ProduitsDétaillés.Nom=" + Quoted(cbo_ProduitDétaillé.Text) + ")";
-        orvane::RemplirListe(Globals, cbo_Objet, "Nom");
+        RemplirListe(Globals,
+                     "SELECT ListeObjets.Nom FROM R_AlchimieObjet WHERE (Produits.Nom=" +
+                         Quoted(cbo_Produit.Text) +
+                         " AND ProduitsDétaillés.Nom=" + Quoted(cbo_ProduitDétaillé.Text) + ")",
+                     cbo_Objet, "Nom");
     }
     RemplirFiltres(cbo_Type, cbo_ProduitDétaillé.Text);
 }
@@ -86,16 +87,15 @@ void frm_ArtisanatsMagiques::cbo_Type_Click()
 {
     EffacerMatériaux();
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
-    Globals.TexteSQL = "SELECT ListeObjets.Nom FROM R_AlchimieObjet WHERE (Produits.Nom=" +
-                       Quoted(cbo_Produit.Text) +
-                       " AND ProduitsDétaillés.Nom=" + Quoted(cbo_ProduitDétaillé.Text) +
-                       " AND ListeObjets.Nom LIKE " + Quoted("*" + cbo_Type.Text + "*") +
-                       ") ORDER BY NiveauCraft";
-    Recordset& Objets = OuvrirEnregistrements(Globals);
+    Recordset Objets = OuvrirEnregistrements(
+        Globals, "SELECT ListeObjets.Nom FROM R_AlchimieObjet WHERE (Produits.Nom=" +
+                     Quoted(cbo_Produit.Text) + " AND ProduitsDétaillés.Nom=" +
+                     Quoted(cbo_ProduitDétaillé.Text) + " AND ListeObjets.Nom LIKE " +
+                     Quoted("*" + cbo_Type.Text + "*") + ") ORDER BY NiveauCraft");
     if (Objets.RecordCount() == 0)
         return;
     EffacerSélection(4);
-    orvane::RemplirListe(Objets, cbo_Objet, "Nom");
+    RemplirListe(Objets, cbo_Objet, "Nom");
 }
 
 void frm_ArtisanatsMagiques::cbo_Objet_Click()
@@ -116,11 +116,10 @@ void frm_ArtisanatsMagiques::cbo_Objet_Click()
 void frm_ArtisanatsMagiques::LireObjet()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
-    Globals.TexteSQL =
-        "SELECT * FROM R_AlchimieObjet WHERE (Produits.Nom=" + Quoted(cbo_Produit.Text) +
-        " AND ProduitsDétaillés.Nom=" + Quoted(cbo_ProduitDétaillé.Text) +
-        " AND ListeObjets.Nom=" + Quoted(cbo_Objet.Text) + ")";
-    const Recordset Objet = PremierEnregistrement(Globals); // its own copy: the writes below nest
+    const Recordset Objet = PremierEnregistrement(
+        Globals, "SELECT * FROM R_AlchimieObjet WHERE (Produits.Nom=" + Quoted(cbo_Produit.Text) +
+                     " AND ProduitsDétaillés.Nom=" + Quoted(cbo_ProduitDétaillé.Text) +
+                     " AND ListeObjets.Nom=" + Quoted(cbo_Objet.Text) + ")");
     lbl_NiveauAlchimie.Caption = Objet.Text("NiveauCraft");
     txt_IcôneAlchimie.Text = Objet.TextOrEmpty("Icône");
     Ingrédients.Charger(Objet, "Matériaux", true);
@@ -128,7 +127,6 @@ void frm_ArtisanatsMagiques::LireObjet()
     txt_AlchimieObjetSup.Text = Objet.TextOrEmpty("NomObjet");
     txt_NbAlchimieObjetSup.Text = Objet.Text("NbObjet");
     txt_PrixReventeAlchimie.Text = Objet.Text("Revente");
-    Globals.Enregistrements.Empty();
 
     if (cbo_Produit.Text == EffetsÀDéclenchement)
         RemplacerDernierCaractère(Globals, Ingrédients[1].Nom);

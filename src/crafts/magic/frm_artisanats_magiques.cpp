@@ -109,8 +109,7 @@ void frm_ArtisanatsMagiques::RemplirProduits()
     EffacerSélection(1);
     cbo_Produit.Clear();
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
-    Globals.TexteSQL = "SELECT Nom FROM Produits";
-    orvane::RemplirListe(Globals, cbo_Produit, "Nom");
+    RemplirListe(Globals, "SELECT Nom FROM Produits", cbo_Produit, "Nom");
 }
 
 void frm_ArtisanatsMagiques::RemplirGemmes()
@@ -122,9 +121,9 @@ void frm_ArtisanatsMagiques::RemplirGemmes()
     cbo_DegréGemmes.Clear();
     cbo_DegréGemmes.Text = Degré;
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    RemplirListe("SELECT Nom FROM Arcanes_Produits", cbo_TypeGemmes, "Nom");
-    RemplirListe("SELECT Nom FROM Arcanes_Bonus", cbo_TypeBonus, "Nom");
-    RemplirListe("SELECT DegréType1 FROM Degrés_Arcanes", cbo_DegréGemmes, "DegréType1");
+    RemplirListe(Globals, "SELECT Nom FROM Arcanes_Produits", cbo_TypeGemmes, "Nom");
+    RemplirListe(Globals, "SELECT Nom FROM Arcanes_Bonus", cbo_TypeBonus, "Nom");
+    RemplirListe(Globals, "SELECT DegréType1 FROM Degrés_Arcanes", cbo_DegréGemmes, "DegréType1");
 }
 
 void frm_ArtisanatsMagiques::Bar_Menus_ItemClick(const SideMenu::Item& Entrée)

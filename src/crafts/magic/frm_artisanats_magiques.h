@@ -202,9 +202,8 @@ class frm_ArtisanatsMagiques : public Feuille
     void LireObjet();
     void LireCaractéristiques(const Recordset& Objet);
 
-    // Gem selection. RemplirListe adds a column of all the rows of a query, RemplirTexte writes
-    // that of the first row; both need the realm database open.
-    void RemplirListe(const std::string& Requête, ComboBox& Liste, const std::string& Colonne);
+    // Gem selection. RemplirTexte writes a column of the first row of a query; needs the realm
+    // database open.
     template <class BoxType>
     void RemplirTexte(const std::string& Requête, BoxType& Où, const std::string& Colonne);
     void RemplirSousTypesGemmes();

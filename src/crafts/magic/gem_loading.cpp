@@ -42,17 +42,17 @@ bool frm_ArtisanatsMagiques::ASixLignes() const
 // Needs the realm database open.
 void frm_ArtisanatsMagiques::ChargerGemme()
 {
-    Globals.TexteSQL = "SELECT NuméroDegré, PrixRevente, DegréType1 FROM Degrés_Arcanes "
-                       "WHERE DegréType1=" +
-                       Quoted(cbo_DegréGemmes.Text);
-    const Recordset Degré = PremierEnregistrement(Globals);
+    const Recordset Degré = PremierEnregistrement(
+        Globals, "SELECT NuméroDegré, PrixRevente, DegréType1 FROM Degrés_Arcanes "
+                 "WHERE DegréType1=" +
+                     Quoted(cbo_DegréGemmes.Text));
     const std::int16_t NuméroDegré = Degré.Whole("NuméroDegré");
     txt_ArcanesPrixRevente.Text = Degré.Text("PrixRevente");
 
-    Globals.TexteSQL =
-        "SELECT * FROM R_ArcanesObjets WHERE (Arcanes_Bonus.Nom=" + Quoted(cbo_TypeBonus.Text) +
-        " AND Bonus=" + Quoted(cbo_SousTypeBonus.Text) + ")";
-    const Recordset Gemme = PremierEnregistrement(Globals); // its own copy: the writes below nest
+    const Recordset Gemme =
+        PremierEnregistrement(Globals, "SELECT * FROM R_ArcanesObjets WHERE (Arcanes_Bonus.Nom=" +
+                                           Quoted(cbo_TypeBonus.Text) +
+                                           " AND Bonus=" + Quoted(cbo_SousTypeBonus.Text) + ")");
     Ingrédients[2].Nom.Text = Gemme.Text(Matériau(1, "Nom"));
     txt_ArcanesCoefQté2.Text = Gemme.Text("CoefQté2");
     Ingrédients[3].Nom.Text = Gemme.Text(Matériau(2, "Nom"));
@@ -68,7 +68,6 @@ void frm_ArtisanatsMagiques::ChargerGemme()
     ChargerBase(NuméroDegré);
     if (txt_AlchimieObjetSup.Text != "")
         ChargerGemmeSup();
-    Globals.Enregistrements.Empty();
 }
 
 // Lines 4 to 6. The "1" before the price makes its text change also when the stored price is 0, so
@@ -101,8 +100,8 @@ void frm_ArtisanatsMagiques::ChargerBase(std::int16_t NuméroDegré)
         Ingrédients[1].PrixUnitaire.Text = "0";
         return;
     }
-    Globals.TexteSQL = "SELECT * FROM Matériaux_Arcanes WHERE Degré=" + std::to_string(NuméroDegré);
-    const Recordset Base = PremierEnregistrement(Globals);
+    const Recordset Base = PremierEnregistrement(
+        Globals, "SELECT * FROM Matériaux_Arcanes WHERE Degré=" + std::to_string(NuméroDegré));
     Ingrédients[1].Nom.Text = Base.Text("Nom");
     Ingrédients[1].PrixUnitaire.Text = Base.Text("Prix");
 }
@@ -110,9 +109,9 @@ void frm_ArtisanatsMagiques::ChargerBase(std::int16_t NuméroDegré)
 // The gem that another one needs: a whole gem of its own row, without a degree.
 void frm_ArtisanatsMagiques::ChargerGemmeSup()
 {
-    Globals.TexteSQL = "SELECT * FROM R_ArcanesObjets WHERE (Arcanes_ProduitsDétaillés.Nom=" +
-                       Quoted(txt_AlchimieObjetSup.Text) + ")";
-    const Recordset Gemme = PremierEnregistrement(Globals);
+    const Recordset Gemme = PremierEnregistrement(
+        Globals, "SELECT * FROM R_ArcanesObjets WHERE (Arcanes_ProduitsDétaillés.Nom=" +
+                     Quoted(txt_AlchimieObjetSup.Text) + ")");
     lbl_AlchimieObjetSupNiveauCraft.Caption = Gemme.Text("NiveauCraft");
     txt_AlchimieIconeObjetSup.Text = Gemme.TextOrEmpty("Icône");
     for (int i = 1; i <= 3; ++i) {

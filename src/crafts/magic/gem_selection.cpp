@@ -8,25 +8,17 @@
 // matching text on the other side, which runs nothing there.
 namespace orvane {
 
-void frm_ArtisanatsMagiques::RemplirListe(const std::string& Requête, ComboBox& Liste,
-                                          const std::string& Colonne)
-{
-    Globals.TexteSQL = Requête;
-    orvane::RemplirListe(Globals, Liste, Colonne);
-}
-
 template <class BoxType>
 void frm_ArtisanatsMagiques::RemplirTexte(const std::string& Requête, BoxType& Où,
                                           const std::string& Colonne)
 {
-    Globals.TexteSQL = Requête;
-    Où.Text = PremierEnregistrement(Globals).Text(Colonne);
-    Globals.Enregistrements.Empty();
+    Où.Text = PremierEnregistrement(Globals, Requête).Text(Colonne);
 }
 
 void frm_ArtisanatsMagiques::RemplirSousTypesGemmes()
 {
-    RemplirListe("SELECT Arcanes_ProduitsDétaillés.Nom,Arcanes_Produits.Nom FROM R_Arcanes "
+    RemplirListe(Globals,
+                 "SELECT Arcanes_ProduitsDétaillés.Nom,Arcanes_Produits.Nom FROM R_Arcanes "
                  "WHERE (Arcanes_Produits.Nom=" +
                      Quoted(cbo_TypeGemmes.Text) + ")",
                  cbo_SousTypeGemmes, "Arcanes_ProduitsDétaillés.Nom");
@@ -34,7 +26,8 @@ void frm_ArtisanatsMagiques::RemplirSousTypesGemmes()
 
 void frm_ArtisanatsMagiques::RemplirSousTypesBonus()
 {
-    RemplirListe("SELECT Bonus,Arcanes_Bonus.Nom FROM R_Arcanes WHERE (Arcanes_Bonus.Nom=" +
+    RemplirListe(Globals,
+                 "SELECT Bonus,Arcanes_Bonus.Nom FROM R_Arcanes WHERE (Arcanes_Bonus.Nom=" +
                      Quoted(cbo_TypeBonus.Text) + ")",
                  cbo_SousTypeBonus, "Bonus");
 }
@@ -76,7 +69,7 @@ void frm_ArtisanatsMagiques::cbo_TypeBonus_Click()
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
     RemplirSousTypesBonus();
     LireDegréBonus();
-    RemplirListe("SELECT " + ColonneDegré() + " FROM Degrés_Arcanes", cbo_DegréBonus,
+    RemplirListe(Globals, "SELECT " + ColonneDegré() + " FROM Degrés_Arcanes", cbo_DegréBonus,
                  ColonneDegré());
     RemplirTexte("SELECT DISTINCT Arcanes_Produits.Nom, Arcanes_Bonus.Nom FROM R_Arcanes "
                  "WHERE Arcanes_Bonus.Nom=" +
@@ -120,11 +113,12 @@ void frm_ArtisanatsMagiques::cbo_SousTypeBonus_Click()
 
 void frm_ArtisanatsMagiques::LireIcône()
 {
-    Globals.TexteSQL =
-        "SELECT Icône FROM R_ArcanesObjets WHERE (Arcanes_Bonus.Nom=" + Quoted(cbo_TypeBonus.Text) +
-        " AND Bonus=" + Quoted(cbo_SousTypeBonus.Text) + ")";
-    txt_IcôneArcanes.Text = PremierEnregistrement(Globals).TextOrEmpty("Icône");
-    Globals.Enregistrements.Empty();
+    txt_IcôneArcanes.Text =
+        PremierEnregistrement(Globals,
+                              "SELECT Icône FROM R_ArcanesObjets WHERE (Arcanes_Bonus.Nom=" +
+                                  Quoted(cbo_TypeBonus.Text) +
+                                  " AND Bonus=" + Quoted(cbo_SousTypeBonus.Text) + ")")
+            .TextOrEmpty("Icône");
 }
 
 // Setting the first entry runs the whole handler once more inside, unless it was the first already.
@@ -137,7 +131,7 @@ void frm_ArtisanatsMagiques::cbo_DegréGemmes_Click()
         const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
         const std::string Degrés = "SELECT DegréType1, " + ColonneDegré() + " FROM Degrés_Arcanes";
         cbo_DegréBonus.Clear();
-        RemplirListe(Degrés, cbo_DegréBonus, ColonneDegré());
+        RemplirListe(Globals, Degrés, cbo_DegréBonus, ColonneDegré());
         RemplirTexte(Degrés + " WHERE DegréType1=" + Quoted(cbo_DegréGemmes.Text), cbo_DegréBonus,
                      ColonneDegré());
         ChargerGemme();

@@ -81,11 +81,11 @@ void frm_ArtisanatsManuels::EffacerInfosObjet()
 void frm_ArtisanatsManuels::RemplirProduits()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    Globals.TexteSQL =
-        "SELECT DISTINCT Classique_Produits.Nom,Artisanat_Liste.Nom FROM R_Classique "
-        "WHERE (Artisanat_Liste.Nom=" +
-        Quoted(lbl_Artisanat.Caption) + ")";
-    RemplirListe(Globals, cbo_Produit, "Classique_Produits.Nom");
+    RemplirListe(Globals,
+                 "SELECT DISTINCT Classique_Produits.Nom,Artisanat_Liste.Nom FROM R_Classique "
+                 "WHERE (Artisanat_Liste.Nom=" +
+                     Quoted(lbl_Artisanat.Caption) + ")",
+                 cbo_Produit, "Classique_Produits.Nom");
 }
 
 void frm_ArtisanatsManuels::cbo_Produit_Click()
@@ -96,11 +96,12 @@ void frm_ArtisanatsManuels::cbo_Produit_Click()
         App.Feuilles.Touch("frm_ArmesLégendaires").Show();
         return;
     }
-    Globals.TexteSQL = "SELECT DISTINCT Classique_ProduitsDétaillés.Nom,Classique_Produits.Nom "
-                       "FROM R_Classique WHERE ((Artisanat_Liste.Nom = " +
-                       Quoted(lbl_Artisanat.Caption) +
-                       ") AND (Classique_Produits.Nom=" + Quoted(cbo_Produit.Text) + "))";
-    RemplirListe(Globals, cbo_ProduitDétaillé, "Classique_ProduitsDétaillés.Nom");
+    RemplirListe(Globals,
+                 "SELECT DISTINCT Classique_ProduitsDétaillés.Nom,Classique_Produits.Nom "
+                 "FROM R_Classique WHERE ((Artisanat_Liste.Nom = " +
+                     Quoted(lbl_Artisanat.Caption) +
+                     ") AND (Classique_Produits.Nom=" + Quoted(cbo_Produit.Text) + "))",
+                 cbo_ProduitDétaillé, "Classique_ProduitsDétaillés.Nom");
 }
 
 void frm_ArtisanatsManuels::cbo_ProduitDétaillé_Click()
@@ -111,11 +112,12 @@ void frm_ArtisanatsManuels::cbo_ProduitDétaillé_Click()
         App.Feuilles.Touch("frm_Archerie").Show();
         return;
     }
-    Globals.TexteSQL =
+    RemplirListe(
+        Globals,
         "SELECT * FROM R_Classique WHERE ((Artisanat_Liste.Nom = " + Quoted(lbl_Artisanat.Caption) +
-        ") AND (Classique_Produits.Nom = " + Quoted(cbo_Produit.Text) +
-        ") AND (Classique_ProduitsDétaillés.Nom = " + Quoted(cbo_ProduitDétaillé.Text) + "))";
-    RemplirListe(Globals, cbo_Objet, "Classique_ListeObjets.Nom");
+            ") AND (Classique_Produits.Nom = " + Quoted(cbo_Produit.Text) +
+            ") AND (Classique_ProduitsDétaillés.Nom = " + Quoted(cbo_ProduitDétaillé.Text) + "))",
+        cbo_Objet, "Classique_ListeObjets.Nom");
 }
 
 // An object that couldn't be read has no degree, and no type that belongs to another one.
@@ -139,16 +141,17 @@ void frm_ArtisanatsManuels::cbo_Objet_Click()
 void frm_ArtisanatsManuels::LireObjet()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    Globals.TexteSQL = "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text);
-    const std::string Sup = PremierEnregistrement(Globals).Text("Sup");
-    txt_Sup.Text = Sup; // its handler uses the open database and the slot of this very set
+    const std::string Sup =
+        PremierEnregistrement(Globals, "SELECT * FROM Classique_ListeObjets WHERE Nom=" +
+                                           Quoted(cbo_Objet.Text))
+            .Text("Sup");
+    txt_Sup.Text = Sup; // its handler uses the open database
 
-    Globals.TexteSQL = "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text);
-    const Recordset& Objet = PremierEnregistrement(Globals);
+    const Recordset Objet = PremierEnregistrement(
+        Globals, "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text));
     Matériaux.ChargerCodes(Objet, 6);
     txt_Image.Text = Objet.TextOrEmpty("Image");
     txt_Icône.Text = Objet.TextOrEmpty("Icône");
-    Globals.Enregistrements.Empty();
 }
 
 void frm_ArtisanatsManuels::PréparerTypeDégats()
@@ -173,14 +176,16 @@ void frm_ArtisanatsManuels::txt_Sup_Change()
     ShowAll({&lbl_Degré, &cbo_Degré}, Règle != nullptr);
     if (Règle == nullptr) // emptied, or a letter without degrees: no database is needed
         return;
-    Globals.TexteSQL = "SELECT DISTINCT Classique_ProduitsDétaillés.Nom,Classique_Produits.Nom, "
-                       "Degré FROM R_Classique WHERE (Artisanat_Liste.Nom=" +
-                       Quoted(lbl_Artisanat.Caption) +
-                       " AND Classique_Produits.Nom=" + Quoted(cbo_Produit.Text) + ")";
-    const std::string Degré = PremierEnregistrement(Globals).Text("Degré");
-    Globals.TexteSQL = std::string("SELECT * FROM Degrés_ListeTypes") + Règle->Restriction;
+    const std::string Degré =
+        PremierEnregistrement(
+            Globals, "SELECT DISTINCT Classique_ProduitsDétaillés.Nom,Classique_Produits.Nom, "
+                     "Degré FROM R_Classique WHERE (Artisanat_Liste.Nom=" +
+                         Quoted(lbl_Artisanat.Caption) +
+                         " AND Classique_Produits.Nom=" + Quoted(cbo_Produit.Text) + ")")
+            .Text("Degré");
     ColonneDegré = "DegréType" + Degré;
-    RemplirListe(Globals, cbo_Degré, ColonneDegré);
+    RemplirListe(Globals, std::string("SELECT * FROM Degrés_ListeTypes") + Règle->Restriction,
+                 cbo_Degré, ColonneDegré);
 }
 
 } // namespace orvane

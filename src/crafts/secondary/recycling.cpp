@@ -23,9 +23,10 @@ void frm_ArtisanatsSecondaires::PréparerRecyclage()
     LireNiveauCraft();
 
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    Globals.TexteSQL = "SELECT DISTINCT * FROM R_Secondaire WHERE (Artisanat_Liste.Nom=" +
-                       Quoted(lbl_Artisanat.Caption) + ")";
-    RemplirListe(Globals, cbo_ObjetSecondaire, "Secondaire_Produits.Nom");
+    RemplirListe(Globals,
+                 "SELECT DISTINCT * FROM R_Secondaire WHERE (Artisanat_Liste.Nom=" +
+                     Quoted(lbl_Artisanat.Caption) + ")",
+                 cbo_ObjetSecondaire, "Secondaire_Produits.Nom");
 }
 
 // Nothing is named or priced before a degree is picked.
@@ -48,19 +49,19 @@ void frm_ArtisanatsSecondaires::ChoisirRecyclage()
 void frm_ArtisanatsSecondaires::LireRecyclage()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    Globals.TexteSQL = "SELECT * FROM R_SecondaireObjets WHERE Secondaire_Produits.Nom=" +
-                       Quoted(cbo_ObjetSecondaire.Text);
-    const Recordset& Objet = PremierEnregistrement(Globals);
+    const Recordset Objet = PremierEnregistrement(
+        Globals, "SELECT * FROM R_SecondaireObjets WHERE Secondaire_Produits.Nom=" +
+                     Quoted(cbo_ObjetSecondaire.Text));
     Matériaux.ChargerCodes(Objet, 3);
     MontrerIcône(Objet);
 
-    Globals.TexteSQL =
-        "SELECT * FROM R_Secondaire WHERE (Artisanat_Liste.Nom=" + Quoted(lbl_Artisanat.Caption) +
-        " AND Secondaire_Produits.Nom=" + Quoted(cbo_ObjetSecondaire.Text) + ")";
-    NuméroDegré = PremierEnregistrement(Globals).Whole("Degré");
-    Globals.TexteSQL = "SELECT * FROM Degrés_ListeTypes";
+    NuméroDegré = PremierEnregistrement(
+                      Globals, "SELECT * FROM R_Secondaire WHERE (Artisanat_Liste.Nom=" +
+                                   Quoted(lbl_Artisanat.Caption) + " AND Secondaire_Produits.Nom=" +
+                                   Quoted(cbo_ObjetSecondaire.Text) + ")")
+                      .Whole("Degré");
     ColonneDegré = "DegréType" + std::to_string(NuméroDegré);
-    RemplirListe(Globals, cbo_Degré, ColonneDegré);
+    RemplirListe(Globals, "SELECT * FROM Degrés_ListeTypes", cbo_Degré, ColonneDegré);
 }
 
 void frm_ArtisanatsSecondaires::ChoisirDegré()
@@ -84,21 +85,20 @@ void frm_ArtisanatsSecondaires::ChoisirDegré()
 void frm_ArtisanatsSecondaires::LireDegré()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    Globals.TexteSQL =
-        "SELECT * FROM Degrés_ListeTypes WHERE " + ColonneDegré + "=" + Quoted(cbo_Degré.Text);
-    NuméroDegré = PremierEnregistrement(Globals).Whole("NuméroDegré");
+    NuméroDegré = PremierEnregistrement(Globals, "SELECT * FROM Degrés_ListeTypes WHERE " +
+                                                     ColonneDegré + "=" + Quoted(cbo_Degré.Text))
+                      .Whole("NuméroDegré");
     const bool Couronne = Contains(cbo_ObjetSecondaire.Text, "couronne");
     for (int i = 1; i <= 3; ++i)
         RésoudreMatériau(Globals, NuméroDegré, Couronne, Matériaux[i]);
 
-    Globals.TexteSQL = "SELECT * FROM R_SecondaireObjets WHERE Secondaire_Produits.Nom=" +
-                       Quoted(cbo_ObjetSecondaire.Text);
-    const Recordset& Objet = PremierEnregistrement(Globals);
+    const Recordset Objet = PremierEnregistrement(
+        Globals, "SELECT * FROM R_SecondaireObjets WHERE Secondaire_Produits.Nom=" +
+                     Quoted(cbo_ObjetSecondaire.Text));
     MontrerIcône(Objet);
     ColonneRevente = "PrixReventeDegré" + std::to_string(NuméroDegré);
     txt_PrixRevente.Text = Objet.Text(ColonneRevente);
     lbl_Niveau.Caption = T(Objet.Number("NiveauCraft") + Entier16(NuméroDegré * 100));
-    Globals.Enregistrements.Empty();
 }
 
 void frm_ArtisanatsSecondaires::CalculerCoût()

@@ -21,12 +21,14 @@ void frm_ArtisanatsSecondaires::PréparerSellerie()
     LireNiveauCraft();
 
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    Globals.TexteSQL = "SELECT DISTINCT * FROM R_SellerieObjets WHERE (Artisanat_Liste.Nom =" +
-                       Quoted(lbl_Artisanat.Caption) + ")";
-    RemplirListe(Globals, cbo_ObjetSecondaire, "Sellerie_ListeObjets.Nom");
-    Globals.TexteSQL = "SELECT * FROM R_SellerieProduits WHERE Artisanat_Liste.Nom = " +
-                       Quoted(lbl_Artisanat.Caption);
-    RemplirListe(Globals, cbo_Degré, "Sellerie_ProduitsDétaillés.Nom");
+    RemplirListe(Globals,
+                 "SELECT DISTINCT * FROM R_SellerieObjets WHERE (Artisanat_Liste.Nom =" +
+                     Quoted(lbl_Artisanat.Caption) + ")",
+                 cbo_ObjetSecondaire, "Sellerie_ListeObjets.Nom");
+    RemplirListe(Globals,
+                 "SELECT * FROM R_SellerieProduits WHERE Artisanat_Liste.Nom = " +
+                     Quoted(lbl_Artisanat.Caption),
+                 cbo_Degré, "Sellerie_ProduitsDétaillés.Nom");
     if (cbo_Degré.ListCount() == 0) // a trade without filters
         ShowAll({&cbo_Degré, &lbl_Zone2}, false);
 }
@@ -35,10 +37,10 @@ void frm_ArtisanatsSecondaires::PréparerSellerie()
 void frm_ArtisanatsSecondaires::FiltrerSellerie()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    Globals.TexteSQL = "SELECT DISTINCT * FROM R_SellerieObjets WHERE (Artisanat_Liste.Nom =" +
-                       Quoted(lbl_Artisanat.Caption) + " AND Sellerie_ListeObjets.Nom LIKE " +
-                       Quoted("*" + cbo_Degré.Text + "*") + ")";
-    Recordset& Objets = OuvrirEnregistrements(Globals);
+    Recordset Objets = OuvrirEnregistrements(
+        Globals, "SELECT DISTINCT * FROM R_SellerieObjets WHERE (Artisanat_Liste.Nom =" +
+                     Quoted(lbl_Artisanat.Caption) + " AND Sellerie_ListeObjets.Nom LIKE " +
+                     Quoted("*" + cbo_Degré.Text + "*") + ")");
     if (Objets.RecordCount() == 0) {
         App.MsgBox(Typeset("Aucun objet ne porte « " + cbo_Degré.Text +
                            " » dans son nom : la "
@@ -67,15 +69,14 @@ void frm_ArtisanatsSecondaires::ChoisirSellerie()
 void frm_ArtisanatsSecondaires::LireSellerie()
 {
     const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    Globals.TexteSQL = "SELECT * FROM R_SellerieObjets WHERE Sellerie_ListeObjets.Nom =" +
-                       Quoted(cbo_ObjetSecondaire.Text);
-    const Recordset& Objet = PremierEnregistrement(Globals);
+    const Recordset Objet = PremierEnregistrement(
+        Globals, "SELECT * FROM R_SellerieObjets WHERE Sellerie_ListeObjets.Nom =" +
+                     Quoted(cbo_ObjetSecondaire.Text));
     MontrerIcône(Objet);
     txt_Image.Text = Objet.TextOrEmpty("Image");
     txt_PrixRevente.Text = Objet.Text("PrixRevente");
     lbl_Niveau.Caption = Objet.Text("NiveauCraft");
     Matériaux.Charger(Objet, "Matériaux_Classique", false);
-    Globals.Enregistrements.Empty();
 }
 
 void frm_ArtisanatsSecondaires::CalculerSellerie()
