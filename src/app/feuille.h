@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/application.h"
+#include "app/queries.h"
 #include "toolkit/screen.h"
 
 #include <string>
@@ -19,6 +19,20 @@ class Feuille : public Screen
     }
 
   protected:
+    // The queries of a handler, in the database that it has opened.
+    Recordset OuvrirEnregistrements(const std::string& Requête)
+    {
+        return orvane::OuvrirEnregistrements(Globals, Requête);
+    }
+    Recordset PremierEnregistrement(const std::string& Requête)
+    {
+        return orvane::PremierEnregistrement(Globals, Requête);
+    }
+    void RemplirListe(const std::string& Requête, ListControl& Liste, std::string_view Colonne)
+    {
+        AjouterÀLaListe(OuvrirEnregistrements(Requête), Liste, Colonne);
+    }
+
     Application& App;
     Variables& Globals;
 };

@@ -2,6 +2,11 @@
 
 namespace orvane {
 
+Ouverture::Ouverture(Application& App, const std::string& Chemin)
+    : Ouverture(App, App.Globals.BaseDonnées, Chemin)
+{
+}
+
 Ouverture::Ouverture(Application& App, Slot<Database>& Base, const std::string& Chemin) : Base(Base)
 {
     Base = App.Bases.Open(Chemin);
@@ -34,13 +39,7 @@ void Supprimer(Variables& Globals, const std::string& Requête)
     Globals.BaseDonnées->Execute(Globals.TexteSQL);
 }
 
-void RemplirListe(Variables& Globals, const std::string& Requête, ListControl& Liste,
-                  std::string_view Colonne)
-{
-    RemplirListe(OuvrirEnregistrements(Globals, Requête), Liste, Colonne);
-}
-
-void RemplirListe(Recordset Lignes, ListControl& Liste, std::string_view Colonne)
+void AjouterÀLaListe(Recordset Lignes, ListControl& Liste, std::string_view Colonne)
 {
     for (; !Lignes.Eof(); Lignes.MoveNext())
         if (!Lignes.IsNull(Colonne))

@@ -16,6 +16,7 @@ namespace orvane {
 class [[nodiscard]] Ouverture
 {
   public:
+    Ouverture(Application& App, const std::string& Chemin); // in BaseDonnées
     Ouverture(Application& App, Slot<Database>& Base, const std::string& Chemin);
     ~Ouverture() { Base.Empty(); }
     Ouverture(const Ouverture&) = delete;
@@ -39,8 +40,6 @@ void Supprimer(Variables& Globals, const std::string& Requête);
 
 // Adds Colonne of each row to the list, behind what it holds; a query without rows adds nothing.
 // Rows without a value are passed over.
-void RemplirListe(Variables& Globals, const std::string& Requête, ListControl& Liste,
-                  std::string_view Colonne);
-void RemplirListe(Recordset Lignes, ListControl& Liste, std::string_view Colonne);
+void AjouterÀLaListe(Recordset Lignes, ListControl& Liste, std::string_view Colonne);
 
 } // namespace orvane

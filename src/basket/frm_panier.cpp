@@ -47,11 +47,10 @@ void frm_Panier::ViderListes()
 
 void frm_Panier::RemplirListes()
 {
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminPanier);
+    const Ouverture Base(App, Globals.CheminPanier);
     for (Recordset Lignes = OuvrirEnregistrements(
-             Globals,
              "SELECT * FROM PanierGlobal WHERE (Royaume=" + Quoted(Globals.RoyaumeCourant) +
-                 " AND Acheteur=" + Quoted(cbo_Commandes.Text) + ") ORDER BY Nom");
+             " AND Acheteur=" + Quoted(cbo_Commandes.Text) + ") ORDER BY Nom");
          !Lignes.Eof(); Lignes.MoveNext()) {
         lst_Num.AddItem(Lignes.TextOrEmpty("Num"));
         lst_Objet.AddItem(Lignes.TextOrEmpty("Nom"));
@@ -75,9 +74,8 @@ void frm_Panier::TotalVente()
 void frm_Panier::Totaliser(const std::string& Colonne, TextBox& Total)
 {
     TotalPanier = {};
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminPanier);
-    for (Recordset Lignes =
-             OuvrirEnregistrements(Globals, "SELECT " + Colonne + " FROM PanierGlobal");
+    const Ouverture Base(App, Globals.CheminPanier);
+    for (Recordset Lignes = OuvrirEnregistrements("SELECT " + Colonne + " FROM PanierGlobal");
          !Lignes.Eof(); Lignes.MoveNext())
         TotalPanier =
             TotalPanier + Montant::FromText(Lignes.TextOrEmpty(Colonne)).value_or(Montant());
@@ -122,9 +120,9 @@ void frm_Panier::cmd_Enregistrer_Click()
 // The rows of the unnamed order, of all realms. Failure (Kind::NoRow) when none is left.
 void frm_Panier::NommerLignes(const std::string& Acheteur)
 {
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminPanier);
-    for (Recordset Lignes = PremierEnregistrement(
-             Globals, "SELECT * FROM PanierGlobal WHERE Acheteur=" + Quoted(NouvelleCommande));
+    const Ouverture Base(App, Globals.CheminPanier);
+    for (Recordset Lignes = PremierEnregistrement("SELECT * FROM PanierGlobal WHERE Acheteur=" +
+                                                  Quoted(NouvelleCommande));
          !Lignes.Eof(); Lignes.MoveNext()) {
         Lignes.Edit();
         Lignes.Set("Acheteur", Acheteur);
@@ -137,7 +135,7 @@ void frm_Panier::cmd_SupprimerObjet_Click()
     if (lst_Objet.ListIndex == -1)
         return;
     {
-        const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminPanier);
+        const Ouverture Base(App, Globals.CheminPanier);
         Supprimer(Globals, "DELETE * FROM PanierGlobal WHERE Num=" + lst_Num.Text);
     }
     ViderListes();
@@ -149,7 +147,7 @@ void frm_Panier::cmd_SupprimerObjet_Click()
 void frm_Panier::cmd_SupprimerCommande_Click()
 {
     {
-        const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminPanier);
+        const Ouverture Base(App, Globals.CheminPanier);
         Supprimer(Globals,
                   "DELETE * FROM PanierGlobal WHERE Acheteur=" + Quoted(cbo_Commandes.Text));
     }

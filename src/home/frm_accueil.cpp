@@ -43,7 +43,7 @@ void frm_Accueil::Load()
     Globals.CheminAlchimie = App.Chemin("/" + AlchimieFile);
     Globals.CheminConfig = App.Chemin("/" + ConfigFile);
     {
-        const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminConfig);
+        const Ouverture Base(App, Globals.CheminConfig);
         RestaurerRoyaume();
         auto& Configuration = App.Feuilles.Get<frm_Configuration>();
         txt_Skin.Text =
@@ -61,11 +61,11 @@ void frm_Accueil::Load()
 
 void frm_Accueil::ChargerConfigRoyaume()
 {
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminConfig);
+    const Ouverture Base(App, Globals.CheminConfig);
     const std::string& Royaume = Globals.RoyaumeCourant;
     ColonnesRoyaume = frm_Configuration::ColonnesPour(Royaume);
-    Recordset Lignes = PremierEnregistrement(Globals, "SELECT " + ColonnesRoyaume +
-                                                          " FROM ConfigRoyaume ORDER BY Num");
+    Recordset Lignes =
+        PremierEnregistrement("SELECT " + ColonnesRoyaume + " FROM ConfigRoyaume ORDER BY Num");
     for (const RéglagesArtisanat& Artisanat : App.Feuilles.Get<frm_Configuration>().Réglages()) {
         if (Artisanat.Niveau != nullptr)
             Artisanat.Niveau->Text = Lignes.Text("Craft" + Royaume);
@@ -92,8 +92,7 @@ void frm_Accueil::MontrerÉcu(const Écu& Which, bool Choisi)
 
 void frm_Accueil::RestaurerRoyaume()
 {
-    const std::string Dernier =
-        PremierEnregistrement(Globals, "SELECT Nom FROM DernierRoyaume").Text("Nom");
+    const std::string Dernier = PremierEnregistrement("SELECT Nom FROM DernierRoyaume").Text("Nom");
     const auto Tous = Écus();
     auto Choisi = std::ranges::find(Tous, Dernier, &Écu::Royaume);
     if (Choisi == Tous.end()) {
@@ -111,11 +110,10 @@ std::string frm_Accueil::RestaurerChoix(const std::string& Liste, const std::str
                                         const std::function<bool(const std::string&)>& Possible)
 {
     std::vector<std::string> Noms;
-    for (Recordset Lignes =
-             PremierEnregistrement(Globals, "SELECT Nom FROM " + Liste + " ORDER BY Num");
+    for (Recordset Lignes = PremierEnregistrement("SELECT Nom FROM " + Liste + " ORDER BY Num");
          !Lignes.Eof(); Lignes.MoveNext())
         Box.AddItem(Noms.emplace_back(Lignes.Text("Nom")));
-    std::string Choix = PremierEnregistrement(Globals, "SELECT Nom FROM " + Dernier).Text("Nom");
+    std::string Choix = PremierEnregistrement("SELECT Nom FROM " + Dernier).Text("Nom");
     if (Box.FindItem(Choix) < 0 || !Possible(Choix)) {
         const auto Premier = std::ranges::find_if(Noms, Possible);
         const std::string Remplaçant = Premier == Noms.end() ? std::string() : *Premier;
@@ -190,8 +188,8 @@ void frm_Accueil::cmd_Quitter_Click()
 
 void frm_Accueil::EnregistrerRoyaume()
 {
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminConfig);
-    Recordset Ligne = PremierEnregistrement(Globals, "SELECT Nom FROM DernierRoyaume");
+    const Ouverture Base(App, Globals.CheminConfig);
+    Recordset Ligne = PremierEnregistrement("SELECT Nom FROM DernierRoyaume");
     Ligne.Edit();
     Ligne.Set("Nom", Globals.RoyaumeCourant);
     Ligne.Update();

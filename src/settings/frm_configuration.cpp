@@ -49,7 +49,7 @@ void frm_Configuration::cmd_Validation_Click()
     if (!ToutEstValable())
         return;
     App.Images.TakeMissing(); // what objects lacked until now is no news of the look
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminConfig);
+    const Ouverture Base(App, Globals.CheminConfig);
     EnregistrerRéglages();
     EnregistrerChoix("DernièreSkin", cbo_Skin, "txt_Skin");
     EnregistrerChoix("DernièreRésolution", cbo_Résolution, "txt_Résolution");
@@ -90,8 +90,8 @@ void frm_Configuration::EnregistrerRéglages()
 {
     const std::string& Royaume = Globals.RoyaumeCourant;
     ColonnesRoyaume = ColonnesPour(Royaume);
-    Recordset Lignes = PremierEnregistrement(Globals, "SELECT " + ColonnesRoyaume +
-                                                          " FROM ConfigRoyaume ORDER BY Num");
+    Recordset Lignes =
+        PremierEnregistrement("SELECT " + ColonnesRoyaume + " FROM ConfigRoyaume ORDER BY Num");
     for (const RéglagesArtisanat& Artisanat : Réglages()) {
         Lignes.Edit();
         if (Artisanat.Niveau != nullptr)
@@ -115,7 +115,7 @@ void frm_Configuration::EnregistrerChoix(const std::string& Table, ComboBox& Lis
 {
     if (Liste.Text.empty()) // no skin was found at all: the stored name may come back
         return;
-    Recordset Ligne = PremierEnregistrement(Globals, "SELECT Nom FROM " + Table);
+    Recordset Ligne = PremierEnregistrement("SELECT Nom FROM " + Table);
     Ligne.Edit();
     Ligne.Set("Nom", Liste.Text);
     Ligne.Update();

@@ -34,8 +34,8 @@ void frm_Archerie::Activate()
 {
     cbo_Type.Clear();
     {
-        const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-        RemplirListe(Globals, "SELECT Nom FROM ArcherieType", cbo_Type, "Nom");
+        const Ouverture Base(App, Globals.CheminRoyaume);
+        RemplirListe("SELECT Nom FROM ArcherieType", cbo_Type, "Nom");
     }
     auto& Configuration = App.Feuilles.Get<frm_Configuration>();
     LireRéglage(Configuration.txt_NiveauEmpennage, NiveauCraft);
@@ -45,9 +45,8 @@ void frm_Archerie::Activate()
 void frm_Archerie::cbo_Type_Click()
 {
     cbo_Objet.Clear();
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    RemplirListe(Globals,
-                 "SELECT Archerie.Nom FROM R_Archerie WHERE ArcherieType.Nom=" +
+    const Ouverture Base(App, Globals.CheminRoyaume);
+    RemplirListe("SELECT Archerie.Nom FROM R_Archerie WHERE ArcherieType.Nom=" +
                      Quoted(cbo_Type.Text),
                  cbo_Objet, "Nom");
 }
@@ -66,10 +65,10 @@ void frm_Archerie::cbo_Objet_Click()
 
 void frm_Archerie::LireCarquois()
 {
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    const Ouverture Base(App, Globals.CheminRoyaume);
     const Recordset Carquois = PremierEnregistrement(
-        Globals, "SELECT * FROM R_Archerie WHERE (ArcherieType.Nom=" + Quoted(cbo_Type.Text) +
-                     " AND Archerie.Nom=" + Quoted(cbo_Objet.Text) + ")");
+        "SELECT * FROM R_Archerie WHERE (ArcherieType.Nom=" + Quoted(cbo_Type.Text) +
+        " AND Archerie.Nom=" + Quoted(cbo_Objet.Text) + ")");
     lbl_Niveau.Caption = Carquois.Text("NiveauCraft");
     Matériaux.Charger(Carquois, "Matériaux_Classique", false);
     txt_Icône.Text = Carquois.Text("Icône");

@@ -45,10 +45,10 @@ void frm_ArmesLégendaires::cbo_Arme_Click()
 // The quantities stand before the unit price of the material, which multiplies one of them.
 void frm_ArmesLégendaires::LireArme()
 {
-    const Ouverture Base(App, Globals.BaseDonnées, CheminArtisanat);
+    const Ouverture Base(App, CheminArtisanat);
     const Recordset Lue = PremierEnregistrement(
-        Globals, "SELECT * FROM R_ArmesLégendairesObjets WHERE ArmesLégendaires_ListeObjets.Nom=" +
-                     Quoted(cbo_Arme.Text));
+        "SELECT * FROM R_ArmesLégendairesObjets WHERE ArmesLégendaires_ListeObjets.Nom=" +
+        Quoted(cbo_Arme.Text));
     struct Copie
     {
         const char* Colonne;
@@ -84,10 +84,10 @@ void frm_ArmesLégendaires::cbo_Type_Click()
 
 void frm_ArmesLégendaires::LireType()
 {
-    const Ouverture Base(App, Globals.BaseDonnées, CheminArtisanat);
+    const Ouverture Base(App, CheminArtisanat);
     const Recordset Type = PremierEnregistrement(
-        Globals, "SELECT * FROM R_ArmesLégendairesType WHERE ArmesLégendaires_Type.Nom=" +
-                     Quoted(cbo_Type.Text));
+        "SELECT * FROM R_ArmesLégendairesType WHERE ArmesLégendaires_Type.Nom=" +
+        Quoted(cbo_Type.Text));
     txt_Teinture.Text = Type.Text("Alchimie_ListeObjets.Nom");
     txt_Spécial.Text = Type.Text("ObjetSpécial");
     txt_Dégâts.Text = Type.Text("TypeDégât");
@@ -98,9 +98,9 @@ void frm_ArmesLégendaires::LireType()
 void frm_ArmesLégendaires::ChargerArmeEtGemme()
 {
     {
-        const Ouverture Base(App, Globals.BaseDonnées, CheminArtisanat);
-        const Recordset Objet = PremierEnregistrement(
-            Globals, "SELECT * FROM R_ClassiqueObjets WHERE Num=" + txt_ObjetNum.Text);
+        const Ouverture Base(App, CheminArtisanat);
+        const Recordset Objet =
+            PremierEnregistrement("SELECT * FROM R_ClassiqueObjets WHERE Num=" + txt_ObjetNum.Text);
         for (int i = 1; i <= 3; ++i) {
             Arme.Matériaux[i].Nom.Text =
                 Objet.Text(ColonneJointe("Matériaux_ClassiqueType", i, "Nom"));
@@ -121,8 +121,8 @@ void frm_ArmesLégendaires::ChargerArmeEtGemme()
 // database open.
 void frm_ArmesLégendaires::ChargerGemme()
 {
-    const Recordset Lue = PremierEnregistrement(
-        Globals, "SELECT * FROM R_ArcanesObjets WHERE Num=" + txt_GemmeNum.Text);
+    const Recordset Lue =
+        PremierEnregistrement("SELECT * FROM R_ArcanesObjets WHERE Num=" + txt_GemmeNum.Text);
     for (int i : {1, 2}) {
         LigneMatériau& Ligne = Gemme.Matériaux[i + 1];
         Ligne.Nom.Text = Lue.Text(ColonneJointe("Matériaux_Arcanes", i, "Nom"));
@@ -135,8 +135,8 @@ void frm_ArmesLégendaires::ChargerGemme()
     Gemme.FichierIcône.Text = Lue.TextOrEmpty("Icône");
     MontrerIcôneCommune(App, Gemme.FichierIcône, Gemme.Icône);
 
-    const Recordset Base = PremierEnregistrement(
-        Globals, "SELECT * FROM Matériaux_Arcanes WHERE Degré=" + std::to_string(DernierDegré));
+    const Recordset Base = PremierEnregistrement("SELECT * FROM Matériaux_Arcanes WHERE Degré=" +
+                                                 std::to_string(DernierDegré));
     Gemme.Matériaux[1].Nom.Text = Base.Text("Nom");
     Gemme.Matériaux[1].Qté.Text = "1";
     Gemme.Matériaux[1].PrixUnitaire.Text = Base.Text("Prix");
@@ -145,10 +145,9 @@ void frm_ArmesLégendaires::ChargerGemme()
 // Puts the material's own name in the place of its type's, and gives its price.
 void frm_ArmesLégendaires::ChercherMatériauArme(LigneMatériau& Ligne)
 {
-    const Recordset Matériau =
-        PremierEnregistrement(Globals, "SELECT * FROM R_ArmesLégendairesMatériaux "
-                                       "WHERE Matériaux_ClassiqueType.Nom=" +
-                                           Quoted(Ligne.Nom.Text));
+    const Recordset Matériau = PremierEnregistrement("SELECT * FROM R_ArmesLégendairesMatériaux "
+                                                     "WHERE Matériaux_ClassiqueType.Nom=" +
+                                                     Quoted(Ligne.Nom.Text));
     Ligne.Nom.Text = Matériau.Text("Matériaux_Classique.Nom");
     Ligne.PrixUnitaire.Text = Matériau.Text("Prix");
 }
@@ -156,9 +155,9 @@ void frm_ArmesLégendaires::ChercherMatériauArme(LigneMatériau& Ligne)
 void frm_ArmesLégendaires::ChargerTeinture()
 {
     {
-        const Ouverture Base(App, Globals.BaseDonnées, CheminTeintures);
-        const Recordset Lue = PremierEnregistrement(
-            Globals, "SELECT * FROM R_AlchimieObjet WHERE Num=" + txt_TeintureNum.Text);
+        const Ouverture Base(App, CheminTeintures);
+        const Recordset Lue = PremierEnregistrement("SELECT * FROM R_AlchimieObjet WHERE Num=" +
+                                                    txt_TeintureNum.Text);
         Teinture.Matériaux.Charger(Lue, "Matériaux", true);
         Teinture.Niveau.Caption = Lue.Text("NiveauCraft"); // a dye has no degrees
         Teinture.FichierIcône.Text = Lue.TextOrEmpty("Icône");
@@ -174,11 +173,10 @@ void frm_ArmesLégendaires::ChargerImages()
 {
     if (cbo_Type.Text == "" || cbo_Arme.Text == "")
         return;
-    const Ouverture Base(App, Globals.BaseDonnées, CheminArtisanat);
+    const Ouverture Base(App, CheminArtisanat);
     const Recordset Images = OuvrirEnregistrements(
-        Globals, "SELECT * FROM R_ArmesLégendairesImages WHERE (ArmesLégendaires_ListeObjets.Nom=" +
-                     Quoted(cbo_Arme.Text) +
-                     " AND ArmesLégendaires_Type.Nom=" + Quoted(cbo_Type.Text) + ")");
+        "SELECT * FROM R_ArmesLégendairesImages WHERE (ArmesLégendaires_ListeObjets.Nom=" +
+        Quoted(cbo_Arme.Text) + " AND ArmesLégendaires_Type.Nom=" + Quoted(cbo_Type.Text) + ")");
     txt_Image.Text = Images.Eof() ? "" : Images.TextOrEmpty("Image");
     txt_Icône.Text = Images.Eof() ? "" : Images.TextOrEmpty("Icône");
 }

@@ -68,14 +68,13 @@ void frm_ArmesLégendaires::Activate()
 
 void frm_ArmesLégendaires::RemplirChoix(const std::string& Métier)
 {
-    const Ouverture Base(App, Globals.BaseDonnées, CheminArtisanat);
-    RemplirListe(Globals,
-                 "SELECT ArmesLégendaires_ListeObjets.Nom FROM R_ArmesLégendairesObjets "
+    const Ouverture Base(App, CheminArtisanat);
+    RemplirListe("SELECT ArmesLégendaires_ListeObjets.Nom FROM R_ArmesLégendairesObjets "
                  "WHERE Artisanat_Liste.Nom=" +
                      Quoted(Métier),
                  cbo_Arme, "Nom");
-    RemplirListe(Globals, "SELECT DISTINCT ArmesLégendaires_Type.Nom FROM R_ArmesLégendairesType",
-                 cbo_Type, "Nom");
+    RemplirListe("SELECT DISTINCT ArmesLégendaires_Type.Nom FROM R_ArmesLégendairesType", cbo_Type,
+                 "Nom");
 }
 
 // With a trade that has no legendary weapons, picture and level stay those of the last one.

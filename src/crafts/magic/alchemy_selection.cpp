@@ -57,9 +57,8 @@ void frm_ArtisanatsMagiques::cbo_Produit_Click()
     EffacerSélection(2);
     EffacerMatériaux();
     {
-        const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
-        RemplirListe(Globals,
-                     "SELECT * FROM R_Alchimie WHERE Produits.Nom=" + Quoted(cbo_Produit.Text),
+        const Ouverture Base(App, Globals.CheminAlchimie);
+        RemplirListe("SELECT * FROM R_Alchimie WHERE Produits.Nom=" + Quoted(cbo_Produit.Text),
                      cbo_ProduitDétaillé, "ProduitsDétaillés.Nom");
     }
     const bool AvecFiltre = cbo_Produit.Text == EffetsÀDéclenchement;
@@ -72,9 +71,8 @@ void frm_ArtisanatsMagiques::cbo_ProduitDétaillé_Click()
     EffacerSélection(3);
     EffacerMatériaux();
     {
-        const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
-        RemplirListe(Globals,
-                     "SELECT ListeObjets.Nom FROM R_AlchimieObjet WHERE (Produits.Nom=" +
+        const Ouverture Base(App, Globals.CheminAlchimie);
+        RemplirListe("SELECT ListeObjets.Nom FROM R_AlchimieObjet WHERE (Produits.Nom=" +
                          Quoted(cbo_Produit.Text) +
                          " AND ProduitsDétaillés.Nom=" + Quoted(cbo_ProduitDétaillé.Text) + ")",
                      cbo_Objet, "Nom");
@@ -86,16 +84,16 @@ void frm_ArtisanatsMagiques::cbo_ProduitDétaillé_Click()
 void frm_ArtisanatsMagiques::cbo_Type_Click()
 {
     EffacerMatériaux();
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
-    Recordset Objets = OuvrirEnregistrements(
-        Globals, "SELECT ListeObjets.Nom FROM R_AlchimieObjet WHERE (Produits.Nom=" +
-                     Quoted(cbo_Produit.Text) + " AND ProduitsDétaillés.Nom=" +
-                     Quoted(cbo_ProduitDétaillé.Text) + " AND ListeObjets.Nom LIKE " +
-                     Quoted("*" + cbo_Type.Text + "*") + ") ORDER BY NiveauCraft");
+    const Ouverture Base(App, Globals.CheminAlchimie);
+    Recordset Objets =
+        OuvrirEnregistrements("SELECT ListeObjets.Nom FROM R_AlchimieObjet WHERE (Produits.Nom=" +
+                              Quoted(cbo_Produit.Text) + " AND ProduitsDétaillés.Nom=" +
+                              Quoted(cbo_ProduitDétaillé.Text) + " AND ListeObjets.Nom LIKE " +
+                              Quoted("*" + cbo_Type.Text + "*") + ") ORDER BY NiveauCraft");
     if (Objets.RecordCount() == 0)
         return;
     EffacerSélection(4);
-    RemplirListe(Objets, cbo_Objet, "Nom");
+    AjouterÀLaListe(Objets, cbo_Objet, "Nom");
 }
 
 void frm_ArtisanatsMagiques::cbo_Objet_Click()
@@ -115,11 +113,11 @@ void frm_ArtisanatsMagiques::cbo_Objet_Click()
 
 void frm_ArtisanatsMagiques::LireObjet()
 {
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
+    const Ouverture Base(App, Globals.CheminAlchimie);
     const Recordset Objet = PremierEnregistrement(
-        Globals, "SELECT * FROM R_AlchimieObjet WHERE (Produits.Nom=" + Quoted(cbo_Produit.Text) +
-                     " AND ProduitsDétaillés.Nom=" + Quoted(cbo_ProduitDétaillé.Text) +
-                     " AND ListeObjets.Nom=" + Quoted(cbo_Objet.Text) + ")");
+        "SELECT * FROM R_AlchimieObjet WHERE (Produits.Nom=" + Quoted(cbo_Produit.Text) +
+        " AND ProduitsDétaillés.Nom=" + Quoted(cbo_ProduitDétaillé.Text) +
+        " AND ListeObjets.Nom=" + Quoted(cbo_Objet.Text) + ")");
     lbl_NiveauAlchimie.Caption = Objet.Text("NiveauCraft");
     txt_IcôneAlchimie.Text = Objet.TextOrEmpty("Icône");
     Ingrédients.Charger(Objet, "Matériaux", true);

@@ -108,8 +108,8 @@ void frm_ArtisanatsMagiques::RemplirProduits()
 {
     EffacerSélection(1);
     cbo_Produit.Clear();
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
-    RemplirListe(Globals, "SELECT Nom FROM Produits", cbo_Produit, "Nom");
+    const Ouverture Base(App, Globals.CheminAlchimie);
+    RemplirListe("SELECT Nom FROM Produits", cbo_Produit, "Nom");
 }
 
 void frm_ArtisanatsMagiques::RemplirGemmes()
@@ -120,10 +120,10 @@ void frm_ArtisanatsMagiques::RemplirGemmes()
     const std::string Degré = cbo_DegréGemmes.Text; // outlives its list
     cbo_DegréGemmes.Clear();
     cbo_DegréGemmes.Text = Degré;
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    RemplirListe(Globals, "SELECT Nom FROM Arcanes_Produits", cbo_TypeGemmes, "Nom");
-    RemplirListe(Globals, "SELECT Nom FROM Arcanes_Bonus", cbo_TypeBonus, "Nom");
-    RemplirListe(Globals, "SELECT DegréType1 FROM Degrés_Arcanes", cbo_DegréGemmes, "DegréType1");
+    const Ouverture Base(App, Globals.CheminRoyaume);
+    RemplirListe("SELECT Nom FROM Arcanes_Produits", cbo_TypeGemmes, "Nom");
+    RemplirListe("SELECT Nom FROM Arcanes_Bonus", cbo_TypeBonus, "Nom");
+    RemplirListe("SELECT DegréType1 FROM Degrés_Arcanes", cbo_DegréGemmes, "DegréType1");
 }
 
 void frm_ArtisanatsMagiques::Bar_Menus_ItemClick(const SideMenu::Item& Entrée)

@@ -42,17 +42,16 @@ bool frm_ArtisanatsMagiques::ASixLignes() const
 // Needs the realm database open.
 void frm_ArtisanatsMagiques::ChargerGemme()
 {
-    const Recordset Degré = PremierEnregistrement(
-        Globals, "SELECT NuméroDegré, PrixRevente, DegréType1 FROM Degrés_Arcanes "
-                 "WHERE DegréType1=" +
-                     Quoted(cbo_DegréGemmes.Text));
+    const Recordset Degré =
+        PremierEnregistrement("SELECT NuméroDegré, PrixRevente, DegréType1 FROM Degrés_Arcanes "
+                              "WHERE DegréType1=" +
+                              Quoted(cbo_DegréGemmes.Text));
     const std::int16_t NuméroDegré = Degré.Whole("NuméroDegré");
     txt_ArcanesPrixRevente.Text = Degré.Text("PrixRevente");
 
-    const Recordset Gemme =
-        PremierEnregistrement(Globals, "SELECT * FROM R_ArcanesObjets WHERE (Arcanes_Bonus.Nom=" +
-                                           Quoted(cbo_TypeBonus.Text) +
-                                           " AND Bonus=" + Quoted(cbo_SousTypeBonus.Text) + ")");
+    const Recordset Gemme = PremierEnregistrement(
+        "SELECT * FROM R_ArcanesObjets WHERE (Arcanes_Bonus.Nom=" + Quoted(cbo_TypeBonus.Text) +
+        " AND Bonus=" + Quoted(cbo_SousTypeBonus.Text) + ")");
     Ingrédients[2].Nom.Text = Gemme.Text(Matériau(1, "Nom"));
     txt_ArcanesCoefQté2.Text = Gemme.Text("CoefQté2");
     Ingrédients[3].Nom.Text = Gemme.Text(Matériau(2, "Nom"));
@@ -100,8 +99,8 @@ void frm_ArtisanatsMagiques::ChargerBase(std::int16_t NuméroDegré)
         Ingrédients[1].PrixUnitaire.Text = "0";
         return;
     }
-    const Recordset Base = PremierEnregistrement(
-        Globals, "SELECT * FROM Matériaux_Arcanes WHERE Degré=" + std::to_string(NuméroDegré));
+    const Recordset Base = PremierEnregistrement("SELECT * FROM Matériaux_Arcanes WHERE Degré=" +
+                                                 std::to_string(NuméroDegré));
     Ingrédients[1].Nom.Text = Base.Text("Nom");
     Ingrédients[1].PrixUnitaire.Text = Base.Text("Prix");
 }
@@ -110,8 +109,8 @@ void frm_ArtisanatsMagiques::ChargerBase(std::int16_t NuméroDegré)
 void frm_ArtisanatsMagiques::ChargerGemmeSup()
 {
     const Recordset Gemme = PremierEnregistrement(
-        Globals, "SELECT * FROM R_ArcanesObjets WHERE (Arcanes_ProduitsDétaillés.Nom=" +
-                     Quoted(txt_AlchimieObjetSup.Text) + ")");
+        "SELECT * FROM R_ArcanesObjets WHERE (Arcanes_ProduitsDétaillés.Nom=" +
+        Quoted(txt_AlchimieObjetSup.Text) + ")");
     lbl_AlchimieObjetSupNiveauCraft.Caption = Gemme.Text("NiveauCraft");
     txt_AlchimieIconeObjetSup.Text = Gemme.TextOrEmpty("Icône");
     for (int i = 1; i <= 3; ++i) {

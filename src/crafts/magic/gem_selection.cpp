@@ -12,13 +12,12 @@ template <class BoxType>
 void frm_ArtisanatsMagiques::RemplirTexte(const std::string& Requête, BoxType& Où,
                                           const std::string& Colonne)
 {
-    Où.Text = PremierEnregistrement(Globals, Requête).Text(Colonne);
+    Où.Text = PremierEnregistrement(Requête).Text(Colonne);
 }
 
 void frm_ArtisanatsMagiques::RemplirSousTypesGemmes()
 {
-    RemplirListe(Globals,
-                 "SELECT Arcanes_ProduitsDétaillés.Nom,Arcanes_Produits.Nom FROM R_Arcanes "
+    RemplirListe("SELECT Arcanes_ProduitsDétaillés.Nom,Arcanes_Produits.Nom FROM R_Arcanes "
                  "WHERE (Arcanes_Produits.Nom=" +
                      Quoted(cbo_TypeGemmes.Text) + ")",
                  cbo_SousTypeGemmes, "Arcanes_ProduitsDétaillés.Nom");
@@ -26,8 +25,7 @@ void frm_ArtisanatsMagiques::RemplirSousTypesGemmes()
 
 void frm_ArtisanatsMagiques::RemplirSousTypesBonus()
 {
-    RemplirListe(Globals,
-                 "SELECT Bonus,Arcanes_Bonus.Nom FROM R_Arcanes WHERE (Arcanes_Bonus.Nom=" +
+    RemplirListe("SELECT Bonus,Arcanes_Bonus.Nom FROM R_Arcanes WHERE (Arcanes_Bonus.Nom=" +
                      Quoted(cbo_TypeBonus.Text) + ")",
                  cbo_SousTypeBonus, "Bonus");
 }
@@ -49,7 +47,7 @@ void frm_ArtisanatsMagiques::cbo_TypeGemmes_Click()
     EffacerSélectionGemmes(2);
     ShowAll({&cbo_DegréBonus, &cbo_DegréGemmes, &lbl_ArcanesDegré}, false);
     EffacerMatériaux();
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    const Ouverture Base(App, Globals.CheminRoyaume);
     RemplirSousTypesGemmes();
     RemplirTexte("SELECT DISTINCT Arcanes_Produits.Nom, Arcanes_Bonus.Nom FROM R_Arcanes "
                  "WHERE Arcanes_Produits.Nom=" +
@@ -66,10 +64,10 @@ void frm_ArtisanatsMagiques::cbo_TypeBonus_Click()
     cbo_DegréBonus.Clear();
     lbl_ArcanesDegré.Visible = false;
     EffacerMatériaux();
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    const Ouverture Base(App, Globals.CheminRoyaume);
     RemplirSousTypesBonus();
     LireDegréBonus();
-    RemplirListe(Globals, "SELECT " + ColonneDegré() + " FROM Degrés_Arcanes", cbo_DegréBonus,
+    RemplirListe("SELECT " + ColonneDegré() + " FROM Degrés_Arcanes", cbo_DegréBonus,
                  ColonneDegré());
     RemplirTexte("SELECT DISTINCT Arcanes_Produits.Nom, Arcanes_Bonus.Nom FROM R_Arcanes "
                  "WHERE Arcanes_Bonus.Nom=" +
@@ -90,7 +88,7 @@ void frm_ArtisanatsMagiques::PréparerDegrés()
 void frm_ArtisanatsMagiques::cbo_SousTypeGemmes_Click()
 {
     PréparerDegrés();
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    const Ouverture Base(App, Globals.CheminRoyaume);
     RemplirTexte("SELECT DISTINCT Arcanes_ProduitsDétaillés.Nom, Arcanes_Produits.Nom, Bonus "
                  "FROM R_ArcanesObjets WHERE (Arcanes_Produits.Nom=" +
                      Quoted(cbo_TypeGemmes.Text) +
@@ -102,7 +100,7 @@ void frm_ArtisanatsMagiques::cbo_SousTypeGemmes_Click()
 void frm_ArtisanatsMagiques::cbo_SousTypeBonus_Click()
 {
     PréparerDegrés();
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    const Ouverture Base(App, Globals.CheminRoyaume);
     RemplirTexte("SELECT DISTINCT Arcanes_ProduitsDétaillés.Nom, Arcanes_Bonus.Nom, Bonus "
                  "FROM R_ArcanesObjets WHERE (Arcanes_Bonus.Nom=" +
                      Quoted(cbo_TypeBonus.Text) + " AND Bonus=" + Quoted(cbo_SousTypeBonus.Text) +
@@ -114,10 +112,9 @@ void frm_ArtisanatsMagiques::cbo_SousTypeBonus_Click()
 void frm_ArtisanatsMagiques::LireIcône()
 {
     txt_IcôneArcanes.Text =
-        PremierEnregistrement(Globals,
-                              "SELECT Icône FROM R_ArcanesObjets WHERE (Arcanes_Bonus.Nom=" +
-                                  Quoted(cbo_TypeBonus.Text) +
-                                  " AND Bonus=" + Quoted(cbo_SousTypeBonus.Text) + ")")
+        PremierEnregistrement("SELECT Icône FROM R_ArcanesObjets WHERE (Arcanes_Bonus.Nom=" +
+                              Quoted(cbo_TypeBonus.Text) +
+                              " AND Bonus=" + Quoted(cbo_SousTypeBonus.Text) + ")")
             .TextOrEmpty("Icône");
 }
 
@@ -128,10 +125,10 @@ void frm_ArtisanatsMagiques::cbo_DegréGemmes_Click()
     if (PremierDegréSeul())
         cbo_DegréGemmes.ListIndex = 0;
     const auto Lire = [&] {
-        const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+        const Ouverture Base(App, Globals.CheminRoyaume);
         const std::string Degrés = "SELECT DegréType1, " + ColonneDegré() + " FROM Degrés_Arcanes";
         cbo_DegréBonus.Clear();
-        RemplirListe(Globals, Degrés, cbo_DegréBonus, ColonneDegré());
+        RemplirListe(Degrés, cbo_DegréBonus, ColonneDegré());
         RemplirTexte(Degrés + " WHERE DegréType1=" + Quoted(cbo_DegréGemmes.Text), cbo_DegréBonus,
                      ColonneDegré());
         ChargerGemme();
@@ -146,7 +143,7 @@ void frm_ArtisanatsMagiques::cbo_DegréBonus_Click()
     if (PremierDegréSeul())
         cbo_DegréBonus.ListIndex = 0;
     const auto Lire = [&] {
-        const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+        const Ouverture Base(App, Globals.CheminRoyaume);
         RemplirTexte("SELECT DegréType1, " + ColonneDegré() + " FROM Degrés_Arcanes WHERE " +
                          ColonneDegré() + "=" + Quoted(cbo_DegréBonus.Text),
                      cbo_DegréGemmes, "DegréType1");

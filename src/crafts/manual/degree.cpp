@@ -62,17 +62,17 @@ void frm_ArtisanatsManuels::cbo_Degré_Click()
 
 void frm_ArtisanatsManuels::LireDegré()
 {
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    NuméroDegré = PremierEnregistrement(Globals, "SELECT * FROM Degrés_ListeTypes WHERE " +
-                                                     ColonneDegré + "=" + Quoted(cbo_Degré.Text))
+    const Ouverture Base(App, Globals.CheminRoyaume);
+    NuméroDegré = PremierEnregistrement("SELECT * FROM Degrés_ListeTypes WHERE " + ColonneDegré +
+                                        "=" + Quoted(cbo_Degré.Text))
                       .Whole("NuméroDegré");
     const std::string& Nom = cbo_Objet.Text;
     const bool Couronne = Contains(Nom, "couronne") || Contains(Nom, "Couronne");
     for (LigneMatériau& Each : Matériaux)
         RésoudreMatériau(Globals, NuméroDegré, Couronne, Each);
 
-    const Recordset Objet = PremierEnregistrement(
-        Globals, "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text));
+    const Recordset Objet = PremierEnregistrement("SELECT * FROM Classique_ListeObjets WHERE Nom=" +
+                                                  Quoted(cbo_Objet.Text));
     LireNiveaux(Objet);
     txt_ObjetSupBis.Text = Objet.TextOrEmpty("NomObjet");
     txt_NbObjetSup.Text = Objet.Text("NbObjet");

@@ -94,7 +94,7 @@ void frm_ArtisanatsManuels::cbo_TypeDégats_Click()
 // One row of the alchemy objects, found by the name just built.
 void frm_ArtisanatsManuels::LireObjetSup()
 {
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminAlchimie);
+    const Ouverture Base(App, Globals.CheminAlchimie);
     ChargerObjetSup(Globals, txt_ObjetSup.Text,
                     {lbl_ObjetSupNiveauCraft, txt_IconeObjetSup, MatériauxSup});
 }

@@ -80,9 +80,8 @@ void frm_ArtisanatsManuels::EffacerInfosObjet()
 
 void frm_ArtisanatsManuels::RemplirProduits()
 {
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    RemplirListe(Globals,
-                 "SELECT DISTINCT Classique_Produits.Nom,Artisanat_Liste.Nom FROM R_Classique "
+    const Ouverture Base(App, Globals.CheminRoyaume);
+    RemplirListe("SELECT DISTINCT Classique_Produits.Nom,Artisanat_Liste.Nom FROM R_Classique "
                  "WHERE (Artisanat_Liste.Nom=" +
                      Quoted(lbl_Artisanat.Caption) + ")",
                  cbo_Produit, "Classique_Produits.Nom");
@@ -91,13 +90,12 @@ void frm_ArtisanatsManuels::RemplirProduits()
 void frm_ArtisanatsManuels::cbo_Produit_Click()
 {
     EffacerSélection(2);
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    const Ouverture Base(App, Globals.CheminRoyaume);
     if (cbo_Produit.Text == "Armes légendaires") {
         App.Feuilles.Touch("frm_ArmesLégendaires").Show();
         return;
     }
-    RemplirListe(Globals,
-                 "SELECT DISTINCT Classique_ProduitsDétaillés.Nom,Classique_Produits.Nom "
+    RemplirListe("SELECT DISTINCT Classique_ProduitsDétaillés.Nom,Classique_Produits.Nom "
                  "FROM R_Classique WHERE ((Artisanat_Liste.Nom = " +
                      Quoted(lbl_Artisanat.Caption) +
                      ") AND (Classique_Produits.Nom=" + Quoted(cbo_Produit.Text) + "))",
@@ -107,13 +105,12 @@ void frm_ArtisanatsManuels::cbo_Produit_Click()
 void frm_ArtisanatsManuels::cbo_ProduitDétaillé_Click()
 {
     EffacerSélection(3);
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    const Ouverture Base(App, Globals.CheminRoyaume);
     if (cbo_ProduitDétaillé.Text == "Carreaux" || cbo_ProduitDétaillé.Text == "Flèches") {
         App.Feuilles.Touch("frm_Archerie").Show();
         return;
     }
     RemplirListe(
-        Globals,
         "SELECT * FROM R_Classique WHERE ((Artisanat_Liste.Nom = " + Quoted(lbl_Artisanat.Caption) +
             ") AND (Classique_Produits.Nom = " + Quoted(cbo_Produit.Text) +
             ") AND (Classique_ProduitsDétaillés.Nom = " + Quoted(cbo_ProduitDétaillé.Text) + "))",
@@ -140,15 +137,14 @@ void frm_ArtisanatsManuels::cbo_Objet_Click()
 
 void frm_ArtisanatsManuels::LireObjet()
 {
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    const std::string Sup =
-        PremierEnregistrement(Globals, "SELECT * FROM Classique_ListeObjets WHERE Nom=" +
-                                           Quoted(cbo_Objet.Text))
-            .Text("Sup");
+    const Ouverture Base(App, Globals.CheminRoyaume);
+    const std::string Sup = PremierEnregistrement("SELECT * FROM Classique_ListeObjets WHERE Nom=" +
+                                                  Quoted(cbo_Objet.Text))
+                                .Text("Sup");
     txt_Sup.Text = Sup; // its handler uses the open database
 
-    const Recordset Objet = PremierEnregistrement(
-        Globals, "SELECT * FROM Classique_ListeObjets WHERE Nom=" + Quoted(cbo_Objet.Text));
+    const Recordset Objet = PremierEnregistrement("SELECT * FROM Classique_ListeObjets WHERE Nom=" +
+                                                  Quoted(cbo_Objet.Text));
     Matériaux.ChargerCodes(Objet, 6);
     txt_Image.Text = Objet.TextOrEmpty("Image");
     txt_Icône.Text = Objet.TextOrEmpty("Icône");
@@ -178,14 +174,14 @@ void frm_ArtisanatsManuels::txt_Sup_Change()
         return;
     const std::string Degré =
         PremierEnregistrement(
-            Globals, "SELECT DISTINCT Classique_ProduitsDétaillés.Nom,Classique_Produits.Nom, "
-                     "Degré FROM R_Classique WHERE (Artisanat_Liste.Nom=" +
-                         Quoted(lbl_Artisanat.Caption) +
-                         " AND Classique_Produits.Nom=" + Quoted(cbo_Produit.Text) + ")")
+            "SELECT DISTINCT Classique_ProduitsDétaillés.Nom,Classique_Produits.Nom, "
+            "Degré FROM R_Classique WHERE (Artisanat_Liste.Nom=" +
+            Quoted(lbl_Artisanat.Caption) +
+            " AND Classique_Produits.Nom=" + Quoted(cbo_Produit.Text) + ")")
             .Text("Degré");
     ColonneDegré = "DegréType" + Degré;
-    RemplirListe(Globals, std::string("SELECT * FROM Degrés_ListeTypes") + Règle->Restriction,
-                 cbo_Degré, ColonneDegré);
+    RemplirListe(std::string("SELECT * FROM Degrés_ListeTypes") + Règle->Restriction, cbo_Degré,
+                 ColonneDegré);
 }
 
 } // namespace orvane

@@ -22,9 +22,8 @@ void frm_ArtisanatsSecondaires::PréparerRecyclage()
     cmd_AjouterPanier.Visible = false;
     LireNiveauCraft();
 
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    RemplirListe(Globals,
-                 "SELECT DISTINCT * FROM R_Secondaire WHERE (Artisanat_Liste.Nom=" +
+    const Ouverture Base(App, Globals.CheminRoyaume);
+    RemplirListe("SELECT DISTINCT * FROM R_Secondaire WHERE (Artisanat_Liste.Nom=" +
                      Quoted(lbl_Artisanat.Caption) + ")",
                  cbo_ObjetSecondaire, "Secondaire_Produits.Nom");
 }
@@ -48,20 +47,20 @@ void frm_ArtisanatsSecondaires::ChoisirRecyclage()
 
 void frm_ArtisanatsSecondaires::LireRecyclage()
 {
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    const Recordset Objet = PremierEnregistrement(
-        Globals, "SELECT * FROM R_SecondaireObjets WHERE Secondaire_Produits.Nom=" +
-                     Quoted(cbo_ObjetSecondaire.Text));
+    const Ouverture Base(App, Globals.CheminRoyaume);
+    const Recordset Objet =
+        PremierEnregistrement("SELECT * FROM R_SecondaireObjets WHERE Secondaire_Produits.Nom=" +
+                              Quoted(cbo_ObjetSecondaire.Text));
     Matériaux.ChargerCodes(Objet, 3);
     MontrerIcône(Objet);
 
-    NuméroDegré = PremierEnregistrement(
-                      Globals, "SELECT * FROM R_Secondaire WHERE (Artisanat_Liste.Nom=" +
-                                   Quoted(lbl_Artisanat.Caption) + " AND Secondaire_Produits.Nom=" +
-                                   Quoted(cbo_ObjetSecondaire.Text) + ")")
-                      .Whole("Degré");
+    NuméroDegré =
+        PremierEnregistrement("SELECT * FROM R_Secondaire WHERE (Artisanat_Liste.Nom=" +
+                              Quoted(lbl_Artisanat.Caption) + " AND Secondaire_Produits.Nom=" +
+                              Quoted(cbo_ObjetSecondaire.Text) + ")")
+            .Whole("Degré");
     ColonneDegré = "DegréType" + std::to_string(NuméroDegré);
-    RemplirListe(Globals, "SELECT * FROM Degrés_ListeTypes", cbo_Degré, ColonneDegré);
+    RemplirListe("SELECT * FROM Degrés_ListeTypes", cbo_Degré, ColonneDegré);
 }
 
 void frm_ArtisanatsSecondaires::ChoisirDegré()
@@ -84,17 +83,17 @@ void frm_ArtisanatsSecondaires::ChoisirDegré()
 
 void frm_ArtisanatsSecondaires::LireDegré()
 {
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    NuméroDegré = PremierEnregistrement(Globals, "SELECT * FROM Degrés_ListeTypes WHERE " +
-                                                     ColonneDegré + "=" + Quoted(cbo_Degré.Text))
+    const Ouverture Base(App, Globals.CheminRoyaume);
+    NuméroDegré = PremierEnregistrement("SELECT * FROM Degrés_ListeTypes WHERE " + ColonneDegré +
+                                        "=" + Quoted(cbo_Degré.Text))
                       .Whole("NuméroDegré");
     const bool Couronne = Contains(cbo_ObjetSecondaire.Text, "couronne");
     for (int i = 1; i <= 3; ++i)
         RésoudreMatériau(Globals, NuméroDegré, Couronne, Matériaux[i]);
 
-    const Recordset Objet = PremierEnregistrement(
-        Globals, "SELECT * FROM R_SecondaireObjets WHERE Secondaire_Produits.Nom=" +
-                     Quoted(cbo_ObjetSecondaire.Text));
+    const Recordset Objet =
+        PremierEnregistrement("SELECT * FROM R_SecondaireObjets WHERE Secondaire_Produits.Nom=" +
+                              Quoted(cbo_ObjetSecondaire.Text));
     MontrerIcône(Objet);
     ColonneRevente = "PrixReventeDegré" + std::to_string(NuméroDegré);
     txt_PrixRevente.Text = Objet.Text(ColonneRevente);

@@ -20,13 +20,11 @@ void frm_ArtisanatsSecondaires::PréparerSellerie()
     cmd_AjouterPanier.Visible = true;
     LireNiveauCraft();
 
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    RemplirListe(Globals,
-                 "SELECT DISTINCT * FROM R_SellerieObjets WHERE (Artisanat_Liste.Nom =" +
+    const Ouverture Base(App, Globals.CheminRoyaume);
+    RemplirListe("SELECT DISTINCT * FROM R_SellerieObjets WHERE (Artisanat_Liste.Nom =" +
                      Quoted(lbl_Artisanat.Caption) + ")",
                  cbo_ObjetSecondaire, "Sellerie_ListeObjets.Nom");
-    RemplirListe(Globals,
-                 "SELECT * FROM R_SellerieProduits WHERE Artisanat_Liste.Nom = " +
+    RemplirListe("SELECT * FROM R_SellerieProduits WHERE Artisanat_Liste.Nom = " +
                      Quoted(lbl_Artisanat.Caption),
                  cbo_Degré, "Sellerie_ProduitsDétaillés.Nom");
     if (cbo_Degré.ListCount() == 0) // a trade without filters
@@ -36,11 +34,11 @@ void frm_ArtisanatsSecondaires::PréparerSellerie()
 // The bill of the object chosen last stays on screen.
 void frm_ArtisanatsSecondaires::FiltrerSellerie()
 {
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
+    const Ouverture Base(App, Globals.CheminRoyaume);
     Recordset Objets = OuvrirEnregistrements(
-        Globals, "SELECT DISTINCT * FROM R_SellerieObjets WHERE (Artisanat_Liste.Nom =" +
-                     Quoted(lbl_Artisanat.Caption) + " AND Sellerie_ListeObjets.Nom LIKE " +
-                     Quoted("*" + cbo_Degré.Text + "*") + ")");
+        "SELECT DISTINCT * FROM R_SellerieObjets WHERE (Artisanat_Liste.Nom =" +
+        Quoted(lbl_Artisanat.Caption) + " AND Sellerie_ListeObjets.Nom LIKE " +
+        Quoted("*" + cbo_Degré.Text + "*") + ")");
     if (Objets.RecordCount() == 0) {
         App.MsgBox(Typeset("Aucun objet ne porte « " + cbo_Degré.Text +
                            " » dans son nom : la "
@@ -48,7 +46,7 @@ void frm_ArtisanatsSecondaires::FiltrerSellerie()
         return;
     }
     cbo_ObjetSecondaire.Clear();
-    RemplirListe(Objets, cbo_ObjetSecondaire, "Sellerie_ListeObjets.Nom");
+    AjouterÀLaListe(Objets, cbo_ObjetSecondaire, "Sellerie_ListeObjets.Nom");
 }
 
 void frm_ArtisanatsSecondaires::ChoisirSellerie()
@@ -68,10 +66,10 @@ void frm_ArtisanatsSecondaires::ChoisirSellerie()
 
 void frm_ArtisanatsSecondaires::LireSellerie()
 {
-    const Ouverture Base(App, Globals.BaseDonnées, Globals.CheminRoyaume);
-    const Recordset Objet = PremierEnregistrement(
-        Globals, "SELECT * FROM R_SellerieObjets WHERE Sellerie_ListeObjets.Nom =" +
-                     Quoted(cbo_ObjetSecondaire.Text));
+    const Ouverture Base(App, Globals.CheminRoyaume);
+    const Recordset Objet =
+        PremierEnregistrement("SELECT * FROM R_SellerieObjets WHERE Sellerie_ListeObjets.Nom =" +
+                              Quoted(cbo_ObjetSecondaire.Text));
     MontrerIcône(Objet);
     txt_Image.Text = Objet.TextOrEmpty("Image");
     txt_PrixRevente.Text = Objet.Text("PrixRevente");
