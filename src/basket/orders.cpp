@@ -21,6 +21,11 @@ bool AUneSaisieFausse(const Screen& Feuille)
 
 } // namespace
 
+void OuvrirPanier(Application& App)
+{
+    App.Feuilles.Get<frm_Panier>().Show();
+}
+
 void RemplirCommandes(Application& App)
 {
     Variables& Globals = App.Globals;

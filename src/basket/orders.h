@@ -10,6 +10,8 @@ namespace orvane {
 // The order that the program starts on, and the only one that can be given a name.
 inline const std::string NouvelleCommande = "Nouvelle commande";
 
+void OuvrirPanier(Application& App);
+
 // Refills the list of orders; the order in hand is then NouvelleCommande.
 void RemplirCommandes(Application& App);
 

@@ -2,6 +2,7 @@
 
 #include "app/navigation.h"
 #include "app/queries.h"
+#include "app/trades.h"
 #include "base/typography.h"
 #include "basket/orders.h"
 #include "catalogue/catalogue.h"
@@ -66,7 +67,9 @@ void frm_Accueil::ChargerConfigRoyaume()
     ColonnesRoyaume = frm_Configuration::ColonnesPour(Royaume);
     Recordset Lignes =
         PremierEnregistrement("SELECT " + ColonnesRoyaume + " FROM ConfigRoyaume ORDER BY Num");
-    for (const RéglagesArtisanat& Artisanat : App.Feuilles.Get<frm_Configuration>().Réglages()) {
+    const auto& Configuration = App.Feuilles.Get<frm_Configuration>();
+    for (const Métier& Each : Métiers) {
+        const RéglagesArtisanat Artisanat = Configuration.Réglages(Each.Nom);
         if (Artisanat.Niveau != nullptr)
             Artisanat.Niveau->Text = Lignes.Text("Craft" + Royaume);
         if (Artisanat.Marge != nullptr)

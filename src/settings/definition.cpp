@@ -1,3 +1,4 @@
+#include "app/trades.h"
 #include "settings/frm_configuration.h"
 #include "toolkit/placing.h"
 
@@ -28,16 +29,16 @@ constexpr int FirstRow = 30; // from the top of a group
 struct Row
 {
     Label* Name;
-    const char* Words;
-    RéglagesArtisanat Boxes;
+    const char* Métier;
     int Y;
 };
 
-void PlaceRow(const Row& Each)
+void PlaceRow(const Row& Each, const RéglagesArtisanat& Boxes)
 {
-    PlaceLabel(*Each.Name, Each.Words, {LeftX + NameX, Each.Y, LevelX - NameX, High});
+    PlaceLabel(*Each.Name, std::string(Each.Métier) + " :",
+               {LeftX + NameX, Each.Y, LevelX - NameX, High});
     const std::vector<std::pair<TextBox*, int>> Columns{
-        {Each.Boxes.Niveau, LevelX}, {Each.Boxes.Marge, MarginX}, {Each.Boxes.Essai, TrialX}};
+        {Boxes.Niveau, LevelX}, {Boxes.Marge, MarginX}, {Boxes.Essai, TrialX}};
     for (const auto& [Box, X] : Columns)
         if (Box != nullptr)
             Place(*Box, {LeftX + X, Each.Y, BoxWide, High});
@@ -107,23 +108,23 @@ void frm_Configuration::Définir()
 
 void frm_Configuration::DéfinirRéglages()
 {
-    const auto Boxes = Réglages();
     const auto Line = [](int GroupY, int Row) { return GroupY + FirstRow + Row * Step; };
     const std::vector<Row> Rows{
-        {&LabelMétier[4], "Armurerie :", Boxes[0], Line(ManualY, 0)},
-        {&LabelMétier[2], "Couture :", Boxes[1], Line(ManualY, 1)},
-        {&LabelMétier[5], "Empennage :", Boxes[2], Line(ManualY, 2)},
-        {&LabelMétier[6], "Forge :", Boxes[3], Line(ManualY, 3)},
-        {&LabelMétier[1], "Alchimie :", Boxes[4], Line(MagicY, 0)},
-        {&LabelMétier[3], "Arcanes :", Boxes[5], Line(MagicY, 1)},
-        {&LabelMétier[9], "Maroquinerie :", Boxes[6], Line(SecondaryY, 0)},
-        {&LabelMétier[7], "Menuiserie :", Boxes[7], Line(SecondaryY, 1)},
-        {&LabelMétier[8], "Métallurgie :", Boxes[8], Line(SecondaryY, 2)},
-        {&LabelMétier[10], "Tissage :", Boxes[9], Line(SecondaryY, 3)},
+        {&LabelMétier[4], "Armurerie", Line(ManualY, 0)},
+        {&LabelMétier[2], "Couture", Line(ManualY, 1)},
+        {&LabelMétier[5], "Empennage", Line(ManualY, 2)},
+        {&LabelMétier[6], "Forge", Line(ManualY, 3)},
+        {&LabelMétier[1], "Alchimie", Line(MagicY, 0)},
+        {&LabelMétier[3], "Arcanes", Line(MagicY, 1)},
+        {&LabelMétier[9], "Maroquinerie", Line(SecondaryY, 0)},
+        {&LabelMétier[7], "Menuiserie", Line(SecondaryY, 1)},
+        {&LabelMétier[8], "Métallurgie", Line(SecondaryY, 2)},
+        {&LabelMétier[10], "Tissage", Line(SecondaryY, 3)},
     };
     for (const Row& Each : Rows)
-        PlaceRow(Each);
-    for (const RéglagesArtisanat& Craft : Boxes) {
+        PlaceRow(Each, Réglages(Each.Métier));
+    for (const Métier& Each : Métiers) {
+        const RéglagesArtisanat Craft = Réglages(Each.Nom);
         if (Craft.Niveau != nullptr)
             Craft.Niveau->Text.StartWith("1");
         for (TextBox* Margin : {Craft.Marge, Craft.Essai})

@@ -1,6 +1,7 @@
 #include "settings/frm_configuration.h"
 
 #include "app/queries.h"
+#include "app/trades.h"
 #include "base/number_text.h"
 #include "base/typography.h"
 #include "skins/capture.h"
@@ -22,21 +23,17 @@ frm_Configuration::frm_Configuration(Application& App)
     cmd_Récup.OnClick = [&App] { RécupérerRésolution(App); };
 }
 
-std::array<RéglagesArtisanat, 11> frm_Configuration::Réglages()
+RéglagesArtisanat frm_Configuration::Réglages(std::string_view Métier) const
 {
-    return {{
-        {&txt_NiveauArmurerie, &txt_MargeArmurerie, &txt_EssaiArmurerie},
-        {&txt_NiveauCouture, &txt_MargeCouture, &txt_EssaiCouture},
-        {&txt_NiveauEmpennage, &txt_MargeEmpennage, &txt_EssaiEmpennage},
-        {&txt_NiveauForge, &txt_MargeForge, &txt_EssaiForge},
-        {&txt_NiveauAlchimie, &txt_MargeAlchimie, nullptr},
-        {&txt_NiveauArcanes, &txt_MargeArcanes, &txt_EssaiArcanes},
-        {&txt_NiveauMaroquinerie, &txt_MargeMaroquinerie, nullptr},
-        {&txt_NiveauMenuiserie, nullptr, nullptr},
-        {&txt_NiveauMétallurgie, &txt_MargeMétallurgie, nullptr},
-        {&txt_NiveauTissage, &txt_MargeTissage, nullptr},
-        {nullptr, &txt_MargeLégendaires, &txt_EssaiLégendaires},
-    }};
+    const auto Case = [&](const char* Réglage) {
+        return dynamic_cast<TextBox*>(FindOrNull(std::string(Réglage).append(Métier)));
+    };
+    return {Case("txt_Niveau"), Case("txt_Marge"), Case("txt_Essai")};
+}
+
+const orvane::Picture& frm_Configuration::ImageMétier(std::string_view Métier) const
+{
+    return imglst_CraftGrand.Picture(LeMétier(Métier).Image);
 }
 
 std::string frm_Configuration::ColonnesPour(const std::string& Royaume)
@@ -74,13 +71,15 @@ bool frm_Configuration::ToutEstValable()
     const bool MêmeSkin = cbo_Skin.Text == EnVigueur("txt_Skin").Text;
     if (!MêmeSkin && (cbo_Skin.FindItem(cbo_Skin.Text) < 0 || !SkinExiste(App, cbo_Skin.Text)))
         Faute = "La skin « " + cbo_Skin.Text + " » n’existe pas.";
-    for (const RéglagesArtisanat& Artisanat : Réglages())
+    for (const Métier& Each : Métiers) {
+        const RéglagesArtisanat Artisanat = Réglages(Each.Nom);
         for (TextBox* Case : {Artisanat.Niveau, Artisanat.Marge, Artisanat.Essai})
             if (Case != nullptr) {
                 Case->Marked = !Entier16FromText(Case->Text);
                 if (Case->Marked)
                     Faute = "Les cases marquées doivent contenir un nombre entier.";
             }
+    }
     if (!Faute.empty())
         App.MsgBox(Typeset(Faute + "\nRien n’a été enregistré."));
     return Faute.empty();
@@ -92,7 +91,8 @@ void frm_Configuration::EnregistrerRéglages()
     ColonnesRoyaume = ColonnesPour(Royaume);
     Recordset Lignes =
         PremierEnregistrement("SELECT " + ColonnesRoyaume + " FROM ConfigRoyaume ORDER BY Num");
-    for (const RéglagesArtisanat& Artisanat : Réglages()) {
+    for (const Métier& Each : Métiers) {
+        const RéglagesArtisanat Artisanat = Réglages(Each.Nom);
         Lignes.Edit();
         if (Artisanat.Niveau != nullptr)
             Lignes.Set("Craft" + Royaume, Artisanat.Niveau->Text);
@@ -124,9 +124,11 @@ void frm_Configuration::EnregistrerChoix(const std::string& Table, ComboBox& Lis
         Courant.Text = Liste.Text;
 }
 
-void LireRéglage(const TextBox& Réglage, std::int16_t& Variable)
+void LireRéglage(const TextBox* Réglage, std::int16_t& Variable)
 {
-    if (const auto Valeur = Entier16FromText(Réglage.Text))
+    if (Réglage == nullptr)
+        return;
+    if (const auto Valeur = Entier16FromText(Réglage->Text))
         Variable = *Valeur;
 }
 

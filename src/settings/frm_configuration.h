@@ -2,7 +2,6 @@
 
 #include "app/feuille.h"
 
-#include <array>
 #include <string>
 
 namespace orvane {
@@ -25,8 +24,11 @@ class frm_Configuration : public Feuille
 
     explicit frm_Configuration(Application& App);
 
-    // The rows of ConfigRoyaume in their order: position is the only link between row and craft.
-    std::array<RéglagesArtisanat, 11> Réglages();
+    // The boxes that bear a craft's name.
+    RéglagesArtisanat Réglages(std::string_view Métier) const;
+
+    // The large picture of a craft.
+    const orvane::Picture& ImageMétier(std::string_view Métier) const;
 
     // "Num, CraftCorvane, Marges1Corvane, Marges2Corvane".
     static std::string ColonnesPour(const std::string& Royaume);
@@ -121,6 +123,6 @@ class frm_Configuration : public Feuille
 
 // A setting into the reader's variable; a text that is no 16-bit whole number leaves the variable
 // as it was.
-void LireRéglage(const TextBox& Réglage, std::int16_t& Variable);
+void LireRéglage(const TextBox* Réglage, std::int16_t& Variable);
 
 } // namespace orvane

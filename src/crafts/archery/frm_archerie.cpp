@@ -6,6 +6,7 @@
 #include "crafts/common/lecture.h"
 #include "crafts/common/object_pictures.h"
 #include "crafts/common/recalculating_input.h"
+#include "crafts/common/sale.h"
 #include "settings/level_indicator.h"
 #include "toolkit/calculation.h"
 
@@ -24,9 +25,7 @@ frm_Archerie::frm_Archerie(Application& App) : Feuille(App, ScreenName, "Archeri
 
 void frm_Archerie::Load()
 {
-    constexpr int ImageEmpennage = 6;
-    Image1.Picture =
-        App.Feuilles.Get<frm_Configuration>().imglst_CraftGrand.Picture(ImageEmpennage);
+    Image1.Picture = App.Feuilles.Get<frm_Configuration>().ImageMétier("Empennage");
 }
 
 // The last quiver and its prices stay.
@@ -37,9 +36,9 @@ void frm_Archerie::Activate()
         const Ouverture Base(App, Globals.CheminRoyaume);
         RemplirListe("SELECT Nom FROM ArcherieType", cbo_Type, "Nom");
     }
-    auto& Configuration = App.Feuilles.Get<frm_Configuration>();
-    LireRéglage(Configuration.txt_NiveauEmpennage, NiveauCraft);
-    LireRéglage(Configuration.txt_MargeEmpennage, Marge);
+    const RéglagesArtisanat Réglages = App.Feuilles.Get<frm_Configuration>().Réglages("Empennage");
+    LireRéglage(Réglages.Niveau, NiveauCraft);
+    LireRéglage(Réglages.Marge, Marge);
 }
 
 void frm_Archerie::cbo_Type_Click()
@@ -82,7 +81,7 @@ void frm_Archerie::CalculerPrixCarquois()
         return;
     Calculate({&txt_PrixCoûtant, &txt_PrixVente}, [&] {
         const Montant Coût = I(txt_NbObjet) * Matériaux.Somme();
-        const double Vente = D(Coût) * (Marge / 100.0 + 1);
+        const double Vente = AvecMarge(Coût, Marge);
         txt_PrixCoûtant.Text = T(Coût);
         txt_PrixVente.Text = T(Vente);
     });

@@ -1,3 +1,4 @@
+#include "crafts/common/sale.h"
 #include "crafts/legendary/frm_armes_legendaires.h"
 #include "toolkit/calculation.h"
 
@@ -70,8 +71,7 @@ void frm_ArmesLégendaires::CalculerTotaux()
         const Montant CoûtObjets = I(txt_NbObjet) * M(txt_PrixCoûtant);
         const Montant CoûtEssais = I(txt_NbEssais) * Perte;
         const Montant Total = CoûtObjets + CoûtEssais;
-        const double Vente =
-            D(CoûtObjets) * (Marge / 100.0 + 1) + D(CoûtEssais) * (MargeEssais / 100.0 + 1);
+        const double Vente = PrixVente(CoûtObjets, Marge, CoûtEssais, MargeEssais);
 
         txt_PrixCoûtantTotal.Text = T(Total);
         txt_PrixVente.Text = T(Vente);

@@ -1,6 +1,7 @@
 #include "crafts/legendary/frm_armes_legendaires.h"
 
 #include "app/queries.h"
+#include "app/trades.h"
 #include "basket/orders.h"
 #include "crafts/common/object_pictures.h"
 #include "crafts/common/recalculating_input.h"
@@ -44,13 +45,12 @@ void frm_ArmesLégendaires::Relier()
     RecalculerAuChangement(txt_NbObjet, {"0", ""}, "1", [this] { CalculerTotaux(); });
     RecalculerAuChangement(txt_NbEssais, {""}, "0", [this] { CalculerTotaux(); });
     cmd_AjouterPanier.OnClick = [this] { cmd_AjouterPanier_Click(); };
-    cmd_Panier.OnClick = [this] { this->App.Feuilles.Touch("frm_Panier").Show(); };
+    cmd_Panier.OnClick = [this] { OuvrirPanier(this->App); };
     cmd_Retour.OnClick = [this] { WayBack(); };
 }
 
 void frm_ArmesLégendaires::Load()
 {
-    constexpr int ImagePanier = 11;
     cmd_Panier.Picture =
         App.Feuilles.Get<frm_Configuration>().imglst_CraftGrand.Picture(ImagePanier);
 }
@@ -80,18 +80,15 @@ void frm_ArmesLégendaires::RemplirChoix(const std::string& Métier)
 // With a trade that has no legendary weapons, picture and level stay those of the last one.
 void frm_ArmesLégendaires::LireRéglages(const std::string& Métier)
 {
-    auto& Configuration = App.Feuilles.Get<frm_Configuration>();
-    if (Métier == "Empennage") {
-        LireRéglage(Configuration.txt_NiveauEmpennage, NiveauCraft);
-        pct_Craft.Picture = Configuration.imglst_CraftGrand.Picture(6);
-    } else if (Métier == "Forge") {
-        LireRéglage(Configuration.txt_NiveauForge, NiveauCraft);
-        pct_Craft.Picture = Configuration.imglst_CraftGrand.Picture(5);
+    const auto& Configuration = App.Feuilles.Get<frm_Configuration>();
+    if (Métier == "Empennage" || Métier == "Forge") {
+        LireRéglage(Configuration.Réglages(Métier).Niveau, NiveauCraft);
+        pct_Craft.Picture = Configuration.ImageMétier(Métier);
     }
-    LireRéglage(Configuration.txt_NiveauArcanes, NiveauArcanes);
-    LireRéglage(Configuration.txt_NiveauAlchimie, NiveauAlchimie);
-    LireRéglage(Configuration.txt_MargeLégendaires, Marge);
-    LireRéglage(Configuration.txt_EssaiLégendaires, MargeEssais);
+    LireRéglage(Configuration.Réglages("Arcanes").Niveau, NiveauArcanes);
+    LireRéglage(Configuration.Réglages("Alchimie").Niveau, NiveauAlchimie);
+    LireRéglage(Configuration.Réglages("Légendaires").Marge, Marge);
+    LireRéglage(Configuration.Réglages("Légendaires").Essai, MargeEssais);
 }
 
 // The totals of the blocks, the unit price of the material and the files of the components' icons

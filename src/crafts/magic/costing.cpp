@@ -1,5 +1,6 @@
 #include "base/number_text.h"
 #include "crafts/common/lecture.h"
+#include "crafts/common/sale.h"
 #include "crafts/magic/frm_artisanats_magiques.h"
 #include "toolkit/calculation.h"
 
@@ -55,7 +56,7 @@ void frm_ArtisanatsMagiques::CalculerPrixAlchimie()
         const Montant ObjetSup = CoûtObjetSup();
         const Montant Matériaux = Ingrédients.Somme(PrixVide::Zéro);
         const Montant Coût = I(txt_NbObjetAlchimie) * (Matériaux + ObjetSup);
-        const double Vente = D(Coût) * (MargeAlchimie / 100.0 + 1);
+        const double Vente = AvecMarge(Coût, MargeAlchimie);
 
         txt_AlchimieObjetSUpPrixCoûtant.Text = T(ObjetSup);
         txt_PrixCoûtantAlchimie.Text = T(Coût);
@@ -81,14 +82,14 @@ void frm_ArtisanatsMagiques::CalculerPrixArcanes()
         // the count of the alchemy side, "1" since the last pick unless it was typed over there
         const Montant Coût =
             I(txt_NbObjetAlchimie) * (ObjetSup + Ingrédients.Somme(PrixVide::Zéro));
-        const std::string Vente = T(D(Coût) * (MargeArcanes / 100.0 + 1));
+        const std::string Vente = T(AvecMarge(Coût, MargeArcanes));
         const Montant VenteArrondie = EnMontant(Montant::FromText(Vente));
         const Montant Perte = Coût - M(txt_ArcanesPrixRevente);
         const std::int16_t Essais = I(txt_ArcanesNbEssais);
         const std::int16_t Nombre = I(txt_ArcanesNbObjet);
 
         const Montant CoûtQualité = Coût + Essais * Perte;
-        const double VenteEssais = D(Perte) * (MargeEssais / 100.0 + 1) * D(Essais);
+        const double VenteEssais = AvecMarge(Perte, MargeEssais) * D(Essais);
         const Montant VenteQualité = EnMontant(Montant::FromDouble(VenteEssais)) + VenteArrondie;
         const Montant CoûtQuantité = Nombre * Coût;
         const std::string VenteQuantité = T(DoubleFromText(Vente).value() * D(Nombre));

@@ -2,6 +2,7 @@
 
 #include "app/navigation.h"
 #include "app/queries.h"
+#include "app/trades.h"
 #include "basket/orders.h"
 #include "crafts/common/craft_menu.h"
 #include "crafts/common/object_pictures.h"
@@ -76,25 +77,25 @@ void frm_ArtisanatsMagiques::RelierLignes()
 
 void frm_ArtisanatsMagiques::Load()
 {
-    ConstruireMenu(
-        Bar_Menus, App.Feuilles.Get<frm_Configuration>(),
-        {{"Artisanats",
-          "Liste des artisanats",
-          "Sélection d'un artisanat magique.",
-          {{"Arcanes", "Arcanes", 8, "Fabrication des gemmes."},
-           {"Alchimie", "Alchimie", 9, "Fabrication de teintures, potions et poisons."}}}});
+    ConstruireMenu(Bar_Menus, App.Feuilles.Get<frm_Configuration>(),
+                   {{"Artisanats",
+                     "Liste des artisanats",
+                     "Sélection d'un artisanat magique.",
+                     {EntréeMétier("Arcanes"), EntréeMétier("Alchimie")}}});
 }
 
 // Starts over on the alchemy side. The figures of the last object stay, with no choice above them.
 void frm_ArtisanatsMagiques::Activate()
 {
     PrendreAlchimie();
-    auto& Configuration = App.Feuilles.Get<frm_Configuration>();
-    LireRéglage(Configuration.txt_NiveauAlchimie, NiveauAlchimie);
-    LireRéglage(Configuration.txt_MargeAlchimie, MargeAlchimie);
-    LireRéglage(Configuration.txt_NiveauArcanes, NiveauArcanes);
-    LireRéglage(Configuration.txt_MargeArcanes, MargeArcanes);
-    LireRéglage(Configuration.txt_EssaiArcanes, MargeEssais);
+    const auto& Configuration = App.Feuilles.Get<frm_Configuration>();
+    const RéglagesArtisanat Alchimie = Configuration.Réglages("Alchimie");
+    const RéglagesArtisanat Arcanes = Configuration.Réglages("Arcanes");
+    LireRéglage(Alchimie.Niveau, NiveauAlchimie);
+    LireRéglage(Alchimie.Marge, MargeAlchimie);
+    LireRéglage(Arcanes.Niveau, NiveauArcanes);
+    LireRéglage(Arcanes.Marge, MargeArcanes);
+    LireRéglage(Arcanes.Essai, MargeEssais);
     RemplirProduits();
     RemplirGemmes();
 }
@@ -133,7 +134,7 @@ void frm_ArtisanatsMagiques::Bar_Menus_ItemClick(const SideMenu::Item& Entrée)
     else if (Entrée.Text == "Alchimie")
         PrendreAlchimie();
     else if (Entrée.Text == VoirPanier)
-        App.Feuilles.Touch("frm_Panier").Show();
+        OuvrirPanier(App);
 }
 
 void frm_ArtisanatsMagiques::cmd_AjouterPanier_Click()

@@ -184,6 +184,7 @@ class frm_ArtisanatsMagiques : public Feuille
     void Bar_Menus_ItemClick(const SideMenu::Item& Entrée);
     void PrendreAlchimie();
     void PrendreArcanes();
+    void PrendreMétier(const char* Nom);
     void AfficherAlchimie(bool Visible);
     void AfficherArcanes(bool Visible);
     void RemplirProduits();

@@ -1,3 +1,4 @@
+#include "crafts/common/sale.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "toolkit/calculation.h"
 
@@ -14,8 +15,7 @@ bool frm_ArtisanatsManuels::CalculerVente()
         const Montant Objets = I(txt_NbObjet) * Coût;
         const Montant Essais = I(txt_NbEssais) * Perte;
         const Montant Total = Objets + Essais;
-        const double Vente =
-            D(Objets) * (Marge / 100.0 + 1) + (MargeEssais / 100.0 + 1) * D(Essais);
+        const double Vente = PrixVente(Objets, Marge, Essais, MargeEssais);
 
         txt_PrixCoûtant.Text = T(Coût);
         txt_PrixCoûtantTotal.Text = T(Total);

@@ -1,6 +1,8 @@
 #include "crafts/manual/frm_artisanats_manuels.h"
 
 #include "app/navigation.h"
+#include "app/trades.h"
+#include "basket/orders.h"
 #include "crafts/common/craft_menu.h"
 #include "crafts/common/object_pictures.h"
 #include "crafts/common/recalculating_input.h"
@@ -12,38 +14,7 @@ namespace orvane {
 
 namespace {
 
-// What a trade rests on: its picture, and its settings on frm_Configuration.
-struct Artisanat
-{
-    const char* Nom;
-    int Image; // in imglst_CraftGrand
-    TextBox frm_Configuration::*Niveau;
-    TextBox frm_Configuration::*Marge;
-    TextBox frm_Configuration::*Essai;
-    const char* Tip;
-};
-
-constexpr std::array Artisanats{
-    Artisanat{"Armurerie", 8, &frm_Configuration::txt_NiveauArmurerie,
-              &frm_Configuration::txt_MargeArmurerie, &frm_Configuration::txt_EssaiArmurerie,
-              "Fabrication des armures en métal."},
-    Artisanat{"Couture", 7, &frm_Configuration::txt_NiveauCouture,
-              &frm_Configuration::txt_MargeCouture, &frm_Configuration::txt_EssaiCouture,
-              "Fabrication des armures en tissu et en cuir."},
-    Artisanat{"Empennage", 6, &frm_Configuration::txt_NiveauEmpennage,
-              &frm_Configuration::txt_MargeEmpennage, &frm_Configuration::txt_EssaiEmpennage,
-              "Fabrication des armes en bois."},
-    Artisanat{"Forge", 5, &frm_Configuration::txt_NiveauForge, &frm_Configuration::txt_MargeForge,
-              &frm_Configuration::txt_EssaiForge, "Fabrication des armes en métal."},
-};
-
-const Artisanat* Chercher(const std::string& Nom)
-{
-    for (const Artisanat& Each : Artisanats)
-        if (Nom == Each.Nom)
-            return &Each;
-    return nullptr;
-}
+constexpr std::array Manuels{"Armurerie", "Couture", "Empennage", "Forge"};
 
 } // namespace
 
@@ -91,18 +62,17 @@ void frm_ArtisanatsManuels::Relier()
 
 void frm_ArtisanatsManuels::Load()
 {
-    GroupeMenu Métiers{
-        "Artisanats", "Liste des artisanats", "Sélection d'un artisanat manuel.", {}};
-    for (const Artisanat& Each : Artisanats) // the small icons count from 0
-        Métiers.Entrées.push_back({Each.Nom, Each.Nom, Each.Image - 1, Each.Tip});
-    ConstruireMenu(Bar_Menus, App.Feuilles.Get<frm_Configuration>(), {Métiers});
+    GroupeMenu Liste{"Artisanats", "Liste des artisanats", "Sélection d'un artisanat manuel.", {}};
+    for (const char* Each : Manuels)
+        Liste.Entrées.push_back(EntréeMétier(Each));
+    ConstruireMenu(Bar_Menus, App.Feuilles.Get<frm_Configuration>(), {Liste});
 }
 
 void frm_ArtisanatsManuels::Activate()
 {
     EffacerSélection(1);
     PrendreArtisanat("Couture");
-    LireRéglage(App.Feuilles.Get<frm_Configuration>().txt_NiveauAlchimie, NiveauAlchimie);
+    LireRéglage(App.Feuilles.Get<frm_Configuration>().Réglages("Alchimie").Niveau, NiveauAlchimie);
     RemplirProduits();
 }
 
@@ -113,24 +83,24 @@ void frm_ArtisanatsManuels::WayBack()
 
 void frm_ArtisanatsManuels::Bar_Menus_ItemClick(const SideMenu::Item& Entrée)
 {
-    if (Chercher(Entrée.Text) != nullptr)
+    if (Entrée.Text == VoirPanier)
+        OuvrirPanier(App);
+    else
         PrendreArtisanat(Entrée.Text);
-    else if (Entrée.Text == VoirPanier)
-        App.Feuilles.Touch("frm_Panier").Show();
-    LireRéglage(App.Feuilles.Get<frm_Configuration>().txt_NiveauAlchimie, NiveauAlchimie);
+    LireRéglage(App.Feuilles.Get<frm_Configuration>().Réglages("Alchimie").Niveau, NiveauAlchimie);
     EffacerSélection(1);
     RemplirProduits();
 }
 
 void frm_ArtisanatsManuels::PrendreArtisanat(const std::string& Nom)
 {
-    auto& Configuration = App.Feuilles.Get<frm_Configuration>();
-    const Artisanat& Métier = *Chercher(Nom);
+    const auto& Configuration = App.Feuilles.Get<frm_Configuration>();
+    const RéglagesArtisanat Réglages = Configuration.Réglages(Nom);
     lbl_Artisanat.Caption = Nom;
-    pct_Artisanat.Picture = Configuration.imglst_CraftGrand.Picture(Métier.Image);
-    LireRéglage(Configuration.*Métier.Niveau, NiveauCraft);
-    LireRéglage(Configuration.*Métier.Marge, Marge);
-    LireRéglage(Configuration.*Métier.Essai, MargeEssais);
+    pct_Artisanat.Picture = Configuration.ImageMétier(Nom);
+    LireRéglage(Réglages.Niveau, NiveauCraft);
+    LireRéglage(Réglages.Marge, Marge);
+    LireRéglage(Réglages.Essai, MargeEssais);
 }
 
 } // namespace orvane

@@ -1,6 +1,8 @@
 #include "crafts/secondary/frm_artisanats_secondaires.h"
 
 #include "app/navigation.h"
+#include "app/trades.h"
+#include "base/table.h"
 #include "basket/orders.h"
 #include "crafts/common/craft_menu.h"
 #include "crafts/common/material_codes.h"
@@ -15,71 +17,36 @@ namespace orvane {
 
 namespace {
 
-// What a trade rests on: its picture, and its settings on frm_Configuration.
-struct Artisanat
-{
-    const char* Nom;
-    int Image; // in imglst_CraftGrand
-    TextBox frm_Configuration::*Niveau;
-    TextBox frm_Configuration::*Marge; // nothing where the trade has none
-};
+constexpr std::array Recyclages{"Maroquinerie", "Menuiserie", "Métallurgie", "Tissage"};
 
-constexpr std::array Artisanats{
-    Artisanat{"Maroquinerie", 4, &frm_Configuration::txt_NiveauMaroquinerie,
-              &frm_Configuration::txt_MargeMaroquinerie},
-    Artisanat{"Menuiserie", 3, &frm_Configuration::txt_NiveauMenuiserie, nullptr},
-    Artisanat{"Métallurgie", 2, &frm_Configuration::txt_NiveauMétallurgie,
-              &frm_Configuration::txt_MargeMétallurgie},
-    Artisanat{"Tissage", 1, &frm_Configuration::txt_NiveauTissage,
-              &frm_Configuration::txt_MargeTissage},
-};
-
-const Artisanat& Chercher(const std::string& Nom)
+// What a trade makes for horses.
+struct ObjetDeSellerie
 {
-    for (const Artisanat& Each : Artisanats)
-        if (Nom == Each.Nom)
-            return Each;
-    throw Failure(FailureKind::Program, Nom);
-}
-
-// An entry of the menu, which leads a trade to one of its two jobs.
-struct EntréeMétier
-{
-    const char* Texte; // its key too
+    const char* Entrée; // of the menu
     const char* Métier;
-    const char* Tip;
-};
-
-constexpr std::array Recyclages{
-    EntréeMétier{"Maroquinerie", "Maroquinerie", "Travail du cuir."},
-    EntréeMétier{"Menuiserie", "Menuiserie", "Travail du bois."},
-    EntréeMétier{"Métallurgie", "Métallurgie", "Travail du métal."},
-    EntréeMétier{"Tissage", "Tissage", "Travail du tissu."},
 };
 
 constexpr std::array Selleries{
-    EntréeMétier{"Bardes", "Métallurgie", "Métallurgie."},
-    EntréeMétier{"Carapaçons", "Tissage", "Tissage."},
-    EntréeMétier{"Sacoches", "Maroquinerie", "Maroquinerie."},
+    ObjetDeSellerie{"Bardes", "Métallurgie"},
+    ObjetDeSellerie{"Carapaçons", "Tissage"},
+    ObjetDeSellerie{"Sacoches", "Maroquinerie"},
 };
 
-template <class Entries>
-const EntréeMétier* Chercher(const Entries& Entrées, const std::string& Texte)
+std::vector<SideMenu::Item> EntréesRecyclage()
 {
-    for (const EntréeMétier& Each : Entrées)
-        if (Texte == Each.Texte)
-            return &Each;
-    return nullptr;
+    std::vector<SideMenu::Item> Entrées;
+    for (const char* Each : Recyclages)
+        Entrées.push_back(EntréeMétier(Each));
+    return Entrées;
 }
 
-template <class Entries>
-std::vector<SideMenu::Item> Items(const Entries& Entrées)
+std::vector<SideMenu::Item> EntréesSellerie()
 {
-    std::vector<SideMenu::Item> Result;
-    Result.reserve(Entrées.size());
-    for (const EntréeMétier& Each : Entrées) // the small icons count from 0
-        Result.push_back({Each.Texte, Each.Texte, Chercher(Each.Métier).Image - 1, Each.Tip});
-    return Result;
+    std::vector<SideMenu::Item> Entrées;
+    for (const ObjetDeSellerie& Each : Selleries)
+        Entrées.push_back({Each.Entrée, Each.Entrée, EntréeMétier(Each.Métier).Icon,
+                           std::string(Each.Métier) + "."});
+    return Entrées;
 }
 
 } // namespace
@@ -126,9 +93,9 @@ void frm_ArtisanatsSecondaires::Load()
     ConstruireMenu(
         Bar_Menus, App.Feuilles.Get<frm_Configuration>(),
         {{"Recyclage", "Recyclage",
-          "Sélection d'un artisanat secondaire pour recycler des matériaux.", Items(Recyclages)},
+          "Sélection d'un artisanat secondaire pour recycler des matériaux.", EntréesRecyclage()},
          {"Sellerie", "Sellerie", "Fabrication des objets pour équiper les chevaux.",
-          Items(Selleries)}});
+          EntréesSellerie()}});
 }
 
 void frm_ArtisanatsSecondaires::WayBack()
@@ -150,34 +117,32 @@ bool frm_ArtisanatsSecondaires::EnRecyclage() const
 void frm_ArtisanatsSecondaires::Bar_Menus_ItemClick(const SideMenu::Item& Entrée)
 {
     if (Entrée.Text == VoirPanier) {
-        App.Feuilles.Touch("frm_Panier").Show();
-    } else if (const auto* Recyclage = Chercher(Recyclages, Entrée.Text)) {
-        PrendreArtisanat(Recyclage->Métier);
-        PréparerRecyclage();
-        AfficherRecyclage(true);
-        AfficherVente(false);
-    } else if (const auto* Sellerie = Chercher(Selleries, Entrée.Text)) {
+        OuvrirPanier(App);
+    } else if (const auto* Sellerie = FindRow(Selleries, &ObjetDeSellerie::Entrée, Entrée.Text)) {
         PrendreArtisanat(Sellerie->Métier);
         PréparerSellerie();
         AfficherRecyclage(false);
         AfficherVente(true);
+    } else {
+        PrendreArtisanat(Entrée.Text);
+        PréparerRecyclage();
+        AfficherRecyclage(true);
+        AfficherVente(false);
     }
     ViderChamps();
 }
 
 void frm_ArtisanatsSecondaires::PrendreArtisanat(const std::string& Nom)
 {
-    auto& Configuration = App.Feuilles.Get<frm_Configuration>();
-    const Artisanat& Métier = Chercher(Nom);
+    const auto& Configuration = App.Feuilles.Get<frm_Configuration>();
     lbl_Artisanat.Caption = Nom;
-    pct_Artisanat.Picture = Configuration.imglst_CraftGrand.Picture(Métier.Image);
-    if (Métier.Marge != nullptr)
-        LireRéglage(Configuration.*Métier.Marge, Marge);
+    pct_Artisanat.Picture = Configuration.ImageMétier(Nom);
+    LireRéglage(Configuration.Réglages(Nom).Marge, Marge);
 }
 
 void frm_ArtisanatsSecondaires::LireNiveauCraft()
 {
-    LireRéglage(App.Feuilles.Get<frm_Configuration>().*Chercher(lbl_Artisanat.Caption).Niveau,
+    LireRéglage(App.Feuilles.Get<frm_Configuration>().Réglages(lbl_Artisanat.Caption).Niveau,
                 NiveauCraft);
 }
 

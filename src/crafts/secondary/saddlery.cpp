@@ -1,6 +1,7 @@
 #include "app/queries.h"
 #include "base/typography.h"
 #include "crafts/common/lecture.h"
+#include "crafts/common/sale.h"
 #include "crafts/secondary/frm_artisanats_secondaires.h"
 #include "settings/level_indicator.h"
 #include "toolkit/calculation.h"
@@ -82,7 +83,7 @@ void frm_ArtisanatsSecondaires::CalculerSellerie()
     Calculate({&txt_PrixCoûtant, &txt_SelleriePrixCoûtant, &txt_SelleriePrixVente}, [&] {
         const Montant Coût = Matériaux.Somme();
         const Montant Total = I(txt_SellerieNbObjets) * Coût;
-        const double Vente = D(Total) * (1 + Marge / 100.0);
+        const double Vente = AvecMarge(Total, Marge);
 
         txt_PrixCoûtant.Text = T(Coût);
         txt_SelleriePrixCoûtant.Text = T(Total);
