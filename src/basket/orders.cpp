@@ -45,8 +45,13 @@ void RemplirCommandes(Application& App)
     Commandes.Text = NouvelleCommande;
 }
 
-void AjouterLigne(Application& App, const LigneCommande& Ligne)
+void AjouterAuPanier(Application& App, bool EstChoisi, const LigneCommande& Ligne,
+                     const char* SansChoix)
 {
+    if (!EstChoisi) {
+        App.MsgBox(SansChoix);
+        return;
+    }
     if (Ligne.PrixCoûtant.Stale || Ligne.PrixVente.Stale) {
         App.MsgBox(Typeset(std::string("Les prix affichés ne sont pas à jour : ") +
                            (AUneSaisieFausse(Ligne.PrixVente.Owner())

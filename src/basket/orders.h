@@ -25,8 +25,10 @@ struct LigneCommande
     const TextBox& PrixVente;
 };
 
-// Adds a row under the order in hand and the current realm; prices that are stale are refused with
-// a message. The basket screen isn't refreshed.
-void AjouterLigne(Application& App, const LigneCommande& Ligne);
+// What "Ajouter au panier" does on every craft screen: a row under the order in hand and the
+// current realm. Without a choice, or with prices that are stale, a message instead. The basket
+// screen isn't refreshed.
+void AjouterAuPanier(Application& App, bool EstChoisi, const LigneCommande& Ligne,
+                     const char* SansChoix = "Aucun objet sélectionné.");
 
 } // namespace orvane

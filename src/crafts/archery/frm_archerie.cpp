@@ -89,12 +89,10 @@ void frm_Archerie::CalculerPrixCarquois()
 
 void frm_Archerie::cmd_AjouterPanier_Click()
 {
-    if (cbo_Objet.Text == "") {
-        App.MsgBox("Aucun carquois sélectionné.");
-        return;
-    }
-    AjouterLigne(App, {"Carquois de " + cbo_Type.Text + " - " + cbo_Objet.Text, txt_NbObjet,
-                       txt_PrixCoûtant, txt_PrixVente});
+    AjouterAuPanier(App, cbo_Objet.Text != "",
+                    {"Carquois de " + cbo_Type.Text + " - " + cbo_Objet.Text, txt_NbObjet,
+                     txt_PrixCoûtant, txt_PrixVente},
+                    "Aucun carquois sélectionné.");
 }
 
 } // namespace orvane

@@ -120,12 +120,9 @@ void frm_ArmesLégendaires::EffacerArme()
 
 void frm_ArmesLégendaires::cmd_AjouterPanier_Click()
 {
-    if (cbo_Arme.Text == "" || cbo_Type.Text == "") {
-        App.MsgBox("Aucun objet sélectionné.");
-        return;
-    }
-    AjouterLigne(App, {cbo_Arme.Text + " " + cbo_Type.Text, txt_NbObjet, txt_PrixCoûtantTotal,
-                       txt_PrixVente});
+    AjouterAuPanier(
+        App, cbo_Arme.Text != "" && cbo_Type.Text != "",
+        {cbo_Arme.Text + " " + cbo_Type.Text, txt_NbObjet, txt_PrixCoûtantTotal, txt_PrixVente});
 }
 
 } // namespace orvane

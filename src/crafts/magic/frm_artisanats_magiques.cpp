@@ -140,22 +140,17 @@ void frm_ArtisanatsMagiques::Bar_Menus_ItemClick(const SideMenu::Item& Entrée)
 void frm_ArtisanatsMagiques::cmd_AjouterPanier_Click()
 {
     if (lbl_Artisanat.Caption == "Alchimie") {
-        if (cbo_Objet.Text == "") {
-            App.MsgBox("Aucun objet sélectionné.");
-            return;
-        }
         const bool Teinture = cbo_Produit.Text == "Teintures";
         const std::string Détail = Teinture ? cbo_ProduitDétaillé.Text + " : " : std::string();
-        AjouterLigne(App, {Détail + cbo_Objet.Text, txt_NbObjetAlchimie, txt_PrixCoûtantAlchimie,
-                           txt_PrixVenteAlchimie});
+        AjouterAuPanier(App, cbo_Objet.Text != "",
+                        {Détail + cbo_Objet.Text, txt_NbObjetAlchimie, txt_PrixCoûtantAlchimie,
+                         txt_PrixVenteAlchimie});
     } else {
-        if (cbo_DegréGemmes.Text == "") {
-            App.MsgBox("Aucune gemme sélectionnée.");
-            return;
-        }
-        AjouterLigne(
-            App, {cbo_TypeGemmes.Text + " " + cbo_SousTypeGemmes.Text + " " + cbo_DegréGemmes.Text,
-                  txt_ArcanesNbObjet, txt_ArcanesPrixCoûtantTotal, txt_ArcanesPrixVenteTotal});
+        AjouterAuPanier(
+            App, cbo_DegréGemmes.Text != "",
+            {cbo_TypeGemmes.Text + " " + cbo_SousTypeGemmes.Text + " " + cbo_DegréGemmes.Text,
+             txt_ArcanesNbObjet, txt_ArcanesPrixCoûtantTotal, txt_ArcanesPrixVenteTotal},
+            "Aucune gemme sélectionnée.");
     }
 }
 

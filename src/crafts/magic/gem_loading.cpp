@@ -1,5 +1,6 @@
 #include "app/queries.h"
 #include "base/number_text.h"
+#include "crafts/common/degree_level.h"
 #include "crafts/magic/frm_artisanats_magiques.h"
 #include "settings/level_indicator.h"
 #include "toolkit/calculation.h"
@@ -55,7 +56,7 @@ void frm_ArtisanatsMagiques::ChargerGemme()
     Ingrédients[2].Nom.Text = Gemme.Text(Matériau(1, "Nom"));
     txt_ArcanesCoefQté2.Text = Gemme.Text("CoefQté2");
     Ingrédients[3].Nom.Text = Gemme.Text(Matériau(2, "Nom"));
-    lbl_NiveauAlchimie.Caption = T(Gemme.Number("NiveauCraft") + Entier16(100 * NuméroDegré));
+    lbl_NiveauAlchimie.Caption = NiveauAuDegré(Gemme, NuméroDegré);
     Ingrédients[1].Qté.Text = "1";
     Ingrédients[2].Qté.Text = std::to_string(Entier16(1 + I(txt_ArcanesCoefQté2) * NuméroDegré));
     Ingrédients[3].Qté.Text = std::to_string(Entier16(1 + NuméroDegré));

@@ -2,6 +2,7 @@
 #include "base/notation.h"
 #include "base/number_text.h"
 #include "base/text.h"
+#include "crafts/common/degree_level.h"
 #include "crafts/common/lecture.h"
 #include "crafts/common/material_codes.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
@@ -82,7 +83,7 @@ void frm_ArtisanatsManuels::LireDegré()
 
 void frm_ArtisanatsManuels::LireNiveaux(const Recordset& Objet)
 {
-    lbl_Niveau.Caption = T(Objet.Number("NiveauCraft") + Entier16(100 * NuméroDegré));
+    lbl_Niveau.Caption = NiveauAuDegré(Objet, NuméroDegré);
     txt_Niveau.Text = TexteNiveau(Objet.Number("NiveauObjet"), NuméroDegré);
 }
 

@@ -1,4 +1,5 @@
 #include "app/queries.h"
+#include "base/table.h"
 #include "base/text.h"
 #include "crafts/common/alchemy_object.h"
 #include "crafts/common/lecture.h"
@@ -41,30 +42,14 @@ constexpr std::array SuffixesDegrés{
     SuffixeDegré{"en arcania", " d'arcanium"},
 };
 
-const TypeDégats* ChercherType(const std::string& Type)
-{
-    for (const TypeDégats& Each : TypesDégats)
-        if (Type == Each.Type)
-            return &Each;
-    return nullptr;
-}
-
-const SuffixeDegré* ChercherDegré(const std::string& Degré)
-{
-    for (const SuffixeDegré& Each : SuffixesDegrés)
-        if (Degré == Each.Degré)
-            return &Each;
-    return nullptr;
-}
-
 } // namespace
 
 void frm_ArtisanatsManuels::cbo_TypeDégats_Click()
 {
-    const TypeDégats* Type = ChercherType(cbo_TypeDégats.Text);
+    const TypeDégats* Type = FindRow(TypesDégats, &TypeDégats::Type, cbo_TypeDégats.Text);
     if (Type != nullptr)
         txt_ObjetSup.Text = txt_ObjetSupBis.Text + Type->Suffixe;
-    const SuffixeDegré* Degré = ChercherDegré(cbo_Degré.Text);
+    const SuffixeDegré* Degré = FindRow(SuffixesDegrés, &SuffixeDegré::Degré, cbo_Degré.Text);
     if (Degré == nullptr) {
         App.MsgBox("Il faut d'abord sélectionner un degré.");
         txt_ObjetSup.Text = txt_ObjetSupBis.Text;

@@ -1,4 +1,5 @@
 #include "app/queries.h"
+#include "base/table.h"
 #include "base/text.h"
 #include "crafts/common/lecture.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
@@ -27,14 +28,6 @@ constexpr std::array RèglesDegrés{
     RègleDegrés{"S", " WHERE NuméroDegré=0"}, RègleDegrés{"E", " WHERE NuméroDegré=9"},
     RègleDegrés{"A", " WHERE NuméroDegré>7"},
 };
-
-const RègleDegrés* Chercher(const std::string& Sup)
-{
-    for (const RègleDegrés& Each : RèglesDegrés)
-        if (Sup == Each.Sup)
-            return &Each;
-    return nullptr;
-}
 
 } // namespace
 
@@ -168,7 +161,7 @@ void frm_ArtisanatsManuels::PréparerTypeDégats()
 void frm_ArtisanatsManuels::txt_Sup_Change()
 {
     cbo_Degré.Clear();
-    const RègleDegrés* Règle = Chercher(txt_Sup.Text);
+    const RègleDegrés* Règle = FindRow(RèglesDegrés, &RègleDegrés::Sup, txt_Sup.Text);
     ShowAll({&lbl_Degré, &cbo_Degré}, Règle != nullptr);
     if (Règle == nullptr) // emptied, or a letter without degrees: no database is needed
         return;

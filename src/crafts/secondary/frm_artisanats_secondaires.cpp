@@ -198,12 +198,9 @@ void frm_ArtisanatsSecondaires::txt_Matériaux_Change(LigneMatériau& Ligne)
 
 void frm_ArtisanatsSecondaires::cmd_AjouterPanier_Click()
 {
-    if (cbo_ObjetSecondaire.Text == "") {
-        App.MsgBox("Aucun objet sélectionné.");
-        return;
-    }
-    AjouterLigne(App, {cbo_ObjetSecondaire.Text, txt_SellerieNbObjets, txt_SelleriePrixCoûtant,
-                       txt_SelleriePrixVente});
+    AjouterAuPanier(App, cbo_ObjetSecondaire.Text != "",
+                    {cbo_ObjetSecondaire.Text, txt_SellerieNbObjets, txt_SelleriePrixCoûtant,
+                     txt_SelleriePrixVente});
 }
 
 } // namespace orvane

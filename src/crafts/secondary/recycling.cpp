@@ -1,6 +1,7 @@
 #include "app/queries.h"
 #include "base/number_text.h"
 #include "base/text.h"
+#include "crafts/common/degree_level.h"
 #include "crafts/common/lecture.h"
 #include "crafts/common/material_codes.h"
 #include "crafts/secondary/frm_artisanats_secondaires.h"
@@ -97,7 +98,7 @@ void frm_ArtisanatsSecondaires::LireDegré()
     MontrerIcône(Objet);
     ColonneRevente = "PrixReventeDegré" + std::to_string(NuméroDegré);
     txt_PrixRevente.Text = Objet.Text(ColonneRevente);
-    lbl_Niveau.Caption = T(Objet.Number("NiveauCraft") + Entier16(NuméroDegré * 100));
+    lbl_Niveau.Caption = NiveauAuDegré(Objet, NuméroDegré);
 }
 
 void frm_ArtisanatsSecondaires::CalculerCoût()
