@@ -94,6 +94,8 @@ class frm_ArtisanatsSecondaires : public Feuille
     bool EnSellerie() const;
     bool EnRecyclage() const;
     void Bar_Menus_ItemClick(const SideMenu::Item& Entrée);
+    void cbo_ObjetSecondaire_Click();
+    void cbo_Degré_Click(); // of a degree, or of a filter
     void PrendreArtisanat(const std::string& Nom);
     void LireNiveauCraft();
     void ViderListes();
