@@ -1,6 +1,7 @@
 #include "pictures/quantizer.h"
 #include "pictures/writers.h"
 
+#include <algorithm>
 #include <array>
 #include <gif_lib.h>
 #include <memory>
@@ -37,14 +38,15 @@ struct FreeMap
 };
 
 // The format wants a power of two; the rest of the table is black.
-std::unique_ptr<ColorMapObject, FreeMap> MapOf(const std::vector<QRgb>& Colours)
+std::unique_ptr<ColorMapObject, FreeMap> MapOf(const QList<QRgb>& Colours)
 {
     std::vector<GifColorType> Entries(std::size_t{1}
                                       << GifBitSize(static_cast<int>(Colours.size())));
-    for (std::size_t i = 0; i < Colours.size(); ++i)
-        Entries[i] = {static_cast<GifByteType>(qRed(Colours[i])),
-                      static_cast<GifByteType>(qGreen(Colours[i])),
-                      static_cast<GifByteType>(qBlue(Colours[i]))};
+    std::ranges::transform(Colours, Entries.begin(), [](QRgb Colour) {
+        return GifColorType{static_cast<GifByteType>(qRed(Colour)),
+                            static_cast<GifByteType>(qGreen(Colour)),
+                            static_cast<GifByteType>(qBlue(Colour))};
+    });
     return std::unique_ptr<ColorMapObject, FreeMap>(
         GifMakeMapObject(static_cast<int>(Entries.size()), Entries.data()));
 }
@@ -62,9 +64,9 @@ void PutTransparency(GifFileType* Gif)
 
 QByteArray GifBytes(const QImage& Image)
 {
-    IndexedPicture Picture = Quantize(Image);
-    const int Width = Picture.Size.width(), Height = Picture.Size.height();
-    const auto Map = MapOf(Picture.Colours);
+    QImage Picture = Quantized(Image);
+    const int Width = Picture.width(), Height = Picture.height();
+    const auto Map = MapOf(Picture.colorTable());
     QByteArray Result;
     int Error = 0;
     std::unique_ptr<GifFileType, CloseGif> Gif(EGifOpen(&Result, &AppendTo, &Error));
@@ -76,9 +78,7 @@ QByteArray GifBytes(const QImage& Image)
     PutTransparency(Gif.get());
     Check(EGifPutImageDesc(Gif.get(), 0, 0, Width, Height, false, nullptr));
     for (int y = 0; y < Height; ++y)
-        Check(EGifPutLine(
-            Gif.get(),
-            &Picture.Pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(Width)], Width));
+        Check(EGifPutLine(Gif.get(), Picture.scanLine(y), Width));
     Check(EGifCloseFile(Gif.release(), &Error));
     return Result;
 }

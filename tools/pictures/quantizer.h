@@ -2,19 +2,10 @@
 
 #include <QImage>
 
-#include <vector>
-
 namespace orvane::pictures {
 
-// A picture of at most 256 colours. Entry 0 of Colours stands for transparency.
-struct IndexedPicture
-{
-    QSize Size;
-    std::vector<QRgb> Colours;
-    std::vector<unsigned char> Pixels;
-};
-
-// Pixels of alpha 0 become entry 0; the alpha of the others is ignored.
-IndexedPicture Quantize(const QImage& Image);
+// The same picture with a table of at most 256 colours (Format_Indexed8). Pixels of alpha 0 become
+// entry 0; all others must be opaque.
+QImage Quantized(const QImage& Image);
 
 } // namespace orvane::pictures
