@@ -1,7 +1,6 @@
 // Renders the drawings of a picture folder to the files that ship beside the program.
 
 #include "pictures/drawing.h"
-#include "pictures/effects.h"
 #include "pictures/skins.h"
 #include "pictures/writers.h"
 
@@ -27,7 +26,7 @@ QByteArray Encoded(const Picture& P, const std::vector<QImage>& Images)
     const QString Suffix = QFileInfo(P.Output).suffix();
     const QImage& Image = Images.front();
     if (Suffix == QLatin1String("gif"))
-        return GifBytes(WithHardEdges(Image));
+        return GifBytes(Image);
     if (Suffix == QLatin1String("ico"))
         return IconBytes(Images);
     if (Suffix == QLatin1String("png"))

@@ -1,16 +1,16 @@
 #include "pictures/drawing.h"
 
-#include "pictures/effects.h"
 #include "pictures/lettering.h"
 
 #include <QColor>
 #include <QDir>
-#include <QFileInfo>
+#include <QFile>
 #include <QPainter>
 #include <QRegularExpression>
 #include <QSet>
 #include <QSvgRenderer>
 
+#include <algorithm>
 #include <cmath>
 
 namespace orvane::pictures {
@@ -72,9 +72,10 @@ QString WithWords(const Picture& P, const QString& Text)
 
 QString ReadDrawing(const QString& Folder, const Picture& P, const QString& Name)
 {
-    if (!QFileInfo(QDir(Folder).filePath(Name)).isFile())
-        throw Fault(P, QStringLiteral("« %1 » est introuvable").arg(Name));
-    return QString::fromUtf8(ReadWholeFile(QDir(Folder).filePath(Name)));
+    QFile File(QDir(Folder).filePath(Name));
+    if (!File.open(QIODevice::ReadOnly))
+        throw Fault(P, QStringLiteral("« %1 » est introuvable ou illisible").arg(Name));
+    return QString::fromUtf8(File.readAll());
 }
 
 // The plate's drawing holds {dessin} where the object goes.
@@ -110,11 +111,8 @@ void RefuseStretching(const Picture& P, const QRectF& Box)
 
 bool IsBlank(const QImage& Image)
 {
-    for (int y = 0; y < Image.height(); ++y)
-        for (int x = 0; x < Image.width(); ++x)
-            if (qAlpha(Image.pixel(x, y)) != 0)
-                return false;
-    return true;
+    return std::all_of(Image.constBits(), Image.constBits() + Image.sizeInBytes(),
+                       [](uchar Byte) { return Byte == 0; });
 }
 
 } // namespace
@@ -183,7 +181,7 @@ QImage Drawings::Render(const Picture& P) const
     const QImage Image = Plain(P);
     if (!P.Written.Words.isEmpty())
         return Written(P, Image);
-    return P.Ombre ? WithShadow(Image) : Image;
+    return Image;
 }
 
 } // namespace orvane::pictures

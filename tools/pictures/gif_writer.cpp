@@ -11,6 +11,8 @@ namespace orvane::pictures {
 
 namespace {
 
+constexpr int LeastAlpha = 128;
+
 void Check(int Status)
 {
     if (Status == GIF_ERROR)
@@ -51,6 +53,18 @@ std::unique_ptr<ColorMapObject, FreeMap> MapOf(const QList<QRgb>& Colours)
         GifMakeMapObject(static_cast<int>(Entries.size()), Entries.data()));
 }
 
+// Pixels that are at least half there, whole.
+QImage WithHardEdges(const QImage& Image)
+{
+    QImage Result = Image.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < Result.height(); ++y)
+        for (int x = 0; x < Result.width(); ++x) {
+            const QRgb Pixel = Result.pixel(x, y);
+            Result.setPixel(x, y, qAlpha(Pixel) < LeastAlpha ? 0 : Pixel | 0xFF000000);
+        }
+    return Result;
+}
+
 void PutTransparency(GifFileType* Gif)
 {
     const GraphicsControlBlock Block{DISPOSAL_UNSPECIFIED, false, 0, 0};
@@ -64,7 +78,7 @@ void PutTransparency(GifFileType* Gif)
 
 QByteArray GifBytes(const QImage& Image)
 {
-    QImage Picture = Quantized(Image);
+    QImage Picture = Quantized(WithHardEdges(Image));
     const int Width = Picture.width(), Height = Picture.height();
     const auto Map = MapOf(Picture.colorTable());
     QByteArray Result;

@@ -1,8 +1,6 @@
 #include "pictures/manifest.h"
 
 #include <QDir>
-#include <QFileInfo>
-#include <QMap>
 #include <QSet>
 
 #include <algorithm>
@@ -16,7 +14,6 @@ constexpr int LargestSide = 2048;
 struct Variant
 {
     std::vector<Palette> Each;
-    bool Ombre = false;
     bool Plaque = false;
     bool Double = false;
 };
@@ -25,9 +22,7 @@ Variant VariantOf(const TableRow& Row, const std::vector<Palette>& Palettes)
 {
     Variant Result;
     for (const QString& Word : Row.Cells["variant"].split(' ', Qt::SkipEmptyParts)) {
-        if (Word == QLatin1String("ombre"))
-            Result.Ombre = true;
-        else if (Word == QLatin1String("plaque"))
+        if (Word == QLatin1String("plaque"))
             Result.Plaque = true;
         else if (Word == QLatin1String("x2"))
             Result.Double = true;
@@ -58,7 +53,6 @@ std::vector<Picture> PicturesOf(const TableRow& Row, const std::vector<Palette>&
                   ForPalette(Row.Cells["source"], Colours),
                   Size,
                   Colours,
-                  V.Ombre,
                   V.Plaque};
         RefuseOutsidePath(Row, P.Output);
         RefuseOutsidePath(Row, P.Source);

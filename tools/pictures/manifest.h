@@ -33,7 +33,6 @@ struct Picture
     QString Source;
     QSize Size;
     Palette Colours;
-    bool Ombre = false;  // a drop shadow
     bool Plaque = false; // on the plate that lies behind objects
     int Quality = 92;    // of a JPEG, out of 100
     Lettering Written = {};

@@ -1,6 +1,5 @@
 #include "pictures/table.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 namespace orvane::pictures {
@@ -26,14 +25,6 @@ TableRow RowOf(const QStringList& Columns, const tools::TsvTable::Row& Given)
 }
 
 } // namespace
-
-QByteArray ReadWholeFile(const QString& Path)
-{
-    QFile File(Path);
-    if (!QFileInfo(Path).isFile() || !File.open(QIODevice::ReadOnly))
-        throw SourceError(QStringLiteral("%1 : fichier introuvable ou illisible").arg(Path));
-    return File.readAll();
-}
 
 Table ReadTable(const QString& Path, const QStringList& RequiredColumns)
 {

@@ -30,8 +30,6 @@ struct Table
     std::vector<TableRow> Rows;
 };
 
-QByteArray ReadWholeFile(const QString& Path);
-
 // Empty lines and lines that begin with # are skipped.
 Table ReadTable(const QString& Path, const QStringList& RequiredColumns);
 

@@ -2,8 +2,6 @@
 
 #include "pictures/manifest.h"
 
-#include <QImage>
-
 #include <map>
 #include <tuple>
 

@@ -7,7 +7,8 @@
 
 namespace orvane::pictures {
 
-// The picture must already be on its ground: alpha 0 is transparent, anything else opaque.
+// Each pixel is there or isn't, in its own colour, so that edges stand on light and dark grounds
+// alike.
 QByteArray GifBytes(const QImage& Image);
 
 // A container with one PNG for each size.
