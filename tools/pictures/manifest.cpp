@@ -9,8 +9,6 @@ namespace orvane::pictures {
 
 namespace {
 
-constexpr int LargestSide = 2048;
-
 struct Variant
 {
     std::vector<Palette> Each;
@@ -111,8 +109,8 @@ void RefuseTwice(const std::vector<Picture>& Pictures)
 std::vector<Palette> ReadPalettes(const QString& Folder)
 {
     std::vector<Palette> Result;
-    const Table Rows = ReadTable(QDir(Folder).filePath("palettes.tsv"), {"palette", "royaume"});
-    for (const TableRow& Row : Rows.Rows)
+    for (const TableRow& Row :
+         ReadTable(QDir(Folder).filePath("palettes.tsv"), {"palette", "royaume"}))
         Result.push_back(
             {Row.Cells["palette"], Row.Cells["royaume"] != QLatin1String("-"), Row.Cells});
     return Result;
@@ -121,9 +119,8 @@ std::vector<Palette> ReadPalettes(const QString& Folder)
 std::vector<Picture> ReadManifest(const QString& Folder, const std::vector<Palette>& Palettes)
 {
     std::vector<Picture> Result;
-    const Table Rows = ReadTable(QDir(Folder).filePath("manifest.tsv"),
-                                 {"output", "source", "width", "height", "variant"});
-    for (const TableRow& Row : Rows.Rows)
+    for (const TableRow& Row : ReadTable(QDir(Folder).filePath("manifest.tsv"),
+                                         {"output", "source", "width", "height", "variant"}))
         std::ranges::copy(PicturesOf(Row, Palettes), std::back_inserter(Result));
     return Result;
 }

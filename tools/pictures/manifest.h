@@ -42,6 +42,7 @@ QString ForPalette(QString Text, const Palette& Colours);
 // The same picture at double size, for dense screens: "name@2x.ext".
 Picture AtTwice(Picture P);
 
+inline constexpr int LargestSide = 2048;
 int SideOf(const TableRow& Row, const QString& Column);
 void RefuseOutsidePath(const TableRow& Row, const QString& Path);
 void RefuseTwice(const std::vector<Picture>& Pictures);

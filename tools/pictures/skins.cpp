@@ -39,23 +39,14 @@ struct Sources
     std::vector<Palette> Palettes;
     std::vector<Skin> Skins;
     std::vector<ImageFolder> Folders;
-    Table Backgrounds;
-    Table Buttons;
+    std::vector<TableRow> Backgrounds;
+    std::vector<TableRow> Buttons;
 };
 
-Table ReadSkinTable(const QString& Folder, const QString& Name, const QStringList& Columns)
+std::vector<TableRow> ReadSkinTable(const QString& Folder, const QString& Name,
+                                    const QStringList& Columns)
 {
     return ReadTable(QDir(Folder).filePath("skins/" + Name), Columns);
-}
-
-double NumberOf(const TableRow& Row, const QString& Column)
-{
-    bool IsNumber = false;
-    const double Result = Row.Cells[Column].toDouble(&IsNumber);
-    if (!IsNumber || Result < 0)
-        throw SourceError(
-            QStringLiteral("%1 : « %2 » n’est pas un nombre").arg(Row.Place, Row.Cells[Column]));
-    return Result;
 }
 
 // The screens that the skin's layouts say are alike at every resolution, without their prefix.
@@ -65,8 +56,7 @@ QStringList CommonScreens(const QString& Folder, const QString& Skin)
     QStringList Result;
     for (const TableRow& Row :
          ReadTable(QDir(Folder).filePath("../skins/" + Skin + "/RésolutionCommune.tsv"),
-                   {"Nom", "Commun"})
-             .Rows)
+                   {"Nom", "Commun"}))
         if (Row.Cells["Commun"] == QStringLiteral("O"))
             Result << Row.Cells["Nom"].mid(Prefix.size());
     return Result;
@@ -74,15 +64,16 @@ QStringList CommonScreens(const QString& Folder, const QString& Skin)
 
 std::vector<Skin> SkinsOf(const QString& Folder)
 {
-    const Table Colours = ReadSkinTable(Folder, "palettes.tsv", {"palette"});
-    const Table Skins = ReadSkinTable(Folder, "skins.tsv", {"skin", "palette", "drawings", "font"});
+    const std::vector<TableRow> Colours = ReadSkinTable(Folder, "palettes.tsv", {"palette"});
+    const std::vector<TableRow> Skins =
+        ReadSkinTable(Folder, "skins.tsv", {"skin", "palette", "drawings", "font"});
     std::vector<Skin> Result;
-    for (const TableRow& Row : Skins.Rows) {
+    for (const TableRow& Row : Skins) {
         const auto Same = [&](const TableRow& Each) {
             return Each.Cells["palette"] == Row.Cells["palette"];
         };
-        const auto Found = std::ranges::find_if(Colours.Rows, Same);
-        if (Found == Colours.Rows.end())
+        const auto Found = std::ranges::find_if(Colours, Same);
+        if (Found == Colours.end())
             throw SourceError(QStringLiteral("%1 : palette inconnue « %2 »")
                                   .arg(Row.Place, Row.Cells["palette"]));
         RefuseOutsidePath(Row, Row.Cells["skin"]);
@@ -95,16 +86,16 @@ std::vector<Skin> SkinsOf(const QString& Folder)
 std::vector<ImageFolder> FoldersOf(const QString& Folder)
 {
     std::vector<ImageFolder> Result;
-    for (const TableRow& Row : ReadSkinTable(Folder, "resolutions.tsv", {"folder", "factor"}).Rows)
-        Result.push_back({Row.Cells["folder"], NumberOf(Row, "factor")});
+    for (const TableRow& Row : ReadSkinTable(Folder, "resolutions.tsv", {"folder", "factor"}))
+        Result.push_back({Row.Cells["folder"], NumberOf(Row, "factor", 0.1, 10)});
     return Result;
 }
 
 void RefuseUnknownCommon(const Sources& From)
 {
     QSet<QString> Screens{NoneCell};
-    for (const Table* Each : {&From.Backgrounds, &From.Buttons})
-        for (const TableRow& Row : Each->Rows)
+    for (const auto* Each : {&From.Backgrounds, &From.Buttons})
+        for (const TableRow& Row : *Each)
             Screens.insert(Row.Cells["screen"]);
     for (const Skin& Each : From.Skins)
         for (const QString& Screen : Each.Common)
@@ -165,9 +156,9 @@ QString EmblemOf(const TableRow& Row)
         return {};
     return QStringLiteral("<g transform=\"translate(%1 %2) scale(%3)\">"
                           "{inclure:skins/emblemes/%4.svg}</g>")
-        .arg(NumberOf(Row, "x"))
-        .arg(NumberOf(Row, "y"))
-        .arg(NumberOf(Row, "side") / EmblemSide)
+        .arg(NumberOf(Row, "x", 0, LargestSide))
+        .arg(NumberOf(Row, "y", 0, LargestSide))
+        .arg(NumberOf(Row, "side", 1, LargestSide) / EmblemSide)
         .arg(Row.Cells["emblem"]);
 }
 
@@ -184,7 +175,7 @@ Picture AsButton(Picture P, const TableRow& Row, const Skin& Look)
     const QString Glyph = Row.Cells["glyph"];
     P.Written = {Row.Cells["words"], Look.Family,
                  Glyph == NoneCell ? QString() : "skins/glyphes/" + Glyph + ".svg",
-                 NumberOf(Row, "letters")};
+                 NumberOf(Row, "letters", 1, 100)};
     return P;
 }
 
@@ -199,11 +190,12 @@ std::vector<Picture> BothDensities(const std::vector<Picture>& Pictures)
 }
 
 template <typename Kind>
-void Append(std::vector<Picture>& Result, const Sources& From, const Table& Rows, Kind Finished)
+void Append(std::vector<Picture>& Result, const Sources& From, const std::vector<TableRow>& Rows,
+            Kind Finished)
 {
     for (const Skin& Look : From.Skins)
         for (const ImageFolder& Images : From.Folders)
-            for (const TableRow& Row : Rows.Rows) {
+            for (const TableRow& Row : Rows) {
                 if (Look.Common.contains(Row.Cells["screen"]) != (Images.Name == CommonFolder))
                     continue;
                 for (const Palette& Realm : RealmsOf(From, Row))

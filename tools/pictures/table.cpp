@@ -26,18 +26,31 @@ TableRow RowOf(const QStringList& Columns, const tools::TsvTable::Row& Given)
 
 } // namespace
 
-Table ReadTable(const QString& Path, const QStringList& RequiredColumns)
+std::vector<TableRow> ReadTable(const QString& Path, const QStringList& RequiredColumns)
 {
     const tools::TsvTable Given = tools::ReadTsv(Path.toStdString());
-    Table Result;
+    QStringList Columns;
     for (const std::string& Column : Given.Columns)
-        Result.Columns << Composed(Column);
+        Columns << Composed(Column);
     for (const QString& Column : RequiredColumns)
-        if (!Result.Columns.contains(Column))
+        if (!Columns.contains(Column))
             throw SourceError(QStringLiteral("%1 : il manque la colonne « %2 »")
                                   .arg(QFileInfo(Path).fileName(), Column));
+    std::vector<TableRow> Result;
     for (const tools::TsvTable::Row& Row : Given.Rows)
-        Result.Rows.push_back(RowOf(Result.Columns, Row));
+        Result.push_back(RowOf(Columns, Row));
+    return Result;
+}
+
+double NumberOf(const TableRow& Row, const QString& Column, double Least, double Most)
+{
+    bool IsNumber = false;
+    const double Result = Row.Cells[Column].toDouble(&IsNumber);
+    if (!IsNumber || Result < Least || Result > Most)
+        throw SourceError(QStringLiteral("%1 : « %2 » : nombre de %3 à %4 attendu")
+                              .arg(Row.Place, Row.Cells[Column])
+                              .arg(Least)
+                              .arg(Most));
     return Result;
 }
 

@@ -24,13 +24,9 @@ struct TableRow
     QHash<QString, QString> Cells;
 };
 
-struct Table
-{
-    QStringList Columns;
-    std::vector<TableRow> Rows;
-};
-
 // Empty lines and lines that begin with # are skipped.
-Table ReadTable(const QString& Path, const QStringList& RequiredColumns);
+std::vector<TableRow> ReadTable(const QString& Path, const QStringList& RequiredColumns);
+
+double NumberOf(const TableRow& Row, const QString& Column, double Least, double Most);
 
 } // namespace orvane::pictures

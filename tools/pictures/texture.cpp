@@ -14,18 +14,6 @@ namespace orvane::pictures {
 
 namespace {
 
-double NumberOf(const TableRow& Row, const QString& Column, double Least, double Most)
-{
-    bool IsNumber = false;
-    const double Result = Row.Cells[Column].toDouble(&IsNumber);
-    if (!IsNumber || Result < Least || Result > Most)
-        throw SourceError(QStringLiteral("%1 : « %2 » : nombre de %3 à %4 attendu")
-                              .arg(Row.Place, Row.Cells[Column])
-                              .arg(Least)
-                              .arg(Most));
-    return Result;
-}
-
 bool IsHammered(const TableRow& Row)
 {
     const QString& Kind = Row.Cells["kind"];
@@ -72,10 +60,9 @@ QImage Drawn(const TableRow& Row, const Picture& P)
 } // namespace
 
 Textures::Textures(const QString& Folder)
-    : Rows(ReadTable(QDir(Folder).filePath("skins/textures.tsv"),
-                     {"texture", "kind", "size", "octaves", "stretch", "strength", "light", "dark",
-                      "seed"})
-               .Rows)
+    : Rows(ReadTable(
+          QDir(Folder).filePath("skins/textures.tsv"),
+          {"texture", "kind", "size", "octaves", "stretch", "strength", "light", "dark", "seed"}))
 {
 }
 
