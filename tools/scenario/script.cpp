@@ -3,7 +3,6 @@
 #include "scenario/lines.h"
 #include "scenario/statements.h"
 
-#include <algorithm>
 #include <ranges>
 
 namespace orvane::scenario {

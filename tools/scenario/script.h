@@ -2,7 +2,6 @@
 
 #include <filesystem>
 #include <map>
-#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
