@@ -36,6 +36,7 @@ constexpr std::array Phrases{
            "Il faut d’abord faire le choix précédent, puis reprendre « ", " »."},
     Phrase{FailureKind::NullValue, "Aucune donnée pour « ", " »."},
     Phrase{FailureKind::RefusedNumber, "« ", " » n’est pas un nombre : rien n’a été enregistré."},
+    Phrase{FailureKind::OutOfRange, "« ", " » n’est pas un nombre de -32768 à 32767."},
     Phrase{FailureKind::WrongText, "« ", " » n’est pas un nombre."},
     Phrase{FailureKind::Overflow, "Un montant dépasse ce qui peut être calculé (« ", " »)."},
     Phrase{FailureKind::NoPicture, "L’image « ", " » est introuvable ou illisible."},

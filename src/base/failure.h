@@ -19,6 +19,7 @@ enum class FailureKind {
                    // was picked below it
     NullValue,     // a null where a value is needed
     RefusedNumber, // a text that is no number, written to a number column
+    OutOfRange,    // a number that is too great for a level or a count
     WrongText,     // a box that holds no number where a calculation needs one
     Overflow,
     NoPicture,

@@ -48,7 +48,7 @@ void RemplirCommandes(Application& App)
 void AjouterAuPanier(Application& App, bool EstChoisi, const LigneCommande& Ligne,
                      const char* SansChoix)
 {
-    if (!EstChoisi) {
+    if (!EstChoisi || Ligne.PrixCoûtant.Text == "") { // a typed name has no price
         App.MsgBox(SansChoix);
         return;
     }

@@ -54,30 +54,45 @@ void frm_Accueil::Load()
             RestaurerChoix("RésolutionsListe", "DernièreRésolution", Configuration.cbo_Résolution,
                            [](const std::string&) { return true; });
     }
-    ChargerConfigRoyaume();
+    ChargerConfigRoyaume(Globals.RoyaumeCourant);
     RemplirCommandes(App);
     for (const std::string& Royaume : Royaumes())
         RelierAlchimie(App, Royaume);
 }
 
-void frm_Accueil::ChargerConfigRoyaume()
+// All rows are read before a box changes: settings never belong half to one realm and half to
+// another. A cell without a value stands for its design value, which is told.
+bool frm_Accueil::ChargerConfigRoyaume(const std::string& Royaume)
 {
-    const Ouverture Base(App, Globals.CheminConfig);
-    const std::string& Royaume = Globals.RoyaumeCourant;
-    ColonnesRoyaume = frm_Configuration::ColonnesPour(Royaume);
-    Recordset Lignes =
-        PremierEnregistrement("SELECT " + ColonnesRoyaume + " FROM ConfigRoyaume ORDER BY Num");
-    const auto& Configuration = App.Feuilles.Get<frm_Configuration>();
-    for (const Métier& Each : Métiers) {
-        const RéglagesArtisanat Artisanat = Configuration.Réglages(Each.Nom);
-        if (Artisanat.Niveau != nullptr)
-            Artisanat.Niveau->Text = Lignes.Text("Craft" + Royaume);
-        if (Artisanat.Marge != nullptr)
-            Artisanat.Marge->Text = Lignes.Text("Marges1" + Royaume);
-        if (Artisanat.Essai != nullptr)
-            Artisanat.Essai->Text = Lignes.Text("Marges2" + Royaume);
-        Lignes.MoveNext();
+    std::vector<std::pair<TextBox*, std::string>> Lus;
+    bool Complet = true;
+    {
+        const Ouverture Base(App, Globals.CheminConfig);
+        Recordset Lignes =
+            PremierEnregistrement("SELECT " + frm_Configuration::ColonnesPour(Royaume) +
+                                  " FROM ConfigRoyaume ORDER BY Num");
+        const auto Lire = [&](TextBox* Case, const std::string& Colonne, const char* Défaut) {
+            if (Case == nullptr)
+                return;
+            const bool Manque = Lignes.IsNull(Colonne);
+            Complet = Complet && !Manque;
+            if (Manque)
+                App.Notice(Typeset("« " + ConfigFile + " » : il manque un réglage de " + Royaume +
+                                   ", remplacé par " + Défaut + "."));
+            Lus.emplace_back(Case, Manque ? Défaut : Lignes.Text(Colonne));
+        };
+        const auto& Configuration = App.Feuilles.Get<frm_Configuration>();
+        for (const Métier& Each : Métiers) {
+            const RéglagesArtisanat Artisanat = Configuration.Réglages(Each.Nom);
+            Lire(Artisanat.Niveau, "Craft" + Royaume, "1");
+            Lire(Artisanat.Marge, "Marges1" + Royaume, "0");
+            Lire(Artisanat.Essai, "Marges2" + Royaume, "0");
+            Lignes.MoveNext();
+        }
     }
+    for (const auto& [Case, Texte] : Lus)
+        Case->Text = Texte;
+    return Complet;
 }
 
 std::vector<frm_Accueil::Écu> frm_Accueil::Écus()
@@ -143,8 +158,10 @@ void frm_Accueil::txt_Résolution_Change()
         AppliquerRésolutionPartout(App, txt_Résolution.Text);
 }
 
+// A realm whose settings can't be read isn't chosen.
 void frm_Accueil::ChoisirRoyaume(const std::string& Royaume)
 {
+    const bool Complet = ChargerConfigRoyaume(Royaume);
     for (const Écu& Each : Écus())
         if (Each.Royaume != Royaume && Each.Royaume == Globals.RoyaumeCourant)
             MontrerÉcu(Each, false);
@@ -153,7 +170,8 @@ void frm_Accueil::ChoisirRoyaume(const std::string& Royaume)
     for (const Écu& Each : Écus())
         if (Each.Royaume == Royaume)
             MontrerÉcu(Each, true);
-    ChargerConfigRoyaume();
+    if (!Complet)
+        App.TellNotices();
 }
 
 void frm_Accueil::OuvrirArtisanat(const std::string& Nom, const std::vector<std::string>& AvecIcône)

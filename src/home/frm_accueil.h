@@ -24,7 +24,7 @@ class frm_Accueil : public Feuille
     bool LeadsBack() const override { return false; }
 
     // Copies the rows of ConfigRoyaume for the current realm into the boxes of frm_Configuration.
-    void ChargerConfigRoyaume();
+    bool ChargerConfigRoyaume(const std::string& Royaume); // whether nothing was missing
 
     Shape NAMED(shp_Royaumes);
     Shape NAMED(shp_Ateliers);
@@ -74,8 +74,6 @@ class frm_Accueil : public Feuille
     void cmd_News_Click();
     void cmd_Quitter_Click();
     void EnregistrerRoyaume();
-
-    std::string ColonnesRoyaume;
 };
 
 } // namespace orvane

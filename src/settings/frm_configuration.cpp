@@ -77,7 +77,7 @@ bool frm_Configuration::ToutEstValable()
             if (Case != nullptr) {
                 Case->Marked = !Entier16FromText(Case->Text);
                 if (Case->Marked)
-                    Faute = "Les cases marquées doivent contenir un nombre entier.";
+                    Faute = "Les cases marquées doivent contenir un nombre de -32768 à 32767.";
             }
     }
     if (!Faute.empty())

@@ -1,6 +1,7 @@
 #include "settings/level_indicator.h"
 
 #include "base/failure.h"
+#include "base/montant.h"
 #include "base/number_text.h"
 
 #include <algorithm>
@@ -28,8 +29,10 @@ void ChangerCouleurCraft(Application& App, const std::string& NiveauObjet, std::
 {
     const auto Niveau = Entier16FromText(NiveauObjet);
     if (!Niveau)
-        throw Failure(FailureKind::WrongText, NiveauObjet);
-    const std::int16_t Écart = Entier16(*Niveau - NiveauCraft);
+        throw Failure(Montant::FromText(NiveauObjet) ? FailureKind::OutOfRange
+                                                     : FailureKind::WrongText,
+                      NiveauObjet);
+    const int Écart = *Niveau - NiveauCraft; // wider than a level
     const auto Bande = std::ranges::find_if(
         Bandes, [&](const auto& Candidate) { return Écart <= Candidate.JusquÀ; });
     const int Index = Bande == Bandes.end() ? AuDelà : Bande->Index;

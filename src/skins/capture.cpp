@@ -88,19 +88,9 @@ void Récupérer(Recordset& Temp, const Control& Contrôle)
     }
 }
 
-} // namespace
-
-void RécupérerRésolution(Application& App)
+// The base is closed at the end.
+void Récupérer(Application& App, const Screen& Feuille)
 {
-    Forms& Feuilles = App.Feuilles;
-    for (int i = 0; i < Feuilles.Count(); ++i)
-        App.MsgBox("N°" + std::to_string(i) + " - " + Feuilles[i].Name());
-    const auto Choix = Entier16FromText(App.TheDialogs.InputBox("Quelle feuille ?", ProgramTitle));
-    if (!Choix || *Choix < 0 || *Choix >= Feuilles.Count()) {
-        App.MsgBox("Aucune feuille ne porte ce numéro.");
-        return;
-    }
-    const Screen& Feuille = Feuilles[*Choix];
     const Database Base = App.Bases.Open(App.Globals.CheminBaseSkin);
     Recordset Temp = Base.OpenRecordset("SELECT * FROM Temp");
     for (const Control* Contrôle : Feuille.Controls()) {
@@ -114,6 +104,22 @@ void RécupérerRésolution(Application& App)
     Largeur(Temp, Feuille.Width);
     Hauteur(Temp, Feuille.Height);
     Temp.Update();
+}
+
+} // namespace
+
+void RécupérerRésolution(Application& App)
+{
+    Forms& Feuilles = App.Feuilles;
+    for (int i = 0; i < Feuilles.Count(); ++i)
+        App.MsgBox("N°" + std::to_string(i) + " - " + Feuilles[i].Name());
+    const auto Choix = Entier16FromText(App.TheDialogs.InputBox("Quelle feuille ?", ProgramTitle));
+    if (!Choix || *Choix < 0 || *Choix >= Feuilles.Count()) {
+        App.MsgBox("Aucune feuille ne porte ce numéro.");
+        return;
+    }
+    const Screen& Feuille = Feuilles[*Choix];
+    Récupérer(App, Feuille);
     App.MsgBox("Récupération de " + Feuille.Name() + " effectuée.");
 }
 

@@ -6,6 +6,7 @@
 #include "support/scripted_dialogs.h"
 #include "support/temp_folder.h"
 
+#include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
 // Lines, which no screen has yet: their ends travel in the columns of a box, crosswise.
@@ -59,6 +60,11 @@ TEST(Lines, ALayoutSetsTheEndsAndACaptureGivesThemBack)
     Boxes.ExpectMsgBox("N°0 - frm_Trait");
     Boxes.AnswerInputBox("Quelle feuille ?", "0");
     Boxes.ExpectMsgBox("Récupération de frm_Trait effectuée.");
+    Boxes.OnBox = [&, Up = 0]() mutable { // nobody is held up while the last box is up
+        if (++Up == 3)
+            SQLite::Database((Folder / "Skin.mdb").string(), SQLite::OPEN_READWRITE)
+                .exec("BEGIN EXCLUSIVE");
+    };
     RécupérerRésolution(App);
     const Database Base = App.Bases.Open(Folder / "Skin.mdb");
     const Recordset Captured =

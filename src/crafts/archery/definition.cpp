@@ -26,9 +26,12 @@ void frm_Archerie::Définir()
     PlacePanel(shp_Matériaux, {16, 138, 648, 142});
     PlaceHeading(lbl21, "Matériaux", {30, 142, 300, High});
     Matériaux.Placer(30, 172, 32, {374, 64, 154});
-    for (LigneMatériau& Each : Matériaux)
+    for (LigneMatériau& Each : Matériaux) { // typed texts count only when a calculation reads them
         for (TextBox* Box : {&Each.Nom, &Each.Qté, &Each.Prix})
-            Box->Locked = false; // typed texts count only when a calculation reads them
+            Box->Locked = false;
+        for (TextBox* Box : {&Each.Qté, &Each.Prix})
+            Box->Accepts = NumberKind::Montant;
+    }
 
     PlacePanel(shp_Vente, {16, 292, 648, 172});
     PlaceField(lbl32, "Nb de carquois :", txt_NbObjet, {30, 306, 154, High}, 80);

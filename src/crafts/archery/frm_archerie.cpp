@@ -71,6 +71,7 @@ void frm_Archerie::LireCarquois()
     lbl_Niveau.Caption = Carquois.Text("NiveauCraft");
     Matériaux.Charger(Carquois, "Matériaux_Classique", false);
     txt_Icône.Text = Carquois.Text("Icône");
+    MontrerIcôneRoyaume(App, txt_Icône, img_Icône); // the realm may be another one
 }
 
 // Each line is rounded before the count multiplies. Before the first quiver there is nothing to

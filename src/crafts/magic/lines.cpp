@@ -1,3 +1,4 @@
+#include "base/number_text.h"
 #include "crafts/magic/frm_artisanats_magiques.h"
 #include "toolkit/calculation.h"
 #include "toolkit/visibility.h"
@@ -24,11 +25,10 @@ void frm_ArtisanatsMagiques::txt_PrixMatSuptUnitaire_Change(LigneMatériau& Lign
 
 void frm_ArtisanatsMagiques::PoserVerrou(LigneMatériau& Ligne, const TextBox& Rempli)
 {
-    Calculate({}, [&] {
-        const bool Gratuit = D(Ligne.PrixUnitaire) == 0.0;
-        Ligne.PoserVerrou(Gratuit && Rempli.Text != "", txt_NbObjetAlchimie.BackColor,
+    // the price as it stands, not as money: 0,00001 isn't free
+    if (const auto Prix = DoubleFromText(Ligne.PrixUnitaire.Text))
+        Ligne.PoserVerrou(*Prix == 0.0 && Rempli.Text != "", txt_NbObjetAlchimie.BackColor,
                           txt_PrixCoûtantAlchimie.BackColor);
-    });
 }
 
 void frm_ArtisanatsMagiques::txt_MatSup_Change(LigneMatériau& Ligne)

@@ -115,6 +115,7 @@ void frm_ArtisanatsSecondaires::ViderListes()
 void frm_ArtisanatsSecondaires::ViderChamps()
 {
     Matériaux.Vider();
+    ObjetLu = false; // a degree needs the codes of an object
     txt_PrixRevente.Text = "0";
     txt_SellerieNbObjets.Text = "1";
     WriteAll({&txt_PrixCoûtant, &txt_SelleriePrixCoûtant, &txt_SelleriePrixVente, &txt_CoûtSuppl},

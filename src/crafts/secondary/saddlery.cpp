@@ -1,6 +1,7 @@
 #include "app/queries.h"
 #include "base/typography.h"
 #include "crafts/common/lecture.h"
+#include "crafts/common/object_pictures.h"
 #include "crafts/common/sale.h"
 #include "crafts/secondary/frm_artisanats_secondaires.h"
 #include "settings/level_indicator.h"
@@ -73,6 +74,7 @@ void frm_ArtisanatsSecondaires::LireSellerie()
                               Quoted(cbo_ObjetSecondaire.Text));
     MontrerIcône(Objet);
     txt_Image.Text = Objet.TextOrEmpty("Image");
+    MontrerImageObjet(App, txt_Image, img_Objet); // the realm may be another one
     txt_PrixRevente.Text = Objet.Text("PrixRevente");
     lbl_Niveau.Caption = Objet.Text("NiveauCraft");
     Matériaux.Charger(Objet, "Matériaux_Classique", false);
