@@ -18,10 +18,14 @@ std::string Application::Chemin(const std::string& Relative) const
     return Folder.string() + Relative;
 }
 
-void Application::Notice(const std::string& Text)
+void Application::Notice(const std::string& Text, const std::string& Matter)
 {
-    if (std::ranges::find(Notices, Text) == Notices.end())
-        Notices.push_back(Text);
+    const std::string& About = Matter.empty() ? Text : Matter;
+    const auto Found = std::ranges::find(Notices, About, &Told::Matter);
+    if (Found == Notices.end())
+        Notices.push_back({About, Text});
+    else
+        Found->Text = Text;
 }
 
 void Application::TellNotices()
@@ -34,8 +38,8 @@ void Application::TellNotices()
                        "elles :") +
                Pictures);
     std::string Text;
-    for (const std::string& Each : Notices)
-        Text += (Text.empty() ? "" : "\n\n") + Each;
+    for (const Told& Each : Notices)
+        Text += (Text.empty() ? "" : "\n\n") + Each.Text;
     Notices.clear();
     if (!Text.empty())
         MsgBox(Text);

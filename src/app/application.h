@@ -28,7 +28,8 @@ class Application
     void MsgBox(const std::string& Text) { TheDialogs.MsgBox(Text); }
 
     // Something to be told once, after start-up, together with whatever else there is.
-    void Notice(const std::string& Text);
+    // Of several about one matter the last counts.
+    void Notice(const std::string& Text, const std::string& Matter = {});
 
     // Tells the notices and the pictures that were missing, in one box if there is anything.
     void TellNotices();
@@ -46,7 +47,12 @@ class Application
 
   private:
     std::filesystem::path Folder;
-    std::vector<std::string> Notices;
+    struct Told
+    {
+        std::string Matter;
+        std::string Text;
+    };
+    std::vector<Told> Notices;
 };
 
 } // namespace orvane

@@ -70,7 +70,7 @@ bool frm_Configuration::ToutEstValable()
         Faute = "La résolution « " + cbo_Résolution.Text + " » n’existe pas.";
     const bool MêmeSkin = cbo_Skin.Text == EnVigueur("txt_Skin").Text;
     if (!MêmeSkin && (cbo_Skin.FindItem(cbo_Skin.Text) < 0 || !SkinExiste(App, cbo_Skin.Text)))
-        Faute = "La skin « " + cbo_Skin.Text + " » n’existe pas.";
+        Faute = "L’habillage « " + cbo_Skin.Text + " » n’existe pas.";
     for (const Métier& Each : Métiers) {
         const RéglagesArtisanat Artisanat = Réglages(Each.Nom);
         for (TextBox* Case : {Artisanat.Niveau, Artisanat.Marge, Artisanat.Essai})

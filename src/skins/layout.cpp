@@ -4,9 +4,13 @@
 #include "base/failure.h"
 #include "base/number_text.h"
 #include "base/text.h"
+#include "base/typography.h"
 #include "skins/skin_assets.h"
 
+#include <cmath>
+#include <functional>
 #include <unordered_map>
+#include <vector>
 
 namespace orvane {
 
@@ -17,45 +21,107 @@ bool Vaut(const Recordset& Ligne, std::string_view Drapeau)
     return Ligne.TextOrEmpty(Drapeau) == "O";
 }
 
-int Twips(const Recordset& Ligne, std::string_view Colonne)
+// A number of a row, to a whole one with ties to even. Failure (Kind::OutOfRange), naming the
+// column, when nothing on a screen can be like that.
+int Entier(const Recordset& Ligne, std::string_view Colonne, int Least, int Greatest)
 {
-    return static_cast<int>(Ligne.Number(Colonne));
+    const double Lu = Ligne.Number(Colonne);
+    if (!(Lu >= Least && Lu <= Greatest)) // no number at all fails too
+        throw Failure(FailureKind::OutOfRange, std::string(Colonne));
+    return static_cast<int>(std::nearbyint(Lu));
 }
 
-// A line's four ends travel in the four geometry columns, in this crossing of names.
-void Placer(Control& Contrôle, const Recordset& Ligne)
+constexpr int TwipsAuPlus = 500'000; // far beyond any screen
+
+int Place(const Recordset& Ligne, std::string_view Colonne)
 {
-    if (auto* Trait = dynamic_cast<Line*>(&Contrôle)) {
-        Trait->X1 = Twips(Ligne, "Left");
-        Trait->X2 = Twips(Ligne, "Top");
-        Trait->Y1 = Twips(Ligne, "Width");
-        Trait->Y2 = Twips(Ligne, "Height");
-    } else {
-        Contrôle.Left = Twips(Ligne, "Left");
-        Contrôle.Top = Twips(Ligne, "Top");
+    return Entier(Ligne, Colonne, -TwipsAuPlus, TwipsAuPlus);
+}
+
+int Taille(const Recordset& Ligne, std::string_view Colonne)
+{
+    return Entier(Ligne, Colonne, 0, TwipsAuPlus);
+}
+
+// What a row asks for, in the order of asking. Read whole before anything is changed, so that a row
+// that can't be used leaves its control as it was.
+class Demandes
+{
+  public:
+    explicit Demandes(const Recordset& Ligne) : Ligne(Ligne) {}
+
+    void Lire(Control& Contrôle)
+    {
+        if (Vaut(Ligne, "ChangeLeftTop"))
+            LirePlace(Contrôle);
+        if (Vaut(Ligne, "ChangeWidth"))
+            Poser(Contrôle.Width, Taille(Ligne, "Width"));
+        if (Vaut(Ligne, "ChangeHeight"))
+            Poser(Contrôle.Height, Taille(Ligne, "Height"));
+        if (Vaut(Ligne, "ChangeFontSize")) {
+            constexpr int PointsAuPlus = 500;
+            Entier(Ligne, "FontSize", 1, PointsAuPlus);
+            Poser(Contrôle.FontSize, Ligne.Number("FontSize"));
+        }
+        if (Vaut(Ligne, "ChangeColor"))
+            LireCouleur(Contrôle);
     }
-}
 
-void Colorer(Control& Contrôle, Colour Couleur)
-{
-    if (Contrôle.Kind() == ControlKind::Label)
-        Contrôle.ForeColor = Couleur;
-    else if (auto* Cadre = dynamic_cast<Shape*>(&Contrôle))
-        Cadre->BorderColor = Couleur;
-}
+    void Lire(Screen& Feuille)
+    {
+        if (Vaut(Ligne, "ChangeWidth"))
+            Poser(Feuille.Width, Taille(Ligne, "Width"));
+        if (Vaut(Ligne, "ChangeHeight"))
+            Poser(Feuille.Height, Taille(Ligne, "Height"));
+    }
 
-void Appliquer(Control& Contrôle, const Recordset& Ligne)
+    void Exécuter() const
+    {
+        for (const auto& Each : Toutes)
+            Each();
+    }
+
+  private:
+    template <class Type>
+    void Poser(Property<Type>& Où, Type Quoi)
+    {
+        Toutes.push_back([&Où, Quoi] { Où = Quoi; });
+    }
+
+    // A line's four ends travel in the four geometry columns, in this crossing of names.
+    void LirePlace(Control& Contrôle)
+    {
+        if (auto* Trait = dynamic_cast<Line*>(&Contrôle)) {
+            Poser(Trait->X1, Place(Ligne, "Left"));
+            Poser(Trait->X2, Place(Ligne, "Top"));
+            Poser(Trait->Y1, Place(Ligne, "Width"));
+            Poser(Trait->Y2, Place(Ligne, "Height"));
+        } else {
+            Poser(Contrôle.Left, Place(Ligne, "Left"));
+            Poser(Contrôle.Top, Place(Ligne, "Top"));
+        }
+    }
+
+    void LireCouleur(Control& Contrôle)
+    {
+        constexpr int Blanc = 0xFFFFFF;
+        const Colour Couleur{Entier(Ligne, "Color", 0, Blanc)};
+        if (Contrôle.Kind() == ControlKind::Label)
+            Poser(Contrôle.ForeColor, Couleur);
+        else if (auto* Cadre = dynamic_cast<Shape*>(&Contrôle))
+            Poser(Cadre->BorderColor, Couleur);
+    }
+
+    const Recordset& Ligne;
+    std::vector<std::function<void()>> Toutes;
+};
+
+template <class Chose>
+void Appliquer(Chose& Où, const Recordset& Ligne)
 {
-    if (Vaut(Ligne, "ChangeLeftTop"))
-        Placer(Contrôle, Ligne);
-    if (Vaut(Ligne, "ChangeWidth"))
-        Contrôle.Width = Twips(Ligne, "Width");
-    if (Vaut(Ligne, "ChangeHeight"))
-        Contrôle.Height = Twips(Ligne, "Height");
-    if (Vaut(Ligne, "ChangeFontSize"))
-        Contrôle.FontSize = Ligne.Number("FontSize");
-    if (Vaut(Ligne, "ChangeColor"))
-        Colorer(Contrôle, Colour{static_cast<std::int32_t>(Ligne.Number("Color"))});
+    Demandes Siennes(Ligne);
+    Siennes.Lire(Où);
+    Siennes.Exécuter();
 }
 
 std::string TableDe(Application& App, const Screen& Feuille, const std::string& Résolution)
@@ -108,13 +174,23 @@ void AppliquerRésolution(Application& App, std::int16_t IndexFeuille, const std
     const Recordset* Propre = Rangées.Pour(Feuille.Name());
     if (Propre == nullptr)
         throw Failure(FailureKind::NoRow, Feuille.Name());
-    if (Vaut(*Propre, "ChangeWidth"))
-        Feuille.Width = Twips(*Propre, "Width");
-    if (Vaut(*Propre, "ChangeHeight"))
-        Feuille.Height = Twips(*Propre, "Height");
+    std::string Inutilisables;
+    const auto Essayer = [&](const std::string& Nom, auto& Où, const Recordset& Ligne) {
+        try {
+            Appliquer(Où, Ligne);
+        } catch (const Failure&) {
+            Inutilisables += (Inutilisables.empty() ? "" : ", ") + Nom;
+        }
+    };
+    Essayer(Feuille.Name(), Feuille, *Propre);
     for (Control* Contrôle : Feuille.Controls())
         if (const Recordset* Sienne = Rangées.Pour(Contrôle->Name()))
-            Appliquer(*Contrôle, *Sienne);
+            Essayer(Contrôle->Name(), *Contrôle, *Sienne);
+    if (!Inutilisables.empty())
+        App.Notice(Typeset("La disposition de « " + Feuille.Caption +
+                           " » a des lignes que rien ne "
+                           "peut suivre (table " +
+                           Table + ") : " + Inutilisables + "."));
 }
 
 void AppliquerRésolutionPartout(Application& App, const std::string& Résolution)

@@ -131,12 +131,12 @@ void AnnoncerÉcransInconnus(Application& App, const std::vector<std::string>& F
 {
     std::string Noms;
     for (const std::string& Feuille : Feuilles)
-        Noms += (Noms.empty() ? "" : ", ") + Feuille;
+        Noms += (Noms.empty() ? "" : ", ") + App.Feuilles.Touch(Feuille).Caption;
     if (!Noms.empty())
-        App.Notice(
-            Typeset("La skin ne connaît pas ces écrans à cette résolution ; ils gardent leur "
-                    "aspect : " +
-                    Noms + "."));
+        App.Notice(Typeset("L’habillage ne connaît pas ces écrans à cette résolution ; ils gardent "
+                           "leur aspect : " +
+                           Noms + "."),
+                   "unknown screens");
 }
 
 std::string SansEspaces(std::string Résolution)
