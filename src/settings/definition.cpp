@@ -2,6 +2,8 @@
 #include "settings/frm_configuration.h"
 #include "toolkit/placing.h"
 
+#include <tuple>
+
 // Where the controls of frm_Configuration stand and what they say until a skin moves them.
 namespace orvane {
 
@@ -37,11 +39,13 @@ void PlaceRow(const Row& Each, const RéglagesArtisanat& Boxes)
 {
     PlaceLabel(*Each.Name, std::string(Each.Métier) + " :",
                {LeftX + NameX, Each.Y, LevelX - NameX, High});
-    const std::vector<std::pair<TextBox*, int>> Columns{
-        {Boxes.Niveau, LevelX}, {Boxes.Marge, MarginX}, {Boxes.Essai, TrialX}};
-    for (const auto& [Box, X] : Columns)
+    const std::vector<std::tuple<TextBox*, int, const char*>> Columns{
+        {Boxes.Niveau, LevelX, ", niveau"},
+        {Boxes.Marge, MarginX, ", marge, premier jet"},
+        {Boxes.Essai, TrialX, ", marge, essais"}};
+    for (const auto& [Box, X, What] : Columns)
         if (Box != nullptr)
-            Place(*Box, {LeftX + X, Each.Y, BoxWide, High});
+            Place(*Box, {LeftX + X, Each.Y, BoxWide, High}, std::string(Each.Métier) + What);
 }
 
 void PlaceColumnTitle(Label& Which, const char* Words, int X, int Y)
@@ -83,14 +87,16 @@ void frm_Configuration::Définir()
     PlaceColumnTitle(Label27, "Premier jet", LeftX + MarginX, SecondaryY + 8);
     PlaceColumnTitle(Label22, "Premier jet", RightX + 64, 124);
     PlaceColumnTitle(Label23, "Essai", RightX + 188, 124);
-    Place(txt_MargeLégendaires, {RightX + 64, 148, BoxWide, High});
-    Place(txt_EssaiLégendaires, {RightX + 188, 148, BoxWide, High});
+    Place(txt_MargeLégendaires, {RightX + 64, 148, BoxWide, High},
+          "Armes légendaires, marge, premier jet");
+    Place(txt_EssaiLégendaires, {RightX + 188, 148, BoxWide, High},
+          "Armes légendaires, marge, essais");
     DéfinirRéglages();
 
     PlaceLabel(Label21, "Liste des Skins", {RightX + 16, 240, 200, High});
-    Place(cbo_Skin, {RightX + 16, 264, RightWide - 32, High});
+    Place(cbo_Skin, {RightX + 16, 264, RightWide - 32, High}, "Liste des skins");
     PlaceLabel(Label25, "Résolution", {RightX + 16, 298, 200, High});
-    Place(cbo_Résolution, {RightX + 16, 322, RightWide - 32, High});
+    Place(cbo_Résolution, {RightX + 16, 322, RightWide - 32, High}, "Résolution");
     cbo_Skin.Sorted = true;
     cbo_Résolution.Sorted = true;
 

@@ -48,6 +48,9 @@ class Control : private PropertyOwner
     Property<Colour> BackColor{*this, PropertyId::BackColor, White};
     TextProperty Tip{*this, PropertyId::Tip}; // what a hovering mouse and a reader tell
 
+    // How a screen reader names a box or a list: no other that is visible with it is called so.
+    TextProperty Called{*this, PropertyId::Called};
+
   protected:
     PropertyOwner& AsOwner() { return *this; }
     void Changed(PropertyId Id) override;

@@ -10,8 +10,15 @@ constexpr Colour PanelBorder = RGB(183, 155, 107);
 
 } // namespace
 
-void Place(Control& Which, Box At)
+std::string WithoutColon(const std::string& Words)
 {
+    return Words.substr(0, Words.find_last_not_of(" :") + 1);
+}
+
+void Place(Control& Which, Box At, const std::string& Called)
+{
+    if (!Called.empty())
+        Which.Called = WithoutColon(Called);
     Which.Left = At.X * TwipsPerPixel;
     Which.Top = At.Y * TwipsPerPixel;
     Which.Width = At.W * TwipsPerPixel;
@@ -32,10 +39,12 @@ void PlaceLabel(Label& Which, const std::string& Text, Box At, Alignment Align)
     Which.ForeColor = TextBrown;
 }
 
-void PlaceField(Label& Name, const std::string& Text, TextBox& Value, Box LabelAt, int BoxWide)
+void PlaceField(Label& Name, const std::string& Text, TextBox& Value, Box LabelAt, int BoxWide,
+                const std::string& Called)
 {
     PlaceLabel(Name, Text, LabelAt);
-    Place(Value, {LabelAt.X + LabelAt.W, LabelAt.Y, BoxWide, LabelAt.H});
+    Place(Value, {LabelAt.X + LabelAt.W, LabelAt.Y, BoxWide, LabelAt.H},
+          Called.empty() ? Text : Called);
 }
 
 void PlaceHeading(Label& Which, const std::string& Text, Box At)

@@ -17,14 +17,19 @@ struct Box
     int H = 0;
 };
 
-void Place(Control& Which, Box At);
+std::string WithoutColon(const std::string& Words); // of a label
+
+// A box or a list takes its spoken name here; the words of its label will do, colon and all.
+void Place(Control& Which, Box At, const std::string& Called = {});
 void SizeScreen(Screen& Which, int Width, int Height);
 
 // A caption, by default as high as an input box so that both stand on one line.
 void PlaceLabel(Label& Which, const std::string& Text, Box At, Alignment Align = Alignment::Left);
 
-// A caption and its box, which begins where the caption ends and is as high.
-void PlaceField(Label& Name, const std::string& Text, TextBox& Value, Box LabelAt, int BoxWide);
+// A caption and its box, which begins where the caption ends and is as high. It is called as the
+// caption says, unless that is too short without the eye.
+void PlaceField(Label& Name, const std::string& Text, TextBox& Value, Box LabelAt, int BoxWide,
+                const std::string& Called = {});
 
 // The title of a panel.
 void PlaceHeading(Label& Which, const std::string& Text, Box At);

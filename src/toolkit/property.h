@@ -29,6 +29,7 @@ enum class PropertyId {
     Marked,
     Stale,
     Tip,
+    Called,
 };
 
 // Whoever owns properties and hears of their changes.

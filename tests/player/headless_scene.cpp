@@ -5,6 +5,7 @@
 #include "scenario/lines.h"
 
 #include <algorithm>
+#include <set>
 
 namespace orvane {
 
@@ -17,6 +18,18 @@ bool AreSlotsEmpty(const Variables& Globals)
 {
     return Globals.Enregistrements.IsEmpty() && Globals.Enregistrements2.IsEmpty() &&
            Globals.BaseDonnées.IsEmpty() && Globals.BaseDonnées2.IsEmpty();
+}
+
+// The first box or list in sight that a screen reader couldn't tell from all others, or nothing.
+const Control* Indistinct(const Screen& Which)
+{
+    std::set<std::string> Names{""};
+    for (const Control* Each : Which.Controls())
+        if (Each->Visible &&
+            (dynamic_cast<const TextBox*>(Each) || dynamic_cast<const ListControl*>(Each)) &&
+            !Names.insert(Each->Called).second)
+            return Each;
+    return nullptr;
 }
 
 } // namespace
@@ -108,6 +121,10 @@ void HeadlessScene::CheckBoxes()
         throw CannotGoOn("no box came up: " + Awaited.front().Text);
     if (App && !App->Feuilles.Stack().empty() && !AreSlotsEmpty(App->Globals))
         throw CannotGoOn("something stays open between two deeds");
+    if (App)
+        for (const Screen* Each : App->Feuilles.Stack())
+            if (const Control* Found = Indistinct(*Each))
+                throw CannotGoOn(Found->Name() + " has no name of its own: " + Found->Called);
 }
 
 void HeadlessScene::MsgBox(const std::string& Text)

@@ -110,6 +110,8 @@ std::string Appearance::Of(const Control& Which, const std::string& Side) const
 {
     if (Side == "bulle")
         return Which.Tip;
+    if (Side == "nom")
+        return Which.Called;
     if (Side == "gauche" || Side == "haut" || Side == "largeur" || Side == "hauteur")
         return Told(Side == "gauche"    ? Which.Left
                     : Side == "haut"    ? Which.Top

@@ -10,9 +10,9 @@ void frm_Archerie::Définir()
     SizeScreen(*this, 680, 560);
     PlacePanel(shp_Choix, {16, 16, 430, 110});
     PlaceHeading(lbl11, "Type de projectiles", {30, 20, 300, High});
-    Place(cbo_Type, {30, 48, 402, High});
+    Place(cbo_Type, {30, 48, 402, High}, "Type de projectiles");
     PlaceLabel(lbl13, "Carquois :", {30, 86, 90, High});
-    Place(cbo_Objet, {122, 86, 310, High});
+    Place(cbo_Objet, {122, 86, 310, High}, "Carquois");
     cbo_Type.Sorted = true;
     cbo_Objet.Sorted = true;
 
@@ -34,7 +34,8 @@ void frm_Archerie::Définir()
     }
 
     PlacePanel(shp_Vente, {16, 292, 648, 172});
-    PlaceField(lbl32, "Nb de carquois :", txt_NbObjet, {30, 306, 154, High}, 80);
+    PlaceField(lbl32, "Nb de carquois :", txt_NbObjet, {30, 306, 154, High}, 80,
+               "Nombre de carquois");
     txt_NbObjet.Text.StartWith("1");
     txt_NbObjet.OpenFor(NumberKind::Entier16);
     PlaceLabel(lbl33, "20 unités par carquois", {280, 306, 360, High});

@@ -23,6 +23,13 @@ void PlacerLigne(TextBox& Nom, Label& Fois, TextBox& Qté, Label& Égale, TextBo
     Place(Prix, {X + SigneLarge, Y, Colonnes.Prix, High});
 }
 
+void NommerLigne(TextBox& Nom, TextBox& Qté, TextBox& Prix, const std::string& Ligne)
+{
+    Nom.Called = Ligne + ", nom";
+    Qté.Called = Ligne + ", quantité";
+    Prix.Called = Ligne + ", prix";
+}
+
 LigneMatériau::LigneMatériau(Screen& Owner, const NomsNomenclature& Noms, int Num)
     : Nom(Owner, Noms.Nom + std::to_string(Num)),
       Fois(Owner, Noms.Fois + std::to_string(Num)),
@@ -83,9 +90,13 @@ LigneMatériau& Nomenclature::operator[](int Num)
     return Lignes[static_cast<std::size_t>(Num) - 1];
 }
 
-void Nomenclature::Placer(int X, int Y, int Pas, const ColonnesMatériau& Colonnes)
+void Nomenclature::Placer(int X, int Y, int Pas, const ColonnesMatériau& Colonnes,
+                          const std::string& Titre)
 {
+    int Num = 0;
     for (LigneMatériau& Each : Lignes) {
+        NommerLigne(Each.Nom, Each.Qté, Each.Prix,
+                    (Titre.empty() ? "Matériau " : Titre + ", matériau ") + std::to_string(++Num));
         PlacerLigne(Each.Nom, Each.Fois, Each.Qté, Each.Égale, Each.Prix, X, Y, Colonnes);
         Y += Pas;
     }

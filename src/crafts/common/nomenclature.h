@@ -44,6 +44,9 @@ inline constexpr int SigneLarge = 14;
 void PlacerLigne(TextBox& Nom, Label& Fois, TextBox& Qté, Label& Égale, TextBox& Prix, int X, int Y,
                  const ColonnesMatériau& Colonnes);
 
+// What the three boxes of a line are called: "Matériau 2, nom", "Matériau 2, quantité"...
+void NommerLigne(TextBox& Nom, TextBox& Qté, TextBox& Prix, const std::string& Ligne);
+
 // A line owns its controls. The text of a control is the value.
 class LigneMatériau
 {
@@ -88,7 +91,9 @@ class Nomenclature
     auto begin() { return Lignes.begin(); }
     auto end() { return Lignes.end(); }
 
-    void Placer(int X, int Y, int Pas, const ColonnesMatériau& Colonnes);
+    // The title is spoken before each line's number, where a screen has several bills.
+    void Placer(int X, int Y, int Pas, const ColonnesMatériau& Colonnes,
+                const std::string& Titre = {});
     void CommencerParZéro(); // every figure, as the screen's definition has it
     void Montrer(bool Montrée);
 

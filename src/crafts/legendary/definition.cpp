@@ -50,9 +50,9 @@ void frm_ArmesLégendaires::DéfinirChoix()
     PlaceHeading(lbl_Choix, "Choix de l'arme à fabriquer", {X, 16, 380, High});
     Place(pct_Craft, {LeftX + LeftWide - Margin - 32, 18, 32, 32});
     PlaceLabel(lbl_ChoixArme, "Arme :", {X, 56, 76, High});
-    Place(cbo_Arme, {X + 78, 56, 378, 25});
+    Place(cbo_Arme, {X + 78, 56, 378, 25}, "Arme");
     PlaceLabel(lbl_ChoixType, "Type :", {X, 90, 76, High});
-    Place(cbo_Type, {X + 78, 90, 378, 25});
+    Place(cbo_Type, {X + 78, 90, 378, 25}, "Type");
     cbo_Arme.Sorted = true;
     cbo_Type.Sorted = true;
 }
@@ -67,8 +67,8 @@ void frm_ArmesLégendaires::DéfinirInfos()
     Place(img_Icône, {RightX + 322 - Margin - 32, 20, 32, 32});
     PlaceField(lbl_NiveauObjet, "Niveau :", txt_Niveau, {X, 72, 66, High}, 72);
     PlaceField(lbl_Dps, "Dps : ", txt_Dps, {X + 156, 72, 62, High}, 76);
-    PlaceField(lbl_Vit, "Vit. :", txt_Vit, {X, 116, 66, High}, 72);
-    PlaceField(lbl_Dégâts, "Dégât :", txt_Dégâts, {X + 156, 116, 62, High}, 76);
+    PlaceField(lbl_Vit, "Vit. :", txt_Vit, {X, 116, 66, High}, 72, "Vitesse");
+    PlaceField(lbl_Dégâts, "Dégât :", txt_Dégâts, {X + 156, 116, 62, High}, 76, "Dégâts");
     PlaceField(lbl_PrixRevente, "Prix de revente à un PNJ :", txt_PrixRevente, {X, 176, 184, High},
                110);
     txt_PrixRevente.Text.StartWith("0");
@@ -100,13 +100,14 @@ void frm_ArmesLégendaires::DéfinirComposants()
         PlaceLabel(lbl_Composant[i], Each.Words, {X, Y, 76, High});
         PlacerLigne(Each.Nom, lbl_ComposantX[i], Each.Qté, lbl_ComposantÉgale[i], Each.Prix, X + 78,
                     Y, {214, 38, 98});
+        NommerLigne(Each.Nom, Each.Qté, Each.Prix, WithoutColon(Each.Words));
         Each.Qté.Text.StartWith(Each.Nombre);
         Each.Prix.Text.StartWith("0");
     }
     for (TextBox* Libre : {&txt_PrixGemme, &txt_PrixTeinture, &txt_PrixSpécial})
         Libre->OpenFor(NumberKind::Montant);
     PlaceField(lbl_PrixCoûtant, "Prix coûtant :", txt_PrixCoûtant,
-               {X + 250, BillY + 204, 108, High}, 98);
+               {X + 250, BillY + 204, 108, High}, 98, "Composants, prix coûtant");
     txt_PrixCoûtant.Text.StartWith("0");
 }
 
@@ -116,11 +117,14 @@ void frm_ArmesLégendaires::DéfinirVente()
     constexpr int Y = 236;
     PlacePanel(shp_Vente, {RightX, Y, RightWide, 140});
     PlaceHeading(lbl_Vente, "Informations de vente ", {X, Y + 4, 300, High});
-    PlaceField(lbl_NbObjet, "Nb d'obj. fabriqués :", txt_NbObjet, {X, Y + 44, 148, High}, 64);
-    PlaceField(lbl_NbEssais, "Nb d'essais suppl. :", txt_NbEssais, {X, Y + 92, 148, High}, 64);
+    PlaceField(lbl_NbObjet, "Nb d'obj. fabriqués :", txt_NbObjet, {X, Y + 44, 148, High}, 64,
+               "Nombre d'objets fabriqués");
+    PlaceField(lbl_NbEssais, "Nb d'essais suppl. :", txt_NbEssais, {X, Y + 92, 148, High}, 64,
+               "Nombre d'essais supplémentaires");
     PlaceField(lbl_PrixCoûtantTotal, "Prix coûtant :", txt_PrixCoûtantTotal,
-               {X + 232, Y + 44, 100, High}, 130);
-    PlaceField(lbl_PrixVente, "Px de vente :", txt_PrixVente, {X + 232, Y + 92, 100, High}, 130);
+               {X + 232, Y + 44, 100, High}, 130, "Vente, prix coûtant");
+    PlaceField(lbl_PrixVente, "Px de vente :", txt_PrixVente, {X + 232, Y + 92, 100, High}, 130,
+               "Prix de vente");
     txt_NbObjet.Text.StartWith("1");
     for (TextBox* Zéro : {&txt_NbEssais, &txt_PrixCoûtantTotal, &txt_PrixVente})
         Zéro->Text.StartWith("0");
@@ -137,10 +141,10 @@ void frm_ArmesLégendaires::DéfinirComposant(Composant& Lequel, const char* Tit
     PlaceLabel(Lequel.TitreNiveau, "Niveau :", {X + 134, BlocksY + 12, 62, High});
     PlaceHeading(Lequel.Niveau, "", {X + 198, BlocksY + 12, 60, High});
     Place(Lequel.Indicateur, {X + 266, BlocksY + 12, 24, 24});
-    Lequel.Matériaux.Placer(X, BlocksY + 54, 34, {158, 34, 74});
+    Lequel.Matériaux.Placer(X, BlocksY + 54, 34, {158, 34, 74}, Titre);
     Lequel.Matériaux.CommencerParZéro();
     PlaceField(Lequel.TitrePrixCoûtant, "Px coût. :", Lequel.PrixCoûtant,
-               {X + 120, BlocksY + 164, 74, High}, 100);
+               {X + 120, BlocksY + 164, 74, High}, 100, Titre + std::string(", prix coûtant"));
     Lequel.PrixCoûtant.Text.StartWith("0");
     Lequel.FichierIcône.Visible = false;
 }

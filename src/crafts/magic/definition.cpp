@@ -60,10 +60,10 @@ void frm_ArtisanatsMagiques::DéfinirChoixAlchimie()
                             Row{lbl_ProduitDétaillé, "Détail :", cbo_ProduitDétaillé, 164, 257},
                             Row{lbl_Objet, "Objet :", cbo_Objet, 206, 358}}) {
         PlaceLabel(Each.Name, Each.Words, {X, Each.Y, 90, High});
-        Place(Each.List, {X + 92, Each.Y, Each.Wide, 25});
+        Place(Each.List, {X + 92, Each.Y, Each.Wide, 25}, Each.Words);
     }
     PlaceLabel(lbl_Type, "Type :", {X + 228, 164, 52, High});
-    Place(cbo_Type, {X + 282, 164, 168, 25});
+    Place(cbo_Type, {X + 282, 164, 168, 25}, "Type");
     for (ComboBox* Each : {&cbo_Produit, &cbo_ProduitDétaillé, &cbo_Type, &cbo_Objet})
         Each->Sorted = true;
     ShowAll({&lbl_Type, &cbo_Type}, false);
@@ -96,17 +96,20 @@ void frm_ArtisanatsMagiques::DéfinirChoixArcanes()
     {
         Label& Name;
         const char* Words;
+        const char* Called;
         ComboBox& Gems;
         ComboBox& Bonus;
         int Y;
     };
     for (const Row& Each :
-         {Row{lbl_ArcanesType, "Type :", cbo_TypeGemmes, cbo_TypeBonus, 122},
-          Row{lbl_ArcanesSousType, "Sous-Type :", cbo_SousTypeGemmes, cbo_SousTypeBonus, 164},
-          Row{lbl_ArcanesDegré, "Degré de finition :", cbo_DegréGemmes, cbo_DegréBonus, 206}}) {
+         {Row{lbl_ArcanesType, "Type :", "type", cbo_TypeGemmes, cbo_TypeBonus, 122},
+          Row{lbl_ArcanesSousType, "Sous-Type :", "sous-type", cbo_SousTypeGemmes,
+              cbo_SousTypeBonus, 164},
+          Row{lbl_ArcanesDegré, "Degré de finition :", "degré de finition", cbo_DegréGemmes,
+              cbo_DegréBonus, 206}}) {
         PlaceLabel(Each.Name, Each.Words, {X, Each.Y, 132, High});
-        Place(Each.Gems, {GemX, Each.Y, ListWide, 25});
-        Place(Each.Bonus, {BonusX, Each.Y, ListWide, 25});
+        Place(Each.Gems, {GemX, Each.Y, ListWide, 25}, std::string("Gemmes, ") + Each.Called);
+        Place(Each.Bonus, {BonusX, Each.Y, ListWide, 25}, std::string("Bonus, ") + Each.Called);
     }
     for (ComboBox* Each :
          {&cbo_TypeGemmes, &cbo_SousTypeGemmes, &cbo_TypeBonus, &cbo_SousTypeBonus})
@@ -137,15 +140,16 @@ void frm_ArtisanatsMagiques::DéfinirObjetSup()
     constexpr int Y = MaterialsY + 76;
     PlacePanel(shp_AlchimieObjetSup, {RightX, Y, RightWide, 242});
     PlaceHeading(lbl_AlchimieObjetSup, "Objet nécessaire", {X, Y + 4, 220, High});
-    Place(txt_AlchimieObjetSup, {X, Y + 32, 230, High});
+    Place(txt_AlchimieObjetSup, {X, Y + 32, 230, High}, "Objet nécessaire, nom");
     Place(img_AlchimieObjetSup, {X + 238, Y + 24, 32, 32});
-    PlaceField(lbl_NbAlchimieObjetSup, "Nb :", txt_NbAlchimieObjetSup, {X, Y + 62, 36, High}, 44);
+    PlaceField(lbl_NbAlchimieObjetSup, "Nb :", txt_NbAlchimieObjetSup, {X, Y + 62, 36, High}, 44,
+               "Objet nécessaire, nombre");
     PlaceLabel(lbl_AlchimieObjetSupNiveau, "Niveau :", {X + 98, Y + 62, 58, High});
     PlaceLabel(lbl_AlchimieObjetSupNiveauCraft, "", {X + 158, Y + 62, 50, High}, Alignment::Right);
     Place(img_AlchimieObjetSupNiveau, {X + 218, Y + 62, 24, 24});
-    MatériauxSup.Placer(X, Y + 92, 28, {145, 32, 65});
+    MatériauxSup.Placer(X, Y + 92, 28, {145, 32, 65}, "Objet nécessaire");
     PlaceField(lbl_AlchimieObjetSUpPrixCoûtant, "Prix coûtant :", txt_AlchimieObjetSUpPrixCoûtant,
-               {X + 70, Y + 208, 100, High}, 100);
+               {X + 70, Y + 208, 100, High}, 100, "Objet nécessaire, prix coûtant");
     txt_NbAlchimieObjetSup.Text.StartWith("1");
     txt_AlchimieObjetSUpPrixCoûtant.Text.StartWith("0");
     txt_AlchimieObjetSup.Locked = false;
@@ -164,14 +168,18 @@ void frm_ArtisanatsMagiques::DéfinirPrixAlchimie()
         const char* Words;
         TextBox& Value;
         const char* Initial;
+        const char* Called;
     };
     int Y = PricesY + 42;
     for (const Row& Each :
-         {Row{lbl_AlchimieNbObjet, "Nb d'obj. fabriqués :", txt_NbObjetAlchimie, "1"},
-          Row{lbl_AlchimiePrixCoûtant, "Prix coûtant :", txt_PrixCoûtantAlchimie, "0"},
-          Row{lbl_AlchimiePrixvente, "Px de vente :", txt_PrixVenteAlchimie, "0"},
-          Row{lbl_AlchimiePrixrevente, "Revente à un PNJ :", txt_PrixReventeAlchimie, "0"}}) {
-        PlaceField(Each.Name, Each.Words, Each.Value, {X, Y, 200, High}, 160);
+         {Row{lbl_AlchimieNbObjet, "Nb d'obj. fabriqués :", txt_NbObjetAlchimie, "1",
+              "Nombre d'objets fabriqués"},
+          Row{lbl_AlchimiePrixCoûtant, "Prix coûtant :", txt_PrixCoûtantAlchimie, "0",
+              "Prix coûtant"},
+          Row{lbl_AlchimiePrixvente, "Px de vente :", txt_PrixVenteAlchimie, "0", "Prix de vente"},
+          Row{lbl_AlchimiePrixrevente, "Revente à un PNJ :", txt_PrixReventeAlchimie, "0",
+              "Prix de revente à un PNJ"}}) {
+        PlaceField(Each.Name, Each.Words, Each.Value, {X, Y, 200, High}, 160, Each.Called);
         Each.Value.Text.StartWith(Each.Initial);
         Y += 40;
     }
@@ -199,24 +207,31 @@ void frm_ArtisanatsMagiques::DéfinirPrixArcanes()
         TextBox& Value;
         int X;
         int Row;
+        const char* Called;
     };
     const Cell Cells[] = {
-        {lbl_ArcanesPrixCoûtant, "Prix coûtant :", txt_ArcanesPrixCoûtant, One, 0},
-        {lbl_ArcanesPrixRevente, "Px revente PNJ :", txt_ArcanesPrixRevente, One, 1},
-        {lbl_ArcanesPrixVente, "Px vente :", txt_ArcanesPrixVente, One, 2},
-        {lbl_ArcanesNbEssais, "Nb essais :", txt_ArcanesNbEssais, WithTrials, 0},
+        {lbl_ArcanesPrixCoûtant, "Prix coûtant :", txt_ArcanesPrixCoûtant, One, 0, "Prix coûtant"},
+        {lbl_ArcanesPrixRevente, "Px revente PNJ :", txt_ArcanesPrixRevente, One, 1,
+         "Prix de revente à un PNJ"},
+        {lbl_ArcanesPrixVente, "Px vente :", txt_ArcanesPrixVente, One, 2, "Prix de vente"},
+        {lbl_ArcanesNbEssais, "Nb essais :", txt_ArcanesNbEssais, WithTrials, 0, "Nombre d'essais"},
         {lbl_ArcanesPrixCoûtantQualité, "Px coûtant :", txt_ArcanesPrixCoûtantQualité, WithTrials,
-         1},
-        {lbl_ArcanesPrixVenteQualité, "Px vente :", txt_ArcanesPrixVenteQualité, WithTrials, 2},
-        {lbl_ArcanesNbObjet, "Nb d'obj. :", txt_ArcanesNbObjet, Several, 0},
-        {lbl_ArcanesPrixCoûtantQuantité, "Px coûtant :", txt_ArcanesPrixCoûtantQuantité, Several,
-         1},
-        {lbl_ArcanesPrixVenteQuantité, "Px vente :", txt_ArcanesPrixVenteQuantité, Several, 2},
-        {lbl_ArcanesPrixCoûtantTotal, "Prix coûtant :", txt_ArcanesPrixCoûtantTotal, All, 1},
-        {lbl_ArcanesPrixVenteTotal, "Prix de vente : ", txt_ArcanesPrixVenteTotal, All, 2},
+         1, "Qualité, prix coûtant"},
+        {lbl_ArcanesPrixVenteQualité, "Px vente :", txt_ArcanesPrixVenteQualité, WithTrials, 2,
+         "Qualité, prix de vente"},
+        {lbl_ArcanesNbObjet, "Nb d'obj. :", txt_ArcanesNbObjet, Several, 0, "Nombre d'objets"},
+        {lbl_ArcanesPrixCoûtantQuantité, "Px coûtant :", txt_ArcanesPrixCoûtantQuantité, Several, 1,
+         "Quantité, prix coûtant"},
+        {lbl_ArcanesPrixVenteQuantité, "Px vente :", txt_ArcanesPrixVenteQuantité, Several, 2,
+         "Quantité, prix de vente"},
+        {lbl_ArcanesPrixCoûtantTotal, "Prix coûtant :", txt_ArcanesPrixCoûtantTotal, All, 1,
+         "Tout inclus, prix coûtant"},
+        {lbl_ArcanesPrixVenteTotal, "Prix de vente : ", txt_ArcanesPrixVenteTotal, All, 2,
+         "Tout inclus, prix de vente"},
     };
     for (const Cell& Each : Cells) {
         PlaceStacked(Each.Name, Each.Words, Each.Value, Each.X, PricesY + 38 + Each.Row * 54, Wide);
+        Each.Value.Called = Each.Called;
         Each.Value.Text.StartWith("0");
     }
     txt_ArcanesNbObjet.Text.StartWith("1");

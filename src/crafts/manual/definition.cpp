@@ -39,13 +39,13 @@ void frm_ArtisanatsManuels::DéfinirChoix()
           Row{lbl15, "Produit détaillé :", cbo_ProduitDétaillé, 150},
           Row{lbl16, "Objet :", cbo_Objet, 182}, Row{lbl_Degré, "Degré :", cbo_Degré, 216}}) {
         PlaceLabel(Each.Name, Each.Words, {MiddleX + 14, Each.Y, 112, High});
-        Place(Each.List, {MiddleX + 128, Each.Y, 338, 25});
+        Place(Each.List, {MiddleX + 128, Each.Y, 338, 25}, Each.Words);
     }
     for (ComboBox* Walk : {&cbo_Produit, &cbo_ProduitDétaillé, &cbo_Objet})
         Walk->Sorted = true;
     cbo_Degré.Width = 3135;
     PlaceLabel(lbl_TypeDégats, "Type :", {MiddleX + 218, 216, 48, High});
-    Place(cbo_TypeDégats, {MiddleX + 268, 216, 198, 25});
+    Place(cbo_TypeDégats, {MiddleX + 268, 216, 198, 25}, "Type");
     ShowAll({&lbl_Degré, &cbo_Degré, &lbl_TypeDégats, &cbo_TypeDégats}, false);
 }
 
@@ -62,7 +62,7 @@ void frm_ArtisanatsManuels::DéfinirObjet()
     PlaceField(lbl32, "Niveau :", txt_Niveau, {RightX + 14, 188, 58, High}, 54);
     PlaceField(lbl_AF, "AF :", txt_AF, {RightX + 14, 218, 58, High}, 54);
     PlaceField(lbl_Dps, "Dps : ", txt_Dps, {RightX + 14, 248, 58, High}, 54);
-    PlaceField(lbl_Vit, "Vit. :", txt_Vit, {RightX + 14, 278, 58, High}, 54);
+    PlaceField(lbl_Vit, "Vit. :", txt_Vit, {RightX + 14, 278, 58, High}, 54, "Vitesse");
     Place(img_Icône, {RightX + 14, 306, 32, 32});
     Place(img_Objet, {RightX + 134, 188, 150, 150});
     PlaceField(lbl_BonusSpécial, "Bonus spécial : ", txt_BonusSpécial,
@@ -80,7 +80,8 @@ void frm_ArtisanatsManuels::DéfinirMatériaux()
     Matériaux.CommencerParZéro();
     for (LigneMatériau& Each : Matériaux)
         Each.Prix.Accepts = NumberKind::Montant;
-    PlaceField(lbl23, "Prix coûtant :", txt_PrixCoûtant, {MiddleX + 150, 474, 202, High}, 114);
+    PlaceField(lbl23, "Prix coûtant :", txt_PrixCoûtant, {MiddleX + 150, 474, 202, High}, 114,
+               "Matériaux, prix coûtant");
     PlaceField(lbl22, "Prix de revente à un PNJ :", txt_PrixRevente,
                {MiddleX + 150, 504, 202, High}, 114);
     for (Label* Total : {&lbl23, &lbl22}) {
@@ -95,9 +96,12 @@ void frm_ArtisanatsManuels::DéfinirVente()
 {
     PlacePanel(shp_InfosVente, {MiddleX, 550, MiddleWide, 140});
     PlaceHeading(lbl_InfosVente, "Informations de vente", {MiddleX + 14, 556, 300, High});
-    PlaceField(lbl411, "Nb d'objets :", txt_NbObjet, {MiddleX + 14, 594, 140, High}, 66);
-    PlaceField(lbl44, "Nb d'essais suppl. :", txt_NbEssais, {MiddleX + 14, 634, 140, High}, 66);
-    PlaceField(lbl48, "Prix coûtant :", txt_PrixCoûtantTotal, {MiddleX + 236, 594, 100, High}, 130);
+    PlaceField(lbl411, "Nb d'objets :", txt_NbObjet, {MiddleX + 14, 594, 140, High}, 66,
+               "Nombre d'objets");
+    PlaceField(lbl44, "Nb d'essais suppl. :", txt_NbEssais, {MiddleX + 14, 634, 140, High}, 66,
+               "Nombre d'essais supplémentaires");
+    PlaceField(lbl48, "Prix coûtant :", txt_PrixCoûtantTotal, {MiddleX + 236, 594, 100, High}, 130,
+               "Vente, prix coûtant");
     PlaceField(lbl42, "Prix de vente :", txt_PrixVente, {MiddleX + 236, 634, 100, High}, 130);
     txt_NbObjet.Text.StartWith("1");
     txt_NbEssais.Text.StartWith("0");
@@ -111,15 +115,16 @@ void frm_ArtisanatsManuels::DéfinirObjetSup()
 {
     PlacePanel(shp_ObjetSup, {RightX, 392, RightWide, 242});
     PlaceHeading(lbl_ObjetSup, "Objet nécessaire", {RightX + 14, 396, 220, High});
-    Place(txt_ObjetSup, {RightX + 14, 424, 230, High});
+    Place(txt_ObjetSup, {RightX + 14, 424, 230, High}, "Objet nécessaire, nom");
     Place(img_ObjetSup, {RightX + 252, 416, 32, 32});
-    PlaceField(lbl_NbObjetSup, "Nb :", txt_NbObjetSup, {RightX + 14, 454, 36, High}, 44);
+    PlaceField(lbl_NbObjetSup, "Nb :", txt_NbObjetSup, {RightX + 14, 454, 36, High}, 44,
+               "Objet nécessaire, nombre");
     PlaceLabel(lbl_ObjetSupNiveau, "Niveau :", {RightX + 112, 454, 58, High});
     PlaceLabel(lbl_ObjetSupNiveauCraft, "", {RightX + 172, 454, 50, High}, Alignment::Right);
     Place(img_ObjetSupNiveau, {RightX + 232, 454, 24, 24});
-    MatériauxSup.Placer(RightX + 14, 484, 28, {145, 32, 65});
+    MatériauxSup.Placer(RightX + 14, 484, 28, {145, 32, 65}, "Objet nécessaire");
     PlaceField(lbl_ObjetSUpPrixCoûtant, "Prix :", txt_ObjetSUpPrixCoûtant,
-               {RightX + 128, 600, 56, High}, 100);
+               {RightX + 128, 600, 56, High}, 100, "Objet nécessaire, prix");
     lbl_ObjetSUpPrixCoûtant.Align = Alignment::Right;
     txt_NbObjetSup.Text.StartWith("1");
     txt_ObjetSUpPrixCoûtant.Text.StartWith("0");

@@ -34,9 +34,9 @@ void frm_ArtisanatsSecondaires::DéfinirChoix()
     constexpr int X = MiddleX + Margin;
     PlacePanel(shp_Choix, {MiddleX, 86, MiddleWide, 100});
     PlaceLabel(lbl_Zone1, "Objet :", {X, 102, 90, High});
-    Place(cbo_ObjetSecondaire, {X + 92, 102, 360, 25});
+    Place(cbo_ObjetSecondaire, {X + 92, 102, 360, 25}, "Objet");
     PlaceLabel(lbl_Zone2, "", {X, 144, 90, High});
-    Place(cbo_Degré, {X + 92, 144, 360, 25});
+    Place(cbo_Degré, {X + 92, 144, 360, 25}, "Degré");
     cbo_ObjetSecondaire.Sorted = true;
 
     PlacePanel(shp_Niveau, {RightX, 86, RightWide, 100});
@@ -54,7 +54,7 @@ void frm_ArtisanatsSecondaires::DéfinirMatériaux()
     Matériaux.Placer(X, MaterialsY + 34, 33, {268, 42, 114});
     Matériaux.CommencerParZéro();
     PlaceField(lbl23, "Prix coûtant :", txt_PrixCoûtant, {X + 136, MaterialsY + 174, 202, High},
-               114);
+               114, "Matériaux, prix coûtant");
     PlaceField(lbl22, "Prix de revente à un PNJ :", txt_PrixRevente,
                {X + 136, MaterialsY + 206, 202, High}, 114);
     for (Label* Total : {&lbl23, &lbl22}) {
@@ -73,9 +73,9 @@ void frm_ArtisanatsSecondaires::DéfinirVente()
     PlacePanel(shp_InfosVente, {MiddleX, BottomY, MiddleWide, 176});
     PlaceHeading(lbl_InfosVente, "Infos de Vente", {X, BottomY + 6, 300, High});
     PlaceField(lbl_SellerieNbObjets, "Nb d'objets :", txt_SellerieNbObjets,
-               {X, BottomY + 44, 200, High}, 160);
+               {X, BottomY + 44, 200, High}, 160, "Nombre d'objets");
     PlaceField(lbl_SelleriePrixCoûtant, "Prix coûtant :", txt_SelleriePrixCoûtant,
-               {X, BottomY + 86, 200, High}, 160);
+               {X, BottomY + 86, 200, High}, 160, "Vente, prix coûtant");
     PlaceField(lbl_SelleriePrixVente, "Prix de vente :", txt_SelleriePrixVente,
                {X, BottomY + 128, 200, High}, 160);
     txt_SellerieNbObjets.Text.StartWith("1");
@@ -91,11 +91,11 @@ void frm_ArtisanatsSecondaires::DéfinirRecyclage()
     PlacePanel(shp_Recyclage, {MiddleX, BottomY, MiddleWide, 176});
     PlaceHeading(lbl_Recyclage, "Gain du recyclage", {X, BottomY + 6, 300, High});
     PlaceField(lbl_RecyclageMatPremière, "Coût des matières premières suppl. :", txt_CoûtSuppl,
-               {X, BottomY + 44, Wide, High}, 128);
+               {X, BottomY + 44, Wide, High}, 128, "Coût des matières premières supplémentaires");
     PlaceField(lbl_RecyclageNbObjets, "Nombre d'objets fabriqués : ", txt_NbObjet,
                {X, BottomY + 86, Wide, High}, 128);
     PlaceField(lbl_RecyclageGain, "Gain total  (Produit revente - coût mat 1ère) :", txt_Gain,
-               {X, BottomY + 128, Wide, High}, 128);
+               {X, BottomY + 128, Wide, High}, 128, "Gain total");
     txt_CoûtSuppl.Text.StartWith("0");
     txt_NbObjet.Text.StartWith("1");
     txt_Gain.Text.StartWith("0");

@@ -18,6 +18,7 @@ void frm_ArtisanatsSecondaires::PréparerRecyclage()
     ViderListes();
     lbl_Zone1.Caption = "Objet :";
     lbl_Zone2.Caption = "Degré :";
+    cbo_Degré.Called = "Degré";
     ShowAll({&lbl_Zone2, &cbo_Degré}, true);
     Matériaux[4].Montrer(false);
     cmd_AjouterPanier.Visible = false;

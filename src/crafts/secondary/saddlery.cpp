@@ -17,6 +17,7 @@ void frm_ArtisanatsSecondaires::PréparerSellerie()
     ViderListes();
     lbl_Zone1.Caption = "Objet :";
     lbl_Zone2.Caption = "Tri :";
+    cbo_Degré.Called = "Tri";
     ShowAll({&lbl_Zone2, &cbo_Degré}, true);
     Matériaux[4].Montrer(true);
     cmd_AjouterPanier.Visible = true;
