@@ -51,6 +51,10 @@ void ComboBoxView::Follow(PropertyId What)
     case PropertyId::Tip:
         ShowTip();
         break;
+    case PropertyId::Called:
+        ControlView::Follow(What);
+        lineEdit()->setAccessibleName(accessibleName());
+        break;
     default:
         ControlView::Follow(What);
     }
@@ -61,12 +65,6 @@ void ComboBoxView::FollowAll()
     ControlView::FollowAll();
     ShowColours();
     ShowText();
-}
-
-void ComboBoxView::TakeName(const QString& Name)
-{
-    setAccessibleName(Name);
-    lineEdit()->setAccessibleName(Name);
 }
 
 QRect ComboBoxView::Place() const

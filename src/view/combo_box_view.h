@@ -22,7 +22,6 @@ class ComboBoxView : public QComboBox, public ControlView
     void Follow(PropertyId What) override;
     void FollowAll() override;
     std::vector<QWidget*> TabStops() override { return {this}; }
-    void TakeName(const QString& Name) override;
 
     void showPopup() override;
     void hidePopup() override;

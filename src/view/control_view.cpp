@@ -41,6 +41,9 @@ void ControlView::Follow(PropertyId What)
     case PropertyId::Tip:
         Widget().setToolTip(ToQt(TheControl.Tip));
         break;
+    case PropertyId::Called:
+        Widget().setAccessibleName(ToQt(TheControl.Called));
+        break;
     default:
         Widget().update();
     }
@@ -54,6 +57,8 @@ void ControlView::FollowAll()
         Widget().hide();
     Follow(PropertyId::FontSize);
     Follow(PropertyId::Tip);
+    if (!TheControl.Called.empty()) // others are called as their words or their tips say
+        Follow(PropertyId::Called);
 }
 
 } // namespace orvane

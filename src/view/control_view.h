@@ -34,9 +34,6 @@ class ControlView
     // Where Tab stops, in order. Hidden and locked ones among them are passed over.
     virtual std::vector<QWidget*> TabStops() { return {}; }
 
-    // The name that a screen reader tells, for controls that bear none themselves.
-    virtual void TakeName(const QString&) {}
-
     Control& Model() const { return TheControl; }
 
   protected:

@@ -19,7 +19,6 @@ class ListBoxView : public QListView, public ControlView
     void Follow(PropertyId What) override;
     void FollowAll() override;
     std::vector<QWidget*> TabStops() override { return {this}; }
-    void TakeName(const QString& Name) override { setAccessibleName(Name); }
 
     const ListBox& Box() const { return TheBox; }
     void keyboardSearch(const QString& Letters) override;

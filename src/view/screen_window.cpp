@@ -4,7 +4,6 @@
 #include "view/act.h"
 #include "view/control_view.h"
 #include "view/look.h"
-#include "view/naming.h"
 #include "view/qt_text.h"
 #include "view/reading_order.h"
 #include "view/view_factory.h"
@@ -82,7 +81,6 @@ void ScreenWindow::ControlChanged(Control& Which, PropertyId What)
     case PropertyId::Width:
     case PropertyId::Height:
     case PropertyId::Visible:
-    case PropertyId::Caption:
     case PropertyId::Picture:
         ArrangeLater();
         break;
@@ -140,9 +138,6 @@ void ScreenWindow::Arrange()
             Last = Stop;
         }
     }
-    for (const auto& [Input, Name] : NamesBeside(TheScreen))
-        if (const auto Known = Views.find(Input); Known != Views.end())
-            Known->second->TakeName(ToQt(Name));
 }
 
 const QPixmap& ScreenWindow::Background()

@@ -18,7 +18,6 @@ class TextBoxView : public QLineEdit, public ControlView
     void Follow(PropertyId What) override;
     void FollowAll() override;
     std::vector<QWidget*> TabStops() override { return {this}; }
-    void TakeName(const QString& Name) override { setAccessibleName(Name); }
 
   protected:
     void paintEvent(QPaintEvent* Event) override;

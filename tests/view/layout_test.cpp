@@ -1,6 +1,5 @@
 #include "toolkit/forms.h"
 #include "toolkit/placing.h"
-#include "view/naming.h"
 #include "view/qt_text.h"
 #include "view/reading_order.h"
 
@@ -12,14 +11,13 @@ namespace orvane {
 
 namespace {
 
-// A screen from a text: "what x y w h" for each control. "#" is a panel, words in quotes are a
-// label, "menu" is a side menu, any other word the name of a text box. A dash before it hides it.
+// A screen from a text: "what x y w h" for each control. "#" is a panel, "menu" a side menu, any
+// other word the name of a text box. A dash before it hides it.
 struct Arrangement
 {
     explicit Arrangement(const char* Text)
     {
-        static const QRegularExpression Part(
-            R"((-?)("[^"]*"|[a-z]+|#) (-?\d+) (-?\d+) (\d+) (\d+))");
+        static const QRegularExpression Part(R"((-?)([a-z]+|#) (-?\d+) (-?\d+) (\d+) (\d+))");
         for (const QRegularExpressionMatch& Each : Part.globalMatch(Text)) {
             Control& New = *Controls.emplace_back(Made(FromQt(Each.captured(2))));
             const auto At = [&](int Which) { return Each.captured(Which).toInt(); };
@@ -33,11 +31,7 @@ struct Arrangement
             return std::make_unique<Shape>(Page, "shp");
         if (What == "menu")
             return std::make_unique<SideMenu>(Page, What);
-        if (!What.starts_with('"'))
-            return std::make_unique<TextBox>(Page, What);
-        auto Words = std::make_unique<Label>(Page, "lbl");
-        Words->Caption = What.substr(1, What.size() - 2);
-        return Words;
+        return std::make_unique<TextBox>(Page, What);
     }
 
     Forms TheForms;
@@ -81,45 +75,6 @@ TEST(ReadingOrder, GoesAsTheEyeDoes)
         for (const Control* Each : ReadingOrder(Given.Page))
             Read += Each->Name() + " ";
         EXPECT_EQ(Read, Expected) << Arranged;
-    }
-}
-
-TEST(NamesOfInputs, AreTheWordsAroundThem)
-{
-    const Cases Rows = {
-        // the label at the left, without its colon and the space before it
-        {R"("Prix coûtant :" 10 80 90 24; a 105 80 60 24)", "Prix coûtant/"},
-        {"\"Prix\u00A0:\" 10 80 90 24; a 105 80 60 24", "Prix/"},
-        // the heading above, and what a sign makes of the boxes behind it
-        {R"("Lin" 10 10 300 24; a 10 40 200 24; "x" 215 40 10 24; b 230 40 40 24;)"
-         R"("=" 275 40 10 24; c 290 40 40 24)",
-         "Lin/Lin, quantité/Lin, prix/"},
-        // the row's own label before the heading
-        {R"("Gemmes" 10 10 300 24; "Jade :" 0 40 10 24; a 10 40 200 24; "x" 215 40 10 24;)"
-         R"(b 230 40 40 24)",
-         "Jade/Jade, quantité/"},
-        // a label that names a neighbour is no heading
-        {R"("Titre" 300 10 90 24; "Prix :" 300 80 90 24; a 395 80 60 24; b 300 120 60 24)",
-         "Prix/Titre/"},
-        // a hidden box takes no label away, another one in between keeps it away
-        {R"("Prix :" 300 80 90 24; -a 395 80 60 24; b 300 120 60 24)", "/Prix/"},
-        {R"("Prix :" 420 300 90 24; a 520 300 60 24; b 700 300 60 24)", "Prix//"},
-        // the nearest of two labels
-        {R"("Loin :" 0 0 50 24; "Près :" 60 0 50 24; a 120 0 50 24)", "Près/"},
-        // what is hidden, in another column or on another panel names nothing
-        {R"(-"Prix :" 420 300 90 24; a 520 300 60 24)", "/"},
-        {R"(-"Prix" 10 10 90 24; a 10 40 60 24)", "/"},
-        {R"("Prix" 10 10 90 24; a 110 40 60 24)", "/"},
-        {R"(# 0 0 99 60; # 110 0 99 60; "Prix :" 10 10 50 24; a 120 10 50 24)", "/"},
-    };
-    for (const auto& [Arranged, Expected] : Rows) {
-        Arrangement Given(Arranged);
-        auto Names = NamesBeside(Given.Page);
-        std::string Found;
-        for (const auto& Each : Given.Controls)
-            if (Each->Kind() == ControlKind::TextBox)
-                Found += Names[Each.get()] + "/";
-        EXPECT_EQ(Found, Expected) << Arranged;
     }
 }
 

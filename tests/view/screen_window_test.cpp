@@ -91,8 +91,7 @@ TEST_F(WindowFollows, WhatIsVisible)
 TEST_F(WindowFollows, WordsForReaders)
 {
     Show();
-    Atelier().lbl_Nom.Caption = "Acheteur :";
-    QCoreApplication::processEvents();
+    Atelier().txt_Nom.Called = "Acheteur";
     const std::tuple<const char*, const char*, const char*> Words[] = {
         {"txt_Nombre", "Nb d'objets", ""},  {"cbo_Objet", "Objet", ""},
         {"txt_Nom", "Acheteur", ""},        {"cmd_Ajouter", "Ajouter", "Ajouter au panier"},

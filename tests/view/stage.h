@@ -28,7 +28,7 @@ class frm_Atelier : public Screen
         PlacePanel(shp_Gauche, {170, 10, 300, 480});
         PlacePanel(shp_Droite, {480, 10, 300, 480});
         PlaceLabel(lbl_Nombre, "Nb d'objets :", {180, 40, 100, 24});
-        Place(txt_Nombre, {290, 40, 100, 24});
+        Place(txt_Nombre, {290, 40, 100, 24}, "Nb d'objets :");
         txt_Nombre.OpenFor(NumberKind::Montant);
         PlaceLabel(lbl_Nom, "Nom :", {180, 80, 100, 24});
         Place(txt_Nom, {290, 80, 100, 24});
@@ -36,7 +36,7 @@ class frm_Atelier : public Screen
         Place(txt_Total, {290, 120, 100, 24});
         txt_Total.Text.StartWith("42");
         PlaceLabel(lbl_Objet, "Objet :", {490, 40, 60, 24});
-        Place(cbo_Objet, {560, 40, 160, 24});
+        Place(cbo_Objet, {560, 40, 160, 24}, "Objet :");
         for (const char* Each : {"Cape", "Épée courte", "Grande épée", "Écharpe"})
             cbo_Objet.AddItem(Each);
         cbo_Objet.OnClick = [this] { Log << QString::number(cbo_Objet.ListIndex); };
