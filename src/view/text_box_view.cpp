@@ -3,21 +3,33 @@
 #include "toolkit/user.h"
 #include "view/act.h"
 #include "view/look.h"
-#include "view/number_typing.h"
 #include "view/qt_text.h"
 
-#include <QAction>
-#include <QClipboard>
-#include <QContextMenuEvent>
-#include <QDropEvent>
-#include <QGuiApplication>
-#include <QInputMethodEvent>
-#include <QKeyEvent>
-#include <QMenu>
-#include <QMimeData>
+#include <QFocusEvent>
 #include <QPainter>
+#include <QRegularExpression>
+#include <QSignalBlocker>
 
 namespace orvane {
+
+namespace {
+
+// One line in composed letters.
+QString NameText(const QString& Typed)
+{
+    static const QRegularExpression Break("[\\p{Cc}\\p{Zl}\\p{Zp}]");
+    QString Result = Typed.normalized(QString::NormalizationForm_C);
+    return Result.contains(Break) ? Result.replace(Break, " ").simplified() : Result;
+}
+
+// As the number texts spell it: no blanks, and a comma where a lone point was meant.
+QString NumberText(QString Typed)
+{
+    Typed.removeIf([](QChar Each) { return Each.isSpace(); });
+    return Typed.count(u'.') == 1 && !Typed.contains(u',') ? Typed.replace(u'.', u',') : Typed;
+}
+
+} // namespace
 
 TextBoxView::TextBoxView(TextBox& Model, User& TheUser, QWidget* Parent)
     : QLineEdit(Parent),
@@ -68,16 +80,28 @@ void TextBoxView::FollowAll()
 
 void TextBoxView::Typed(const QString& Text)
 {
-    Act([&] { TheUser.Type(Box, FromQt(Text)); });
+    const QString Wanted = Spelled(Text);
+    if (Wanted != Text)
+        Respell(Wanted);
+    Act([&] { TheUser.Type(Box, FromQt(Wanted)); });
     ShowText();
-    if (text() != Text) // repaired: the next key replaces it
+    if (text() != Wanted) // repaired: the next key replaces it
         selectAll();
 }
 
-void TextBoxView::Insert(const QString& Pasted)
+QString TextBoxView::Spelled(const QString& Text) const
 {
-    if (!isReadOnly())
-        insert(HoldsNumber() ? NumberText(Pasted) : OneLine(Pasted));
+    return Box.Accepts == NumberKind::None ? NameText(Text) : NumberText(Text);
+}
+
+// What has just come in comes in again, well spelled, so that one step undoes it; a validator that
+// rewrites would leave nothing to undo.
+void TextBoxView::Respell(const QString& Wanted)
+{
+    const QSignalBlocker Quiet(this);
+    undo();
+    const int Start = hasSelectedText() ? selectionStart() : cursorPosition();
+    insert(Wanted.mid(Start, Wanted.size() - (text().size() - selectedText().size())));
 }
 
 void TextBoxView::ShowText()
@@ -154,64 +178,6 @@ void TextBoxView::focusOutEvent(QFocusEvent* Event)
         return;
     setCursorPosition(0);
     ShowFont();
-}
-
-void TextBoxView::keyPressEvent(QKeyEvent* Event)
-{
-    if (Event->matches(QKeySequence::Paste)) {
-        Insert(QGuiApplication::clipboard()->text());
-        return;
-    }
-    if (HoldsNumber() && Event->text() == QLatin1String(".")) {
-        QKeyEvent Comma(QEvent::KeyPress, Qt::Key_Comma, Event->modifiers(), QStringLiteral(","));
-        QLineEdit::keyPressEvent(&Comma);
-        return;
-    }
-    QLineEdit::keyPressEvent(Event);
-}
-
-void TextBoxView::inputMethodEvent(QInputMethodEvent* Event)
-{
-    if (HoldsNumber() && Event->commitString() == QLatin1String("."))
-        Event->setCommitString(QStringLiteral(","), Event->replacementStart(),
-                               Event->replacementLength());
-    QLineEdit::inputMethodEvent(Event);
-}
-
-void TextBoxView::contextMenuEvent(QContextMenuEvent* Event)
-{
-    QMenu* Menu = createStandardContextMenu();
-    Menu->setAttribute(Qt::WA_DeleteOnClose);
-    const QString PasteKey = QKeySequence(QKeySequence::Paste).toString(QKeySequence::NativeText);
-    for (QAction* Each : Menu->actions()) { // its entries bear no names, only their keys
-        if (!Each->text().endsWith(u'\t' + PasteKey))
-            continue;
-        Each->disconnect(this);
-        connect(Each, &QAction::triggered, this,
-                [this] { Insert(QGuiApplication::clipboard()->text()); });
-    }
-    Menu->popup(Event->globalPos());
-}
-
-void TextBoxView::mouseReleaseEvent(QMouseEvent* Event)
-{
-    if (Event->button() == Qt::MiddleButton && QGuiApplication::clipboard()->supportsSelection()) {
-        setCursorPosition(cursorPositionAt(Event->position().toPoint()));
-        Insert(QGuiApplication::clipboard()->text(QClipboard::Selection));
-        return;
-    }
-    QLineEdit::mouseReleaseEvent(Event);
-}
-
-void TextBoxView::dropEvent(QDropEvent* Event)
-{
-    if (isReadOnly() || Event->source() == this) {
-        QLineEdit::dropEvent(Event);
-        return;
-    }
-    setCursorPosition(cursorPositionAt(Event->position().toPoint()));
-    Insert(Event->mimeData()->text());
-    Event->acceptProposedAction();
 }
 
 } // namespace orvane

@@ -23,16 +23,11 @@ class TextBoxView : public QLineEdit, public ControlView
     void paintEvent(QPaintEvent* Event) override;
     void resizeEvent(QResizeEvent* Event) override;
     void focusOutEvent(QFocusEvent* Event) override;
-    void keyPressEvent(QKeyEvent* Event) override;
-    void inputMethodEvent(QInputMethodEvent* Event) override;
-    void contextMenuEvent(QContextMenuEvent* Event) override;
-    void mouseReleaseEvent(QMouseEvent* Event) override;
-    void dropEvent(QDropEvent* Event) override;
 
   private:
-    bool HoldsNumber() const { return Box.Accepts != NumberKind::None; }
     void Typed(const QString& Text);
-    void Insert(const QString& Pasted);
+    QString Spelled(const QString& Text) const;
+    void Respell(const QString& Wanted);
     void ShowText();
     void ShowFont();
     int Room() const; // for the text

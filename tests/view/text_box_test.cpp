@@ -1,11 +1,11 @@
 #include "stage.h"
 #include "view/look.h"
-#include "view/number_typing.h"
 #include "view/text_box_view.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDropEvent>
+#include <QInputMethodEvent>
 #include <QMenu>
 #include <QMimeData>
 
@@ -35,6 +35,11 @@ class TextBoxOnScreen : public Stage
             QDropEvent Drop({5, 5}, Qt::CopyAction, &Data, Qt::LeftButton, Qt::NoModifier);
             QApplication::sendEvent(&Focused(), &Drop);
         };
+        Deeds["compose"] = [](const QString& Text) {
+            QInputMethodEvent Composed;
+            Composed.setCommitString(Text);
+            QApplication::sendEvent(&Focused(), &Composed);
+        };
         Deeds["unlock"] = [this](auto&) { Atelier().txt_Total.Locked = false; };
         Deeds["stale"] = [this](const QString& Is) { Atelier().txt_Total.Stale = Is == "yes"; };
         Deeds["total"] = [this](const QString& Text) { Atelier().txt_Total.Text = FromQt(Text); };
@@ -63,16 +68,24 @@ class TextBoxOnScreen : public Stage
 };
 
 constexpr Row TextRows[] = {
-    {"EachKey", "<in txt_Nom>Bob.", "B|Bo|Bob|Bob."},
+    {"EachKey", "<in txt_Nom>M. d", "M|M.|M. |M. d"},
     {"APointIsACommaInANumber", "<in txt_Nombre>12.5", "1|12|12,|12,5"},
     {"TheKeypadsPointToo", "<in txt_Nombre>7<Num+.>2", "7|7,|7,2"},
     {"APastedNumber", "<copy  1 234.50 ><in txt_Nombre><Ctrl+V>", "1234,50"},
     {"APasteReplacesTheSelection", "<copy 2.5><in txt_Nombre>1<Ctrl+A><Ctrl+V>", "1|2,5"},
     {"ByTheMenu", "<copy 3.25><in txt_Nombre><menu>", "3,25"},
     {"ADrop", "<in txt_Nombre><drop 0.75>", "0,75"},
+    {"AnInputMethodsPoint", "<in txt_Nombre>1<compose .>5", "1|1,|1,5"},
+    {"APasteInTheMiddle", "<copy 3 .><in txt_Nombre>12<Left><Ctrl+V>4", "1|12|13,2|13,42"},
+    {"ABlankIsNoNumber", "<in txt_Nombre>1 2", "1|12"},
     {"ANameKeepsPointsAndBlanks", "<copy M. de\nTours><in txt_Nom><Ctrl+V>", "M. de Tours"},
+    {"ANameInComposedLetters", "<copy E\u0301pe\u0301e\r\n><in txt_Nom><Ctrl+V>", "Épée"},
     {"ARepairedTextIsReplacedByTheNextKey", "<in txt_Nombre>5<Backspace>8", "5||0|8"},
     {"Undo", "<in txt_Nom>ab<Ctrl+Z>", "a|ab|"},
+    {"UndoOfAPoint", "<in txt_Nombre>1.5<Ctrl+Z>", "1|1,|1,5||0"},
+    {"UndoOfAPaste", "<copy 1 234.5><in txt_Nombre>7<Ctrl+A><Ctrl+V><Ctrl+Z>", "7|1234,5|7"},
+    {"UndoOfADropAndRedo", "<in txt_Nombre>7<drop 2.5><Ctrl+Z><Ctrl+Shift+Z>", "7|2,57|7|2,57"},
+    {"TypedAfterUndo", "<copy .5><in txt_Nombre>7<Ctrl+V><Ctrl+Z>8", "7|7,5|7|78"},
     {"TheProgramWrites", "<total Épée>", "Épée"},
     {"ALockedBoxTakesNothing", "<copy 9><in txt_Total>9<Ctrl+V><drop 9><Del><menu>", ""},
     {"ALockedBoxGivesItsText", "<in txt_Total><Ctrl+A><Ctrl+C><in txt_Nom><Ctrl+V>", "42"},
@@ -124,16 +137,18 @@ TEST_F(TextBoxFailure, IsOneBoxAndTheWindowGoesOn)
     EXPECT_EQ(The<TextBoxView>("txt_Nom").text(), "x");
 }
 
-TEST(PastedNumbers, AreSpelledAsTheNumberTextsAre)
+using PastedNumbers = TextBoxOnScreen;
+
+TEST_F(PastedNumbers, AreSpelledAsTheNumberTextsAre)
 {
     // Two separators are left to the reader, and marked.
     for (const QString Each :
          {"12.5=12,5", "12,5=12,5", ".5=,5", " -3 =-3", "12\n=12", "abc=abc", "1 234,50=1234,50",
           "1\u00A0234.5=1234,5", "1\u202F234\u2009567=1234567", "1.234,50=1.234,50",
-          "1.234.567=1.234.567"})
-        EXPECT_EQ(NumberText(Each.section('=', 0, 0)), Each.section('=', 1)) << FromQt(Each);
-    EXPECT_EQ(OneLine("E\u0301pe\u0301e\r\n"), "Épée");
-    EXPECT_EQ(OneLine("un\tdeux\ntrois"), "un deux trois");
+          "1.234.567=1.234.567"}) {
+        Play("<copy " + Each.section('=', 0, 0) + "><in txt_Nombre><Ctrl+A><Ctrl+V>");
+        EXPECT_EQ(ToQt(Atelier().txt_Nombre.Text), Each.section('=', 1)) << FromQt(Each);
+    }
 }
 
 } // namespace orvane
