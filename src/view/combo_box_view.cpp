@@ -86,6 +86,7 @@ EntryPopup& ComboBoxView::MadePopup()
         ThePopup = new EntryPopup(*this, Box);
         ThePopup->OnPick = [this](int Entry) { Pick(Entry); };
     }
+    ThePopup->setAccessibleName(accessibleName());
     return *ThePopup;
 }
 

@@ -41,6 +41,8 @@ class ComboBoxOnScreen : public Stage
     std::string Seen() override
     {
         EXPECT_EQ(FromQt(Field().text()), Box().Text);
+        EXPECT_EQ(Field().accessibleName(), "Objet");
+        EXPECT_TRUE(View().Popup() == nullptr || List().accessibleName() == "Objet");
         QStringList Offered;
         if (const EntryPopup* List = View().Popup(); List != nullptr && List->isVisible())
             for (int Row = 0; Row < List->model()->rowCount(); ++Row)
