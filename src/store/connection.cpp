@@ -254,10 +254,9 @@ void Connection::SetLinkConnect(const std::string& Name, const std::string& Conn
 
 void Connection::RefreshLink(const std::string& Name)
 {
-    Translated(In->File, [&] {
-        In->EndReading();
-        In->Statements.clear();
-        In->Schema.Refresh();
+    const auto File = In->File;
+    Translated(File, [&] {
+        In = std::make_unique<Inside>(File, In->BeforeWrite); // views and attached files go
         In->Schema.Find(Name);
     });
 }

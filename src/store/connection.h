@@ -23,9 +23,6 @@ struct RowSet
     std::vector<std::string> Looked;      // the values that the query looked for
 };
 
-// A row to be written: columns and their new values, by the table's own column names.
-using Assignments = std::vector<std::pair<std::string, Value>>;
-
 // One open file. All handles on the same file share it, so that a nested handler never waits for a
 // lock of its caller. From the first query until Rest() everything is read in one transaction; a
 // write ends it, is durable when the call returns, and reading starts afresh.

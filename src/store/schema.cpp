@@ -9,6 +9,13 @@
 
 namespace orvane {
 
+namespace {
+
+const std::string TableNamed =
+    "SELECT name FROM main.sqlite_schema WHERE type = 'table' AND fold_case(name) = ?";
+
+} // namespace
+
 bool Schema::Knows(const std::string& Name) const
 {
     return Sources.contains(FoldedCase(Name));
@@ -16,37 +23,37 @@ bool Schema::Knows(const std::string& Name) const
 
 const Source& Schema::Find(const std::string& Name)
 {
-    const std::string Key = FoldedCase(Name);
-    if (const auto Known = Sources.find(Key); Known != Sources.end())
-        return Known->second;
-    return Sources.emplace(Key, Load(Name)).first->second;
+    const auto [Place, IsNew] = Sources.try_emplace(FoldedCase(Name)); // empty for a circle to meet
+    if (IsNew)
+        try {
+            Place->second = Load(Name);
+        } catch (...) {
+            Sources.erase(Place);
+            throw;
+        }
+    return Place->second;
 }
 
-std::vector<std::pair<std::string, Value>>
-Schema::Converted(const std::string& Table, const std::vector<std::pair<std::string, Value>>& Row)
+Assignments Schema::Converted(const std::string& Table, const Assignments& Row)
 {
     const Source& From = Find(Table);
-    const std::vector<ColumnKind>& ColumnKinds = Kinds.at(FoldedCase(Table));
-    std::vector<std::pair<std::string, Value>> Result;
+    Assignments Result;
     for (const auto& [Name, Cell] : Row) {
         const int At = FindColumn(From.Columns, From.Name, Name);
         if (At < 0)
             throw Failure(FailureKind::DatabaseIncomplete, Table + "." + Name);
         const auto Index = static_cast<std::size_t>(At);
-        Result.emplace_back(From.Columns[Index], ColumnKinds[Index].Convert(Cell));
+        Result.emplace_back(From.Columns[Index], From.Kinds[Index].Convert(Cell));
     }
     return Result;
 }
 
 std::string Schema::LinkConnect(const std::string& Name)
 {
-    const auto Row = HasTable("LinkedTables")
-                         ? FirstRow("SELECT Connect FROM LinkedTables WHERE fold_case(Nom) = ?",
-                                    FoldedCase(Name))
-                         : std::vector<std::string>{};
-    if (Row.empty())
+    const auto Link = Entry("LinkedTables", "Connect", Name);
+    if (Link.empty())
         throw Failure(FailureKind::DatabaseIncomplete, DisplayName(File) + " : " + Name);
-    return Row[0];
+    return Link[0];
 }
 
 std::vector<std::filesystem::path> Schema::LinkedFiles() const
@@ -57,104 +64,82 @@ std::vector<std::filesystem::path> Schema::LinkedFiles() const
     return Files;
 }
 
-void Schema::Refresh()
-{
-    Sources.clear();
-    Kinds.clear();
-    for (const auto& [Path, Name] : Attached)
-        Base.exec("DETACH " + Name);
-    Attached.clear();
-}
-
 Source Schema::Load(const std::string& Name)
 {
-    if (!Loading.insert(FoldedCase(Name)).second) // a saved query that rests on itself
-        throw Failure(FailureKind::DatabaseIncomplete, DisplayName(File) + " : " + Name);
-    struct Leave
-    {
-        std::set<std::string>& Names;
-        std::string Name;
-        ~Leave() { Names.erase(Name); }
-    } const Done{Loading, FoldedCase(Name)};
-    const auto Known =
-        FirstRow("SELECT name, type FROM main.sqlite_schema WHERE type IN ('table', 'view') "
-                 "AND fold_case(name) = ?",
-                 FoldedCase(Name));
-    if (!Known.empty())
-        return LoadTable("main", Known[0], Known[1] == "view");
-    if (HasTable("SavedQueries"))
-        if (const auto Row = FirstRow(
-                "SELECT Nom, Texte FROM SavedQueries WHERE fold_case(Nom) = ?", FoldedCase(Name));
-            !Row.empty())
-            return TranslateSavedQuery(
-                Row[0], Tokenize(Row[1]),
-                [this](const std::string& Table) -> const Source& { return Find(Table); });
-    if (HasTable("LinkedTables"))
-        if (const auto Row =
-                FirstRow("SELECT Nom, Connect, Source FROM LinkedTables WHERE fold_case(Nom) = ?",
-                         FoldedCase(Name));
-            !Row.empty())
-            return LoadLink(Row[0], Row[1], Row[2]);
-    throw Failure(FailureKind::DatabaseIncomplete, DisplayName(File) + " : " + Name);
-}
-
-Source Schema::LoadTable(const std::string& Prefix, const std::string& Name, bool IsView)
-{
-    Source Result{Name, Prefix + "." + QuotedName(Name), {}, {}, !IsView};
-    std::vector<ColumnKind> ColumnKinds;
-    SQLite::Statement Info(Base, "PRAGMA " + Prefix + ".table_info(" + QuotedName(Name) + ")");
+    const auto Table = FirstRow(TableNamed, Name);
+    const bool IsTable = !Table.empty();
+    Source Result{IsTable ? Table[0] : MakeView(Name), {}, {}, {}, IsTable};
+    SQLite::Statement Info(Base, "PRAGMA table_info(" + QuotedName(Result.Name) + ")");
     while (Info.executeStep()) {
-        Result.Columns.push_back(Info.getColumn("name").getString());
-        ColumnKinds.push_back(ColumnKind::FromDeclaredType(Info.getColumn("type").getString()));
+        const std::string Column = Info.getColumn("name").getString();
+        if (!IsTable && Column.starts_with(PlacePrefix)) {
+            Result.Order.push_back(QuotedName(Column));
+            continue;
+        }
+        Result.Columns.push_back(Column);
+        Result.Kinds.push_back(ColumnKind::FromDeclaredType(Info.getColumn("type").getString()));
     }
-    if (Result.Columns.empty())
-        throw Failure(FailureKind::DatabaseIncomplete, Name);
-    if (!IsView)
+    if (IsTable)
         Result.Order.emplace_back("rowid");
-    if (Prefix == "main")
-        Kinds[FoldedCase(Name)] = std::move(ColumnKinds);
     return Result;
 }
 
-Source Schema::LoadLink(const std::string& Name, const std::string& Connect,
-                        const std::string& Table)
+std::string Schema::MakeView(const std::string& Name)
 {
+    if (const auto Saved = Entry("SavedQueries", "Nom, Texte", Name); !Saved.empty()) {
+        const SourceFinder Tables = [this](const std::string& Each) -> const Source& {
+            return Find(Each);
+        };
+        SQLite::Statement(Base, ViewOf(Saved[0], Saved[1], Tables)).exec();
+        return Saved[0];
+    }
+    const auto Link = Entry("LinkedTables", "Nom, Connect, Source", Name);
+    if (Link.empty())
+        throw Failure(FailureKind::DatabaseIncomplete, DisplayName(File) + " : " + Name);
     const std::filesystem::path Path =
-        Connect.starts_with(ConnectPrefix) ? Connect.substr(ConnectPrefix.size()) : Connect;
+        Link[1].starts_with(ConnectPrefix) ? Link[1].substr(ConnectPrefix.size()) : Link[1];
+    Translated(Path, [&] {
+        const std::string From = " FROM " + Attach(Path) + "." + QuotedName(Link[2]);
+        SQLite::Statement(Base, "SELECT 1" +
+                                    From); // fails here, about that file, when it has no such table
+        Base.exec("CREATE TEMP VIEW IF NOT EXISTS " + QuotedName(Link[0]) + " AS SELECT rowid AS " +
+                  QuotedName(PlacePrefix) + ", *" + From);
+    });
+    return Link[0];
+}
+
+std::string Schema::Attach(const std::filesystem::path& Path)
+{
     std::error_code Error;
     if (!std::filesystem::exists(Path, Error)) // attaching would make it
         throw Failure(FailureKind::DatabaseMissing, DisplayName(Path), Path.string());
-    auto Known = Attached.find(Path);
-    if (Known == Attached.end()) {
-        const std::string Alias = "link" + std::to_string(Attached.size());
-        Translated(Path, [&] {
-            SQLite::Statement Attach(Base, "ATTACH ? AS " + Alias);
-            Attach.bind(1, Path.string());
-            Attach.exec();
-        });
-        Known = Attached.emplace(Path, Alias).first;
-    }
-    Source Result = Translated(Path, [&] { return LoadTable(Known->second, Table, false); });
-    Result.Name = Name;
-    Result.IsTable = false;
-    return Result;
+    if (const auto Known = Attached.find(Path); Known != Attached.end())
+        return Known->second;
+    const std::string Alias = "link" + std::to_string(Attached.size());
+    SQLite::Statement Statement(Base, "ATTACH ? AS " + Alias);
+    Statement.bind(1, Path.string());
+    Statement.exec();
+    return Attached.emplace(Path, Alias).first->second;
 }
 
-bool Schema::HasTable(const std::string& Name)
-{
-    return !FirstRow("SELECT name FROM main.sqlite_schema WHERE type = 'table' AND name = ?", Name)
-                .empty();
-}
-
-std::vector<std::string> Schema::FirstRow(const std::string& Sql, const std::string& Parameter)
+std::vector<std::string> Schema::FirstRow(const std::string& Sql, const std::string& Name)
 {
     SQLite::Statement Statement(Base, Sql);
-    Statement.bind(1, Parameter);
+    Statement.bind(1, FoldedCase(Name));
     std::vector<std::string> Row;
     if (Statement.executeStep())
         for (int i = 0; i < Statement.getColumnCount(); ++i)
             Row.push_back(Statement.getColumn(i).getString());
     return Row;
+}
+
+std::vector<std::string> Schema::Entry(const std::string& Table, const std::string& Columns,
+                                       const std::string& Name)
+{
+    return FirstRow(TableNamed, Table).empty()
+               ? std::vector<std::string>{}
+               : FirstRow("SELECT " + Columns + " FROM " + Table + " WHERE fold_case(Nom) = ?",
+                          Name);
 }
 
 } // namespace orvane

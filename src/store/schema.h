@@ -5,7 +5,6 @@
 
 #include <filesystem>
 #include <map>
-#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -17,7 +16,8 @@ class Database;
 namespace orvane {
 
 // What a file holds, read as it is asked for: tables, saved queries (table SavedQueries), linked
-// tables (table LinkedTables). Names are found whatever their case.
+// tables (table LinkedTables). The last two become temporary views of the connection, since a view
+// in the file can't reach another file. Names are found whatever their case.
 class Schema
 {
   public:
@@ -31,29 +31,31 @@ class Schema
     const Source& Find(const std::string& Name);
 
     // The values as the table's columns hold them, under the columns' own names.
-    std::vector<std::pair<std::string, Value>>
-    Converted(const std::string& Table, const std::vector<std::pair<std::string, Value>>& Row);
+    Assignments Converted(const std::string& Table, const Assignments& Row);
 
     std::string LinkConnect(const std::string& Name);
 
     // The files that linked tables have been attached from.
     std::vector<std::filesystem::path> LinkedFiles() const;
 
-    // Forgets everything, attached files included.
-    void Refresh();
-
   private:
     Source Load(const std::string& Name);
-    Source LoadTable(const std::string& Prefix, const std::string& Name, bool IsView);
-    Source LoadLink(const std::string& Name, const std::string& Connect, const std::string& Table);
-    bool HasTable(const std::string& Name);
-    std::vector<std::string> FirstRow(const std::string& Sql, const std::string& Parameter);
+
+    // Makes the temporary view that a saved query or a linked table is read through. Its own name.
+    std::string MakeView(const std::string& Name);
+
+    // The name in SQL of a linked file, which is attached when it isn't yet.
+    std::string Attach(const std::filesystem::path& Path);
+
+    // The first row of a query with a name, folded, as its parameter; of one of the store's own
+    // tables, which a file may lack.
+    std::vector<std::string> FirstRow(const std::string& Sql, const std::string& Name);
+    std::vector<std::string> Entry(const std::string& Table, const std::string& Columns,
+                                   const std::string& Name);
 
     SQLite::Database& Base;
     const std::filesystem::path& File;
     std::map<std::string, Source> Sources;                 // by folded name
-    std::map<std::string, std::vector<ColumnKind>> Kinds;  // by folded table name
-    std::set<std::string> Loading;                         // folded names, while they are read
     std::map<std::filesystem::path, std::string> Attached; // file and its name in SQL
 };
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/value.h"
+
 #include <functional>
 #include <map>
 #include <string>
@@ -12,11 +14,14 @@ namespace orvane {
 struct Source
 {
     std::string Name;
-    std::string From;                 // SQL that stands behind FROM
     std::vector<std::string> Columns; // as the source calls them, such as "Matériaux_1.Nom"
+    std::vector<ColumnKind> Kinds;    // of Columns
     std::vector<std::string> Order;   // SQL terms of the order that rows have by themselves
     bool IsTable = false;             // of this file, so that its rows can be changed
 };
+
+// A row to be written: columns and their new values, by the table's own column names.
+using Assignments = std::vector<std::pair<std::string, Value>>;
 
 // The source of that name. Failure (Kind::DatabaseIncomplete) when there is none.
 using SourceFinder = std::function<const Source&(const std::string& Name)>;

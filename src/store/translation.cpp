@@ -3,6 +3,7 @@
 #include "base/failure.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace orvane {
 
@@ -14,6 +15,12 @@ namespace {
     for (const Token& Each : Query)
         Sql += (Sql.empty() ? "" : " ") + Each.Content;
     throw Failure(FailureKind::Store, Sql, "unreadable query");
+}
+
+// The name of a saved query's hidden column with the place of its rows in its i-th table.
+std::string PlaceColumn(int i)
+{
+    return QuotedName(PlacePrefix + std::to_string(i));
 }
 
 std::size_t FindKeyword(Tokens Query, std::string_view Keyword)
@@ -94,68 +101,6 @@ std::string WhereOf(Tokens Query, std::size_t Where, std::size_t End, const Colu
                         : " WHERE " + TranslateCondition(Query, Where + 1, End, Resolve, How);
 }
 
-// "Table.Column" of a saved query's text as a qualified SQL name.
-std::string QualifiedName(const std::string& Name)
-{
-    const auto Dot = Name.rfind('.');
-    if (Dot == std::string::npos)
-        throw Failure(FailureKind::DatabaseIncomplete, Name, "a saved query names its tables");
-    return QuotedName(Name.substr(0, Dot)) + "." + QuotedName(Name.substr(Dot + 1));
-}
-
-// The FROM of a saved query, joins included.
-class JoinTranslator
-{
-  public:
-    JoinTranslator(Tokens From, const SourceFinder& Find) : From(From), Find(Find) {}
-
-    std::string Run()
-    {
-        while (At < From.size())
-            Step();
-        return Sql;
-    }
-
-    // Each table's row number, first table first: the order of the query's rows.
-    std::vector<std::string> RowNumbers;
-
-  private:
-    void Step()
-    {
-        const Token& Current = From[At++];
-        if (Current.Is("JOIN"))
-            TableNext = true;
-        if (Current.Is("ON"))
-            TableNext = false;
-        if (Current.Kind != TokenKind::Word || Current.Is("JOIN") || Current.Is("ON") ||
-            Current.Is("INNER") || Current.Is("LEFT") || Current.Is("RIGHT") || Current.Is("AND") ||
-            Current.Is("OR"))
-            Sql += " " + Current.Content;
-        else if (TableNext)
-            AddTable(Current.Content);
-        else
-            Sql += " " + QualifiedName(Current.Content);
-    }
-
-    void AddTable(const std::string& Name)
-    {
-        std::string Alias = Name;
-        if (At + 1 < From.size() && From[At].Is("AS")) {
-            Alias = From[At + 1].Content;
-            At += 2;
-        }
-        TableNext = false;
-        Sql += " " + Find(Name).From + " AS " + QuotedName(Alias);
-        RowNumbers.push_back(QuotedName(Alias) + ".rowid");
-    }
-
-    Tokens From;
-    const SourceFinder& Find;
-    std::size_t At = 0;
-    bool TableNext = true;
-    std::string Sql;
-};
-
 } // namespace
 
 Translation TranslateSelect(Tokens Query, const SourceFinder& Find)
@@ -178,7 +123,7 @@ Translation TranslateSelect(Tokens Query, const SourceFinder& Find)
         Result.Sql += ", rowid";
     }
     const std::size_t Terms = std::min(Parts.OrderBy + 2, Query.size());
-    Result.Sql += " FROM " + From.From +
+    Result.Sql += " FROM " + QuotedName(From.Name) +
                   WhereOf(Query, Parts.Where, Parts.OrderBy, Resolve, Literals::Bound) +
                   OrderOf(Query.subspan(Terms), From, Resolve);
     return Result;
@@ -195,34 +140,42 @@ std::string TranslateDelete(Tokens Query, const SourceFinder& Find)
     const ColumnResolver Resolve = [&](const std::string& Name) {
         return QuotedName(From.Columns[ColumnAt(From, Name)]);
     };
-    return "DELETE FROM " + From.From +
+    return "DELETE FROM " + QuotedName(From.Name) +
            WhereOf(Query, FindKeyword(Query, "WHERE"), Query.size(), Resolve, Literals::Bound);
 }
 
-Source TranslateSavedQuery(const std::string& Name, Tokens Query, const SourceFinder& Find)
+std::string ViewOf(const std::string& Name, const std::string& Text, const SourceFinder& Find)
 {
-    const Clauses Parts = SplitClauses(Query);
-    if (Parts.Distinct || Parts.OrderBy < Query.size()) // its rows have an order of their own
+    constexpr std::string_view Select = "SELECT";
+    const std::vector<Token> Query = Tokenize(Text);
+    std::string Columns;
+    std::string PlaceColumns;
+    std::string Places;
+    int Count = 0;
+    bool ListEnded = false;
+    bool TableNext = false;
+    for (std::size_t At = 1; At < Query.size(); ++At) {
+        const Token& Each = Query[At];
+        if (Each.Is("FROM") || Each.Is("JOIN"))
+            ListEnded = TableNext = true;
+        else if (Each.Kind == TokenKind::Word && !ListEnded)
+            Columns += ", " + QuotedName(Each.Content);
+        else if (Each.Kind == TokenKind::Word && std::exchange(TableNext, false)) {
+            const bool Renamed = At + 2 < Query.size() && Query[At + 1].Is("AS");
+            for (const std::string& Term : Find(Each.Content).Order) {
+                Places += (Count == 0 ? " " : ", ") +
+                          QuotedName(Query[Renamed ? At + 2 : At].Content) + "." + Term;
+                PlaceColumns += (Count == 0 ? "" : ", ") + PlaceColumn(Count);
+                ++Count;
+            }
+        }
+    }
+    // SQLite would mind the case of a text.
+    const bool HasText = std::ranges::find(Query, TokenKind::Text, &Token::Kind) != Query.end();
+    if (!Text.starts_with(Select) || Count == 0 || HasText)
         ThrowUnreadable(Query);
-    JoinTranslator Joins(Query.subspan(Parts.From + 1, Parts.Where - Parts.From - 1), Find);
-    const std::string From = Joins.Run();
-    Source Result{Name, {}, {}, {}, false};
-    std::string Items;
-    for (std::size_t At = Parts.Items; At < Parts.From; ++At) {
-        if (Query[At].Kind != TokenKind::Word)
-            continue;
-        const std::string& Column = Query[At].Content;
-        Items += (Items.empty() ? "" : ", ") + QualifiedName(Column) + " AS " + QuotedName(Column);
-        Result.Columns.push_back(Column);
-    }
-    for (std::size_t i = 0; i < Joins.RowNumbers.size(); ++i) {
-        Result.Order.push_back(QuotedName("#" + std::to_string(i)));
-        Items += ", " + Joins.RowNumbers[i] + " AS " + Result.Order.back();
-    }
-    Result.From = "(SELECT " + Items + " FROM" + From +
-                  WhereOf(Query, Parts.Where, Parts.OrderBy, QualifiedName, Literals::Written) +
-                  ")";
-    return Result;
+    return "CREATE TEMP VIEW IF NOT EXISTS " + QuotedName(Name) + " (" + PlaceColumns + Columns +
+           ") AS SELECT" + Places + "," + Text.substr(Select.size());
 }
 
 } // namespace orvane

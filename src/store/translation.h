@@ -27,8 +27,12 @@ Translation TranslateSelect(Tokens Query, const SourceFinder& Find);
 // DELETE * FROM table [WHERE condition].
 std::string TranslateDelete(Tokens Query, const SourceFinder& Find);
 
-// A saved query as a source: SELECT with qualified columns, joins and a condition. Its columns are
-// called table.column.
-Source TranslateSavedQuery(const std::string& Name, Tokens Query, const SourceFinder& Find);
+// A saved query as a temporary view of its name. The text is a SELECT of SQLite's own whose columns
+// are all written table.column, which is what the view calls them; its conditions compare numbers.
+// Before them stand the places of a row in the tables, first table first, as hidden columns.
+std::string ViewOf(const std::string& Name, const std::string& Text, const SourceFinder& Find);
+
+// What the names of hidden columns begin with.
+inline const std::string PlacePrefix = "#";
 
 } // namespace orvane

@@ -19,7 +19,8 @@ const char* const Tables = R"(
      FROM ((Objets INNER JOIN Types ON Objets.Type = Types.Num)
      LEFT JOIN Mats ON Objets.Mat1 = Mats.Num) LEFT JOIN Mats AS Mats_1 ON Objets.Mat2 = Mats_1.Num'),
     ('R_Arcs', 'SELECT Objets.Nom, Types.Nom FROM Objets INNER JOIN Types ON Objets.Type = Types.Num
-     WHERE Types.Nom = "À l''ARC" AND Objets.Num < 4'),
+     WHERE Types.Num = 1 AND Objets.Num < 4'),
+    ('R_Texte', 'SELECT Objets.Nom FROM Objets WHERE Objets.Nom = "Arc"'),
     ('R_Cercle', 'SELECT R_Cercle.Nom FROM R_Cercle INNER JOIN Objets ON Objets.Nom = Objets.Nom'),
     ('R_Seconde', 'SELECT R_Arcs.Nom FROM R_Absente INNER JOIN R_Arcs ON R_Arcs.Nom = R_Arcs.Nom'),
     ('R_Liés', 'SELECT Objets.Nom, Liée.Nom FROM Objets LEFT JOIN Liée ON Objets.Type = Liée.Num
@@ -75,7 +76,8 @@ TEST_F(SourceTest, WhatASavedQueryCannotGiveFails)
     EXPECT_FAILS(Store, Rows.Edit());
     EXPECT_FAILS(Store, Base.Execute("DELETE * FROM R_Objets"));
     EXPECT_FAILS(DatabaseIncomplete, Base.OpenRecordset("SELECT * FROM R_Seconde"));
-    EXPECT_FAILS(DatabaseIncomplete, Base.OpenRecordset("SELECT * FROM R_Cercle"));
+    EXPECT_FAILS(Store, Base.OpenRecordset("SELECT * FROM R_Cercle"));
+    EXPECT_FAILS(Store, Base.OpenRecordset("SELECT * FROM R_Texte"));
 }
 
 TEST_F(SourceTest, ALinkedTableIsReadDirectlyAndThroughASavedQuery)
