@@ -141,7 +141,7 @@ void DatabaseMaker::Insert(const TableDefinition& Table, const std::vector<std::
             const auto Type =
                 Definition == Table.Columns.end() ? ColumnType::Text : Definition->Type;
             BindValue(Insertion, static_cast<int>(i) + 1,
-                      ColumnKind::FromDeclaredType(DeclaredType(Type)).Convert(Row[i]));
+                      ColumnKind(DeclaredType(Type)).Convert(Row[i]));
         }
         Insertion.exec();
     });

@@ -191,26 +191,21 @@ void Connection::Delete(std::string_view Sql)
     });
 }
 
-Assignments Connection::Insert(const std::string& Table, const Assignments& Row, std::int64_t& Key)
+void Connection::Insert(const std::string& Table, const Assignments& Row)
 {
-    return Translated(In->File, [&] {
-        Assignments Stored = In->Schema.Converted(Table, Row);
+    Translated(In->File, [&] {
         std::string Names;
         std::string Marks;
         std::vector<Value> Values;
-        for (const auto& [Column, Cell] : Stored) {
+        for (const auto& [Column, Cell] : In->Schema.Converted(Table, Row)) {
             Names += (Names.empty() ? "" : ", ") + QuotedName(Column);
             Marks += Marks.empty() ? "?" : ", ?";
             Values.push_back(Cell);
         }
         In->Write([&] {
-            In->Run(
-                "INSERT INTO " + QuotedName(Table) +
-                    (Names.empty() ? " DEFAULT VALUES" : " (" + Names + ") VALUES (" + Marks + ")"),
-                Values);
-            Key = In->Base.getLastInsertRowid();
+            In->Run("INSERT INTO " + QuotedName(Table) + " (" + Names + ") VALUES (" + Marks + ")",
+                    Values);
         });
-        return Stored;
     });
 }
 

@@ -42,8 +42,9 @@ class Connection
     RowSet Select(std::string_view Sql);
     void Delete(std::string_view Sql);
 
-    // The stored values, converted to the columns' kinds. A refused value leaves the row as it was.
-    Assignments Insert(const std::string& Table, const Assignments& Row, std::int64_t& Key);
+    // Values are converted to the columns' kinds; Change tells what it stored. A refused value
+    // leaves the row as it was.
+    void Insert(const std::string& Table, const Assignments& Row);
     Assignments Change(const std::string& Table, std::int64_t Key, const Assignments& Row);
 
     // ";DATABASE=" and the full path of the file that a linked table comes from.

@@ -102,22 +102,15 @@ void Recordset::Set(std::string_view Name, std::int64_t Number)
     Put(Name, Value(Number));
 }
 
-void Recordset::SetNull(std::string_view Name)
-{
-    Put(Name, Value());
-}
-
 void Recordset::Update()
 {
     const Mode Done = std::exchange(TheMode, Mode::Reading);
     const Assignments Row = std::exchange(Pending, {});
-    if (Done == Mode::Adding) {
-        std::int64_t Key = 0;
-        Base->Insert(Rows.Table, Row, Key);
-    } else if (Done == Mode::Editing) {
+    if (Done == Mode::Adding)
+        Base->Insert(Rows.Table, Row);
+    else if (Done == Mode::Editing)
         for (const auto& [Name, Stored] : Base->Change(Rows.Table, Rows.Keys[At], Row))
             Rows.Rows[At][ColumnAt(Name)] = Stored;
-    }
 }
 
 const Value& Recordset::Cell(std::string_view Name) const

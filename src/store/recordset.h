@@ -41,7 +41,6 @@ class Recordset
     void AddNew();
     void Set(std::string_view Name, std::string Text);
     void Set(std::string_view Name, std::int64_t Number);
-    void SetNull(std::string_view Name);
     void Update();
 
   private:

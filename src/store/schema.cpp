@@ -11,7 +11,7 @@ namespace orvane {
 
 namespace {
 
-const std::string TableNamed =
+constexpr const char* TableNamed =
     "SELECT name FROM main.sqlite_schema WHERE type = 'table' AND fold_case(name) = ?";
 
 } // namespace
@@ -77,7 +77,7 @@ Source Schema::Load(const std::string& Name)
             continue;
         }
         Result.Columns.push_back(Column);
-        Result.Kinds.push_back(ColumnKind::FromDeclaredType(Info.getColumn("type").getString()));
+        Result.Kinds.emplace_back(Info.getColumn("type").getString());
     }
     if (IsTable)
         Result.Order.emplace_back("rowid");

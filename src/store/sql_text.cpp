@@ -58,28 +58,17 @@ class Scanner
         if (First == '"' || First == '\'')
             return {TokenKind::Text, Delimited(First)};
         if (First == '[')
-            return {TokenKind::Word, Bracketed()};
-        if (IsDigit(First))
-            return {TokenKind::Number,
-                    While([](char Letter) { return IsDigit(Letter) || Letter == '.'; })};
+            return {TokenKind::Word, Delimited(']')};
+        if (IsDigit(First) || (First == '-' && At + 1 < Sql.size() && IsDigit(Sql[At + 1]))) {
+            ++At;
+            return {TokenKind::Number, First + While(IsDigit)};
+        }
         if (IsNameLetter(First))
             return {TokenKind::Word, While(IsNameLetter)};
-        const bool Pair =
-            Sql.substr(At, 2) == "<>" || Sql.substr(At, 2) == ">=" || Sql.substr(At, 2) == "<=";
-        const std::string Symbol(Sql.substr(At, Pair ? 2 : 1));
-        At += Symbol.size();
-        return {TokenKind::Symbol, Symbol};
-    }
-
-    // [Table] or [Table].[Column].
-    std::string Bracketed()
-    {
-        std::string Name = Delimited(']');
-        while (Sql.substr(At, 2) == ".[") {
-            ++At;
-            Name += "." + Delimited(']');
-        }
-        return Name;
+        ++At;
+        if (std::string_view("(),*=>").find(First) == std::string_view::npos)
+            ThrowUnreadable(Sql);
+        return {TokenKind::Symbol, std::string(1, First)};
     }
 
     template <class Predicate>
@@ -103,7 +92,7 @@ class Scanner
             }
             Content += Sql[At];
         }
-        throw Failure(FailureKind::Store, std::string(Sql), "unterminated text");
+        ThrowUnreadable(Sql);
     }
 
     std::string_view Sql;
@@ -134,11 +123,12 @@ bool Token::Is(std::string_view Keyword) const
 
 std::vector<Token> Tokenize(std::string_view Sql)
 {
-    std::vector<Token> Tokens = Scanner(Sql).Run();
-    while (!Tokens.empty() && Tokens.back().Kind == TokenKind::Symbol &&
-           Tokens.back().Content == ";")
-        Tokens.pop_back();
-    return Tokens;
+    return Scanner(Sql).Run();
+}
+
+void ThrowUnreadable(std::string_view Sql)
+{
+    throw Failure(FailureKind::Store, std::string(Sql), "unreadable query");
 }
 
 } // namespace orvane

@@ -24,8 +24,11 @@ struct Token
     bool Is(std::string_view Keyword) const;
 };
 
-// Without the semicolon that may end a query. Failure (Kind::Store) for a text or bracket that
+// Failure (Kind::Store) for a sign that the dialect doesn't have, and for a text or bracket that
 // doesn't end.
 std::vector<Token> Tokenize(std::string_view Sql);
+
+// Failure (Kind::Store) for a query that isn't of the dialect.
+[[noreturn]] void ThrowUnreadable(std::string_view Sql);
 
 } // namespace orvane

@@ -9,13 +9,116 @@ namespace orvane {
 
 namespace {
 
-[[noreturn]] void ThrowUnreadable(Tokens Query)
+[[noreturn]] void Refuse(Tokens Query)
 {
     std::string Sql;
     for (const Token& Each : Query)
         Sql += (Sql.empty() ? "" : " ") + Each.Content;
-    throw Failure(FailureKind::Store, Sql, "unreadable query");
+    ThrowUnreadable(Sql);
 }
+
+// The column that the query calls Name.
+std::string ColumnOf(const Source& From, const std::string& Name)
+{
+    const int At = FindColumn(From.Columns, From.Name, Name);
+    if (At < 0)
+        throw Failure(FailureKind::DatabaseIncomplete, From.Name + "." + Name);
+    return From.Columns[static_cast<std::size_t>(At)];
+}
+
+// Reads a query word by word.
+class Reader
+{
+  public:
+    explicit Reader(Tokens Query) : Query(Query) {}
+
+    bool Takes(std::string_view Word)
+    {
+        const bool Found = At < Query.size() && Query[At].Is(Word);
+        At += Found ? 1 : 0;
+        return Found;
+    }
+
+    void Expect(std::string_view Word)
+    {
+        if (!Takes(Word))
+            Refuse(Query);
+    }
+
+    std::string Name() { return Query[Expect(TokenKind::Word)].Content; }
+
+    // The names in a SELECT list; none for *.
+    std::vector<std::string> Names()
+    {
+        std::vector<std::string> Found;
+        if (Takes("*"))
+            return Found;
+        do
+            Found.push_back(Name());
+        while (Takes(","));
+        return Found;
+    }
+
+    // " WHERE ...", or nothing when the query has no condition.
+    std::string Where(const Source& From)
+    {
+        return Takes("WHERE") ? " WHERE " + Condition(From) : std::string();
+    }
+
+    void ExpectEnd()
+    {
+        if (At < Query.size())
+            Refuse(Query);
+    }
+
+  private:
+    std::size_t Expect(TokenKind Kind)
+    {
+        if (At == Query.size() || Query[At].Kind != Kind)
+            Refuse(Query);
+        return At++;
+    }
+
+    std::string Condition(const Source& From)
+    {
+        std::string Sql = Comparison(From);
+        while (Takes("AND"))
+            Sql += " AND " + Comparison(From);
+        return Sql;
+    }
+
+    std::string Comparison(const Source& From)
+    {
+        if (Takes("(")) {
+            const std::string Inner = Condition(From);
+            Expect(")");
+            return "(" + Inner + ")";
+        }
+        const std::string Called = Name();
+        const bool IsLike = Takes("LIKE");
+        const bool IsGreater = !IsLike && Takes(">");
+        if (!IsLike && !IsGreater)
+            Expect("=");
+        const bool IsText =
+            IsLike || (!IsGreater && At < Query.size() && Query[At].Kind == TokenKind::Text);
+        const Literal Given =
+            LiteralAt(Query, Expect(IsText ? TokenKind::Text : TokenKind::Number));
+        const std::string Column = QuotedName(ColumnOf(From, Called));
+        if (IsLike)
+            return "text_like(" + Column + ", ?)";
+        if (!IsText)
+            return Column + (IsGreater ? " > ?" : " = ?");
+        if (Given.TheForm == Literal::Form::Folded)
+            return "fold_case(" + Column + ") = ?";
+        std::string Marks = "?";
+        for (std::size_t i = 1; i < Given.Values.size(); ++i)
+            Marks += ", ?";
+        return Column + " COLLATE NOCASE IN (" + Marks + ")";
+    }
+
+    Tokens Query;
+    std::size_t At = 0;
+};
 
 // The name of a saved query's hidden column with the place of its rows in its i-th table.
 std::string PlaceColumn(int i)
@@ -23,125 +126,51 @@ std::string PlaceColumn(int i)
     return QuotedName(PlacePrefix + std::to_string(i));
 }
 
-std::size_t FindKeyword(Tokens Query, std::string_view Keyword)
-{
-    for (std::size_t At = 0; At < Query.size(); ++At)
-        if (Query[At].Kind == TokenKind::Word && Query[At].Is(Keyword))
-            return At;
-    return Query.size();
-}
-
-// Where the clauses of a query begin; one that is absent begins where the next one does.
-struct Clauses
-{
-    bool Distinct = false;
-    std::size_t Items = 0;
-    std::size_t From = 0;
-    std::size_t Where = 0;
-    std::size_t OrderBy = 0;
-};
-
-Clauses SplitClauses(Tokens Query)
-{
-    if (Query.empty() || !Query[0].Is("SELECT"))
-        ThrowUnreadable(Query);
-    Clauses Found;
-    Found.Distinct = Query.size() > 1 && Query[1].Is("DISTINCT");
-    Found.Items = Found.Distinct ? 2 : 1;
-    Found.From = FindKeyword(Query, "FROM");
-    Found.OrderBy = FindKeyword(Query, "ORDER");
-    Found.Where = std::min(FindKeyword(Query, "WHERE"), Found.OrderBy);
-    if (Found.From + 1 >= Found.Where || Found.From <= Found.Items)
-        ThrowUnreadable(Query);
-    return Found;
-}
-
-std::size_t ColumnAt(const Source& From, const std::string& Name)
-{
-    const int At = FindColumn(From.Columns, From.Name, Name);
-    if (At < 0)
-        throw Failure(FailureKind::DatabaseIncomplete, From.Name + "." + Name);
-    return static_cast<std::size_t>(At);
-}
-
-std::vector<std::string> SelectedColumns(Tokens Items, const Source& From)
-{
-    if (Items.size() == 1 && Items[0].Content == "*")
-        return From.Columns;
-    std::vector<std::string> Columns;
-    for (const Token& Item : Items)
-        if (Item.Kind == TokenKind::Word)
-            Columns.push_back(From.Columns[ColumnAt(From, Item.Content)]);
-    return Columns;
-}
-
-// " ORDER BY ..." of the query's own terms and then of the source's natural order.
-std::string OrderOf(Tokens Terms, const Source& From, const ColumnResolver& Resolve)
-{
-    std::vector<std::string> All;
-    for (const Token& Term : Terms) {
-        if (Term.Kind != TokenKind::Word)
-            continue;
-        if (Term.Is("DESC") && !All.empty())
-            All.back() += " DESC";
-        else if (!Term.Is("ASC"))
-            All.push_back(Resolve(Term.Content) + " COLLATE FRENCH");
-    }
-    All.insert(All.end(), From.Order.begin(), From.Order.end());
-    std::string Sql;
-    for (const std::string& Term : All)
-        Sql += (Sql.empty() ? " ORDER BY " : ", ") + Term;
-    return Sql;
-}
-
-std::string WhereOf(Tokens Query, std::size_t Where, std::size_t End, const ColumnResolver& Resolve,
-                    Literals How)
-{
-    return Where >= End ? std::string()
-                        : " WHERE " + TranslateCondition(Query, Where + 1, End, Resolve, How);
-}
-
 } // namespace
 
 Translation TranslateSelect(Tokens Query, const SourceFinder& Find)
 {
-    const Clauses Parts = SplitClauses(Query);
-    if (Parts.From + 2 != Parts.Where) // joins are for saved queries
-        ThrowUnreadable(Query);
-    const Source& From = Find(Query[Parts.From + 1].Content);
-    const ColumnResolver Resolve = [&](const std::string& Name) {
-        return QuotedName(From.Columns[ColumnAt(From, Name)]);
-    };
+    Reader Next(Query);
+    Next.Expect("SELECT");
     Translation Result;
+    Result.Distinct = Next.Takes("DISTINCT");
+    const std::vector<std::string> Names = Next.Names();
+    Next.Expect("FROM");
+    const Source& From = Find(Next.Name());
     Result.Source = From.Name;
-    Result.Distinct = Parts.Distinct;
-    Result.Columns = SelectedColumns(Query.subspan(Parts.Items, Parts.From - Parts.Items), From);
+    if (Names.empty())
+        Result.Columns = From.Columns;
+    for (const std::string& Name : Names)
+        Result.Columns.push_back(ColumnOf(From, Name));
     for (const std::string& Column : Result.Columns)
         Result.Sql += (Result.Sql.empty() ? "SELECT " : ", ") + QuotedName(Column);
-    if (From.IsTable && !Parts.Distinct) {
+    if (From.IsTable && !Result.Distinct) {
         Result.Table = From.Name;
         Result.Sql += ", rowid";
     }
-    const std::size_t Terms = std::min(Parts.OrderBy + 2, Query.size());
-    Result.Sql += " FROM " + QuotedName(From.Name) +
-                  WhereOf(Query, Parts.Where, Parts.OrderBy, Resolve, Literals::Bound) +
-                  OrderOf(Query.subspan(Terms), From, Resolve);
+    Result.Sql += " FROM " + QuotedName(From.Name) + Next.Where(From) + " ORDER BY ";
+    if (Next.Takes("ORDER")) {
+        Next.Expect("BY");
+        Result.Sql += QuotedName(ColumnOf(From, Next.Name())) + " COLLATE FRENCH, ";
+    }
+    Next.ExpectEnd();
+    for (const std::string& Term : From.Order)
+        Result.Sql += (&Term == &From.Order.front() ? "" : ", ") + Term;
     return Result;
 }
 
 std::string TranslateDelete(Tokens Query, const SourceFinder& Find)
 {
-    const std::size_t FromAt = FindKeyword(Query, "FROM");
-    if (Query.empty() || !Query[0].Is("DELETE") || FromAt + 1 >= Query.size())
-        ThrowUnreadable(Query);
-    const Source& From = Find(Query[FromAt + 1].Content);
+    Reader Next(Query);
+    Next.Expect("DELETE");
+    Next.Expect("*");
+    Next.Expect("FROM");
+    const Source& From = Find(Next.Name());
     if (!From.IsTable)
         throw Failure(FailureKind::Store, From.Name, "rows are deleted from tables only");
-    const ColumnResolver Resolve = [&](const std::string& Name) {
-        return QuotedName(From.Columns[ColumnAt(From, Name)]);
-    };
-    return "DELETE FROM " + QuotedName(From.Name) +
-           WhereOf(Query, FindKeyword(Query, "WHERE"), Query.size(), Resolve, Literals::Bound);
+    const std::string Sql = "DELETE FROM " + QuotedName(From.Name) + Next.Where(From);
+    Next.ExpectEnd();
+    return Sql;
 }
 
 std::string ViewOf(const std::string& Name, const std::string& Text, const SourceFinder& Find)
@@ -173,7 +202,7 @@ std::string ViewOf(const std::string& Name, const std::string& Text, const Sourc
     // SQLite would mind the case of a text.
     const bool HasText = std::ranges::find(Query, TokenKind::Text, &Token::Kind) != Query.end();
     if (!Text.starts_with(Select) || Count == 0 || HasText)
-        ThrowUnreadable(Query);
+        Refuse(Query);
     return "CREATE TEMP VIEW IF NOT EXISTS " + QuotedName(Name) + " (" + PlaceColumns + Columns +
            ") AS SELECT" + Places + "," + Text.substr(Select.size());
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/condition.h"
+#include "store/query_shape.h"
 #include "store/source.h"
 
 #include <string>
@@ -21,7 +21,9 @@ struct Translation
     bool Distinct = false; // equal rows are to be dropped, the first one kept
 };
 
-// SELECT [DISTINCT] columns FROM source [WHERE condition] [ORDER BY columns].
+// SELECT [DISTINCT] columns FROM source [WHERE condition] [ORDER BY column]. A condition compares
+// columns with values: = and LIKE with texts, = and > with numbers, joined by AND, in brackets or
+// not. Failure (Kind::Store) for anything else, as for each query here.
 Translation TranslateSelect(Tokens Query, const SourceFinder& Find);
 
 // DELETE * FROM table [WHERE condition].

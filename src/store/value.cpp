@@ -4,7 +4,6 @@
 #include "base/number_text.h"
 
 #include <algorithm>
-#include <charconv>
 
 namespace orvane {
 
@@ -13,42 +12,11 @@ namespace {
 constexpr int MoneyDecimals = 4;
 constexpr std::size_t DigitsOfDouble = 15;
 
-std::string Upper(std::string_view Text)
-{
-    std::string Result(Text);
-    std::ranges::transform(Result, Result.begin(), [](char Letter) {
-        return Letter >= 'a' && Letter <= 'z' ? static_cast<char>(Letter - 32) : Letter;
-    });
-    return Result;
-}
-
-// The scale of "DECIMAL(19,4)": 4; of "DECIMAL(19)": 0; of "DECIMAL": as money.
-int DeclaredDecimals(std::string_view Type)
-{
-    const auto Open = Type.find('(');
-    if (Open == std::string_view::npos)
-        return MoneyDecimals;
-    const auto Comma = Type.find(',', Open);
-    if (Comma == std::string_view::npos)
-        return 0;
-    const auto Digit = Type.find_first_not_of(' ', Comma + 1);
-    int Scale = 0;
-    if (Digit != std::string_view::npos)
-        std::from_chars(Type.data() + Digit, Type.data() + Type.size(), Scale);
-    return Scale;
-}
-
-bool ContainsOneOf(std::string_view Text, std::initializer_list<std::string_view> Words)
-{
-    return std::ranges::any_of(
-        Words, [&](std::string_view Word) { return Text.find(Word) != std::string_view::npos; });
-}
-
 // A decimal as SQLite holds it best: whole, a double that gives the same digits back, or, past a
 // double's 15 digits, the text with its comma, which no affinity turns into a number.
-Value StoredDecimal(std::int64_t Count, int Decimals)
+Value StoredDecimal(std::int64_t Count)
 {
-    const std::string Text = TextOfScaled(Count, Decimals);
+    const std::string Text = TextOfScaled(Count, MoneyDecimals);
     if (Text.find(',') == std::string::npos)
         return *ScaledFromText(Text, 0);
     const auto Digits = static_cast<std::size_t>(
@@ -79,20 +47,12 @@ std::string Value::ToText() const
     return {};
 }
 
-ColumnKind ColumnKind::FromDeclaredType(std::string_view Declared)
+ColumnKind::ColumnKind(std::string_view DeclaredType)
+    : TheFamily(DeclaredType == "TEXT"                 ? Family::Text
+                : DeclaredType == "INTEGER"            ? Family::Whole
+                : DeclaredType.starts_with("DECIMAL(") ? Family::Decimal
+                                                       : Family::Any)
 {
-    const std::string Type = Upper(Declared);
-    ColumnKind Kind;
-    if (ContainsOneOf(Type, {"CHAR", "TEXT", "CLOB"}))
-        Kind.TheFamily = Family::Text;
-    else if (ContainsOneOf(Type, {"DECIMAL", "NUMERIC", "MONEY", "CURRENCY"})) {
-        Kind.TheFamily = Family::Decimal;
-        Kind.Decimals = DeclaredDecimals(Type);
-    } else if (ContainsOneOf(Type, {"INT", "COUNTER"}))
-        Kind.TheFamily = Family::Whole;
-    else if (ContainsOneOf(Type, {"REAL", "DOUB", "FLOA"}))
-        Kind.TheFamily = Family::Real;
-    return Kind;
 }
 
 Value ColumnKind::Convert(const Value& Given) const
@@ -104,9 +64,7 @@ Value ColumnKind::Convert(const Value& Given) const
     case Family::Whole:
         return OrRefused(ScaledFromText(Text, 0), Text);
     case Family::Decimal:
-        return StoredDecimal(OrRefused(ScaledFromText(Text, Decimals), Text), Decimals);
-    case Family::Real:
-        return OrRefused(DoubleFromText(Text), Text);
+        return StoredDecimal(OrRefused(ScaledFromText(Text, MoneyDecimals), Text));
     default:
         return Text;
     }

