@@ -2,6 +2,7 @@
 
 #include "base/typography.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -14,9 +15,11 @@ struct Phrase
     FailureKind Kind;
     const char* Before;
     const char* After;
+    bool TellsFile = false;
 };
 
-// The one place where failures become French. The subject stands between Before and After.
+// The one place where failures become French. The subject stands between Before and After, and the
+// file of what is missing before the full stop.
 constexpr std::array Phrases{
     Phrase{FailureKind::DatabaseMissing, "La base de données « ",
            " » est introuvable.\nReplacez le fichier à côté du programme."},
@@ -28,14 +31,15 @@ constexpr std::array Phrases{
     Phrase{FailureKind::DatabaseLocked, "La base de données « ",
            " » est utilisée par un autre programme.\nFermez-le, puis recommencez."},
     Phrase{FailureKind::DiskFull, "Le disque est plein : rien n’a été enregistré dans « ", " »."},
-    Phrase{FailureKind::DatabaseIncomplete, "La base de données est incomplète : il y manque « ",
-           " »."},
+    Phrase{FailureKind::DatabaseIncomplete, "La base de données est incomplète : il manque « ",
+           " ».", true},
     Phrase{FailureKind::Store, "La base de données « ", " » a refusé l’opération."},
-    Phrase{FailureKind::NoRow, "Aucune donnée pour « ", " »."},
+    Phrase{FailureKind::NoRow, "Aucune donnée pour « ", " ».", true},
     Phrase{FailureKind::ChoiceMissing,
            "Il faut d’abord faire le choix précédent, puis reprendre « ", " »."},
-    Phrase{FailureKind::NullValue, "Aucune donnée pour « ", " »."},
-    Phrase{FailureKind::RefusedNumber, "« ", " » n’est pas un nombre : rien n’a été enregistré."},
+    Phrase{FailureKind::NullValue, "Aucune donnée pour « ", " ».", true},
+    Phrase{FailureKind::RefusedNumber, "« ", " » n’est pas un nombre : rien n’a été enregistré.",
+           true},
     Phrase{FailureKind::OutOfRange, "« ", " » n’est pas un nombre de -32768 à 32767."},
     Phrase{FailureKind::WrongText, "« ", " » n’est pas un nombre."},
     Phrase{FailureKind::Overflow, "Un montant dépasse ce qui peut être calculé (« ", " »)."},
@@ -45,24 +49,30 @@ constexpr std::array Phrases{
 
 } // namespace
 
-Failure::Failure(FailureKind Kind, std::string Subject, std::string Cause)
+Failure::Failure(FailureKind Kind, std::string Subject, std::string Cause, std::string File)
     : TheKind(Kind),
       TheSubject(std::move(Subject)),
       TheCause(std::move(Cause)),
+      File(std::move(File)),
       Technical(TheSubject + (TheCause.empty() ? "" : ": " + TheCause))
 {
+}
+
+Failure Failure::In(const std::string& Where) const
+{
+    return {TheKind, TheSubject, TheCause, File.empty() ? Where : File};
 }
 
 std::string Failure::Sentence() const
 {
     if (TheKind == FailureKind::ChoiceMissing && TheSubject.empty())
         return "Il faut d’abord faire le choix précédent.";
-    const bool Ours = TheKind == FailureKind::DatabaseIncomplete; // "file : name", not data
-    for (const Phrase& Candidate : Phrases)
-        if (Candidate.Kind == TheKind)
-            return Typeset(Candidate.Before) + (Ours ? Typeset(TheSubject) : TheSubject) +
-                   Typeset(Candidate.After);
-    return TheSubject;
+    const auto Known = std::ranges::find(Phrases, TheKind, &Phrase::Kind);
+    std::string Sentence =
+        Typeset(Known->Before) + (TheSubject.empty() ? File : TheSubject) + Typeset(Known->After);
+    if (Known->TellsFile && !File.empty())
+        Sentence.insert(Sentence.size() - 1, Typeset(" dans « ") + File + Typeset(" »"));
+    return Sentence;
 }
 
 } // namespace orvane

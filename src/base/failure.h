@@ -26,12 +26,16 @@ enum class FailureKind {
     Program, // the program's own fault, such as an unknown control
 };
 
-// Whatever stops an event. Subject names what it is about: a file, an object, a column. Cause is
-// the technical side, for people who keep the data files.
+// Whatever stops an event. Subject names what it is about: an object, a column, or a file, which is
+// also named beside what it should hold. Cause is the technical side, for people who keep the data
+// files.
 class Failure : public std::exception
 {
   public:
-    Failure(FailureKind Kind, std::string Subject, std::string Cause = {});
+    Failure(FailureKind Kind, std::string Subject, std::string Cause = {}, std::string File = {});
+
+    // The same in this file, unless it names one already.
+    Failure In(const std::string& File) const;
 
     FailureKind Kind() const { return TheKind; }
     const std::string& Subject() const { return TheSubject; }
@@ -46,6 +50,7 @@ class Failure : public std::exception
     FailureKind TheKind;
     std::string TheSubject;
     std::string TheCause;
+    std::string File;
     std::string Technical;
 };
 

@@ -120,7 +120,7 @@ void DatabaseMaker::Insert(const TableDefinition& Table, const std::vector<std::
                            const std::vector<Value>& Row)
 {
     if (Row.size() != Columns.size())
-        throw Failure(FailureKind::Store, Table.Name, "a row with another number of cells");
+        throw Failure(FailureKind::Program, Table.Name, "a row with another number of cells");
     Translated(In->File, [&] {
         std::string Names;
         std::string Marks;

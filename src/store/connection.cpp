@@ -145,10 +145,10 @@ const std::filesystem::path& Connection::File() const
 
 RowSet Connection::Select(std::string_view Sql)
 {
-    const std::vector<Token> Query = Tokenize(Sql);
-    std::vector<Value> Parameters;
-    const std::string Shape = ShapeOf(Query, Parameters);
     return Translated(In->File, [&] {
+        const std::vector<Token> Query = Tokenize(Sql);
+        std::vector<Value> Parameters;
+        const std::string Shape = ShapeOf(Query, Parameters);
         Prepared& Ready = In->Prepare(Query, Shape);
         if (!In->Reading) {
             In->Base.exec("BEGIN");
@@ -181,10 +181,10 @@ RowSet Connection::Select(std::string_view Sql)
 
 void Connection::Delete(std::string_view Sql)
 {
-    const std::vector<Token> Query = Tokenize(Sql);
-    std::vector<Value> Parameters;
-    ShapeOf(Query, Parameters);
     Translated(In->File, [&] {
+        const std::vector<Token> Query = Tokenize(Sql);
+        std::vector<Value> Parameters;
+        ShapeOf(Query, Parameters);
         const std::string Translation = TranslateDelete(
             Query, [&](const std::string& Name) -> const Source& { return In->Schema.Find(Name); });
         In->Write([&] { In->Run(Translation, Parameters); });

@@ -1,24 +1,12 @@
 #include "store/recordset.h"
 
-#include "base/failure.h"
 #include "base/number_text.h"
+#include "store/sqlite_error.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace orvane {
-
-namespace {
-
-template <class T>
-T OrRefused(std::optional<T> Number, const std::string& Subject)
-{
-    if (!Number)
-        throw Failure(FailureKind::NullValue, Subject, "not a number");
-    return *Number;
-}
-
-} // namespace
 
 Recordset::Recordset(std::shared_ptr<Connection> Base, RowSet Rows)
     : Base(std::move(Base)),
@@ -32,7 +20,7 @@ void Recordset::MoveFirst()
         const bool ChoiceMissing = std::ranges::find(Rows.Looked, "") != Rows.Looked.end();
         if (ChoiceMissing)
             throw Failure(FailureKind::ChoiceMissing, LookedFor(), "no row in " + Rows.Source);
-        throw Failure(FailureKind::NoRow, Subject(), "no row in " + Rows.Source);
+        throw About(FailureKind::NoRow, {}, "no row in " + Rows.Source);
     }
     At = 0;
     DropChanges();
@@ -60,8 +48,7 @@ std::string Recordset::Text(std::string_view Name) const
 {
     const Value& Given = Cell(Name);
     if (Given.IsNull())
-        throw Failure(FailureKind::NullValue, Subject() + ", " + std::string(Name),
-                      "null in " + Rows.Source);
+        throw About(FailureKind::NullValue, Name, "null in " + Rows.Source);
     return Given.ToText();
 }
 
@@ -72,18 +59,22 @@ std::string Recordset::TextOrEmpty(std::string_view Name) const
 
 double Recordset::Number(std::string_view Name) const
 {
-    return OrRefused(DoubleFromText(Text(Name)), Subject() + ", " + std::string(Name));
+    if (const auto Number = DoubleFromText(Text(Name)))
+        return *Number;
+    throw About(FailureKind::NullValue, Name, "not a number");
 }
 
 std::int16_t Recordset::Whole(std::string_view Name) const
 {
-    return OrRefused(Entier16FromText(Text(Name)), Subject() + ", " + std::string(Name));
+    if (const auto Number = Entier16FromText(Text(Name)))
+        return *Number;
+    throw About(FailureKind::NullValue, Name, "not a number");
 }
 
 void Recordset::Edit()
 {
     if (Eof())
-        throw Failure(FailureKind::NoRow, Subject());
+        throw About(FailureKind::NoRow);
     Begin(Mode::Editing);
 }
 
@@ -116,7 +107,7 @@ void Recordset::Update()
 const Value& Recordset::Cell(std::string_view Name) const
 {
     if (Eof())
-        throw Failure(FailureKind::NoRow, Subject());
+        throw About(FailureKind::NoRow);
     return Rows.Rows[At][ColumnAt(Name)];
 }
 
@@ -124,14 +115,15 @@ std::size_t Recordset::ColumnAt(std::string_view Name) const
 {
     const int Found = Rows.Columns->Find(Name);
     if (Found < 0)
-        throw Failure(FailureKind::DatabaseIncomplete, Rows.Source + "." + std::string(Name));
+        throw Failure(FailureKind::DatabaseIncomplete, Rows.Source + "." + std::string(Name), {},
+                      DisplayName(Base->File()));
     return static_cast<std::size_t>(Found);
 }
 
 void Recordset::Begin(Mode Wanted)
 {
     if (Rows.Table.empty())
-        throw Failure(FailureKind::Store, Rows.Source, "the rows of this query can't be changed");
+        throw Failure(FailureKind::Program, Rows.Source, "the rows of this query can't be changed");
     Pending.clear();
     TheMode = Wanted;
 }
@@ -163,6 +155,12 @@ std::string Recordset::Subject() const
         return Rows.Source;
     const bool Telling = Values.find_first_not_of("0123456789, ") != std::string::npos;
     return Telling ? Values : Values + " (" + Rows.Source + ")"; // numbers alone tell nothing
+}
+
+Failure Recordset::About(FailureKind Kind, std::string_view Column, std::string Cause) const
+{
+    return {Kind, Subject() + (Column.empty() ? "" : ", " + std::string(Column)), std::move(Cause),
+            DisplayName(Base->File())};
 }
 
 } // namespace orvane

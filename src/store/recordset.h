@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/failure.h"
 #include "store/connection.h"
 
 #include <cstdint>
@@ -55,6 +56,9 @@ class Recordset
     // What this row is about, for a message: what the query looked for, and where.
     std::string Subject() const;
     std::string LookedFor() const;
+
+    // About this row, or one of its columns.
+    Failure About(FailureKind Kind, std::string_view Column = {}, std::string Cause = {}) const;
 
     std::shared_ptr<Connection> Base;
     RowSet Rows;

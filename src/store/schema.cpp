@@ -11,8 +11,11 @@ namespace orvane {
 
 namespace {
 
-constexpr const char* TableNamed =
-    "SELECT name FROM main.sqlite_schema WHERE type = 'table' AND fold_case(name) = ?";
+std::string TableNamed(const std::string& File)
+{
+    return "SELECT name FROM " + File +
+           ".sqlite_schema WHERE type = 'table' AND fold_case(name) = ?";
+}
 
 } // namespace
 
@@ -52,7 +55,7 @@ std::string Schema::LinkConnect(const std::string& Name)
 {
     const auto Link = Entry("LinkedTables", "Connect", Name);
     if (Link.empty())
-        throw Failure(FailureKind::DatabaseIncomplete, DisplayName(File) + " : " + Name);
+        throw Failure(FailureKind::DatabaseIncomplete, Name);
     return Link[0];
 }
 
@@ -66,7 +69,7 @@ std::vector<std::filesystem::path> Schema::LinkedFiles() const
 
 Source Schema::Load(const std::string& Name)
 {
-    const auto Table = FirstRow(TableNamed, Name);
+    const auto Table = FirstRow(TableNamed("main"), Name);
     const bool IsTable = !Table.empty();
     Source Result{IsTable ? Table[0] : MakeView(Name), {}, {}, {}, IsTable};
     SQLite::Statement Info(Base, "PRAGMA table_info(" + QuotedName(Result.Name) + ")");
@@ -95,15 +98,16 @@ std::string Schema::MakeView(const std::string& Name)
     }
     const auto Link = Entry("LinkedTables", "Nom, Connect, Source", Name);
     if (Link.empty())
-        throw Failure(FailureKind::DatabaseIncomplete, DisplayName(File) + " : " + Name);
+        throw Failure(FailureKind::DatabaseIncomplete, Name);
     const std::filesystem::path Path =
         Link[1].starts_with(ConnectPrefix) ? Link[1].substr(ConnectPrefix.size()) : Link[1];
     Translated(Path, [&] {
-        const std::string From = " FROM " + Attach(Path) + "." + QuotedName(Link[2]);
-        SQLite::Statement(Base, "SELECT 1" +
-                                    From); // fails here, about that file, when it has no such table
+        const std::string Linked = Attach(Path);
+        const auto Table = FirstRow(TableNamed(Linked), Link[2]);
+        if (Table.empty())
+            throw Failure(FailureKind::DatabaseIncomplete, Link[2]);
         Base.exec("CREATE TEMP VIEW IF NOT EXISTS " + QuotedName(Link[0]) + " AS SELECT rowid AS " +
-                  QuotedName(PlacePrefix) + ", *" + From);
+                  QuotedName(PlacePrefix) + ", * FROM " + Linked + "." + QuotedName(Table[0]));
     });
     return Link[0];
 }
@@ -136,7 +140,7 @@ std::vector<std::string> Schema::FirstRow(const std::string& Sql, const std::str
 std::vector<std::string> Schema::Entry(const std::string& Table, const std::string& Columns,
                                        const std::string& Name)
 {
-    return FirstRow(TableNamed, Table).empty()
+    return FirstRow(TableNamed("main"), Table).empty()
                ? std::vector<std::string>{}
                : FirstRow("SELECT " + Columns + " FROM " + Table + " WHERE fold_case(Nom) = ?",
                           Name);

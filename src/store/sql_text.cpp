@@ -128,7 +128,7 @@ std::vector<Token> Tokenize(std::string_view Sql)
 
 void ThrowUnreadable(std::string_view Sql)
 {
-    throw Failure(FailureKind::Store, std::string(Sql), "unreadable query");
+    throw Failure(FailureKind::Store, {}, "unreadable query: " + std::string(Sql));
 }
 
 } // namespace orvane

@@ -28,7 +28,7 @@ struct Token
 // doesn't end.
 std::vector<Token> Tokenize(std::string_view Sql);
 
-// Failure (Kind::Store) for a query that isn't of the dialect.
+// Failure (Kind::Store) for a query that isn't of the dialect, about the file that it is sent to.
 [[noreturn]] void ThrowUnreadable(std::string_view Sql);
 
 } // namespace orvane

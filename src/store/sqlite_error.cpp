@@ -33,8 +33,9 @@ Failure FailureOf(const SQLite::Exception& Error, const std::filesystem::path& F
         if (Error.getErrorCode() == Code)
             return {Kind, DisplayName(File), Error.what()};
     const std::string Cause = Error.what();
-    if (Cause.starts_with("no such "))
-        return {FailureKind::DatabaseIncomplete, DisplayName(File) + " : " + Cause, Cause};
+    if (Cause.starts_with("no such ")) // "no such column: Objets.Prix"
+        return {FailureKind::DatabaseIncomplete, Cause.substr(Cause.rfind(": ") + 2), Cause,
+                DisplayName(File)};
     return {FailureKind::Store, DisplayName(File), Cause};
 }
 

@@ -2,12 +2,9 @@
 
 #include "base/failure.h"
 
+#include <SQLiteCpp/Exception.h>
 #include <filesystem>
 #include <string>
-
-namespace SQLite {
-class Exception;
-}
 
 namespace orvane {
 
@@ -17,16 +14,7 @@ Failure FailureOf(const SQLite::Exception& Error, const std::filesystem::path& F
 // The file's name as a message shows it.
 std::string DisplayName(const std::filesystem::path& File);
 
-// Runs Action, with errors of SQLite turned into Failures about File.
-template <class Function>
-auto Translated(const std::filesystem::path& File, Function Action);
-
-} // namespace orvane
-
-#include <SQLiteCpp/Exception.h>
-
-namespace orvane {
-
+// Runs Action, with errors of SQLite turned into Failures, and all of them about File.
 template <class Function>
 auto Translated(const std::filesystem::path& File, Function Action)
 {
@@ -34,6 +22,8 @@ auto Translated(const std::filesystem::path& File, Function Action)
         return Action();
     } catch (const SQLite::Exception& Error) {
         throw FailureOf(Error, File);
+    } catch (const Failure& Given) {
+        throw Given.In(DisplayName(File));
     }
 }
 

@@ -167,7 +167,7 @@ std::string TranslateDelete(Tokens Query, const SourceFinder& Find)
     Next.Expect("FROM");
     const Source& From = Find(Next.Name());
     if (!From.IsTable)
-        throw Failure(FailureKind::Store, From.Name, "rows are deleted from tables only");
+        throw Failure(FailureKind::Program, From.Name, "rows are deleted from tables only");
     const std::string Sql = "DELETE FROM " + QuotedName(From.Name) + Next.Where(From);
     Next.ExpectEnd();
     return Sql;

@@ -21,7 +21,7 @@ TEST_F(MakerTest, TheFileAppearsWholeWhenMakingIsFinishedAndWithoutTheRowsThatWe
     DatabaseMaker Maker(File, {{Table}, {}, {}});
     Maker.Insert(Table, {"Nom", "Prix"}, {Value("Fer"), Value("922337203685477,5807")});
     EXPECT_FAILS(Store, Maker.Insert(Table, {"Num", "Nom"}, {Value("1"), Value("Or")}));
-    EXPECT_FAILS(Store, Maker.Insert(Table, {"Num", "Nom"}, {Value("3")}));
+    EXPECT_FAILS(Program, Maker.Insert(Table, {"Num", "Nom"}, {Value("3")}));
     EXPECT_EQ(SentenceOf([&] { Maker.Insert(Table, {"Num", "Nom"}, {Value("2"), Value()}); }), "");
     Maker.Insert(Table, {"Prix", "Nom"}, {Value("2,00005"), Value("Bois")});
     EXPECT_FALSE(std::filesystem::exists(File));

@@ -49,9 +49,11 @@ TEST_F(RecordsetTest, IsWalkedFromTheFirstRowToTheEnd)
 TEST_F(RecordsetTest, AMissingRowIsToldByWhatWasLookedFor)
 {
     const std::array<std::string, 2> Cases[] = {
-        {"Nom = \"Étain\"", "Aucune donnée pour «\u00A0Étain\u00A0»."},
-        {"Nom = \"Étain\" AND Nb = 9", "Aucune donnée pour «\u00A0Étain, 9\u00A0»."},
-        {"Num = 2", "Aucune donnée pour «\u00A02 (T), Nb\u00A0»."},
+        {"Nom = \"Étain\"", "Aucune donnée pour «\u00A0Étain\u00A0» dans «\u00A0a.mdb\u00A0»."},
+        {"Nom = \"Étain\" AND Nb = 9",
+         "Aucune donnée pour «\u00A0Étain, 9\u00A0» dans «\u00A0a.mdb\u00A0»."},
+        {"Num = 2", "Aucune donnée pour «\u00A02 (T), Nb\u00A0» dans «\u00A0a.mdb\u00A0»."},
+        {"Num OR Nom", "La base de données «\u00A0a.mdb\u00A0» a refusé l’opération."},
         {"Nom = \"\"", "Il faut d’abord faire le choix précédent."},
         {"Nom = \"Fer\" AND Nom = \"\"",
          "Il faut d’abord faire le choix précédent, puis reprendre «\u00A0Fer\u00A0»."}};
@@ -64,7 +66,7 @@ TEST_F(RecordsetTest, AMissingRowIsToldByWhatWasLookedFor)
                   Sentence);
     Base.Execute("DELETE * FROM T WHERE Num>0");
     EXPECT_EQ(SentenceOf([&] { Base.OpenRecordset("SELECT * FROM T").MoveFirst(); }),
-              "Aucune donnée pour «\u00A0T\u00A0».");
+              "Aucune donnée pour «\u00A0T\u00A0» dans «\u00A0a.mdb\u00A0».");
 }
 
 TEST_F(RecordsetTest, EditingWhileWalkingChangesEachRowOnceAndOnlyWhatWasSet)
@@ -122,6 +124,9 @@ TEST_F(RecordsetTest, AColumnHoldsWhatWasWrittenToItInItsOwnWay)
 TEST_F(RecordsetTest, ATextThatIsNoNumberIsRefusedAndTheRowLeftAsItWas)
 {
     Recordset Rows = Base.OpenRecordset("SELECT * FROM T");
+    EXPECT_EQ(SentenceOf([&] { Put(Rows, "Prix", "dix"); }),
+              "«\u00A0dix\u00A0» n’est pas un nombre\u00A0: rien n’a été enregistré dans "
+              "«\u00A0a.mdb\u00A0».");
     const std::array<const char*, 2> Cells[] = {
         {"Prix", ""},    {"Prix", "abc"}, {"Prix", "922337203685477,5808"},
         {"Nb", "1 234"}, {"Nb", "12.5"},  {"Nb", "9223372036854775808"}};
