@@ -39,7 +39,6 @@ class Failure : public std::exception
 
     FailureKind Kind() const { return TheKind; }
     const std::string& Subject() const { return TheSubject; }
-    const std::string& Cause() const { return TheCause; }
 
     // The French sentence for the crafter.
     std::string Sentence() const;

@@ -68,7 +68,7 @@ struct Connection::Inside
         : File(std::move(Path)),
           BeforeWrite(std::move(BeforeWriteRuns)),
           Base(File.string(), SQLite::OPEN_READWRITE, BusyMilliseconds),
-          Schema(Base, File)
+          Schema(Base)
     {
         RegisterFunctions(Base);
         Base.exec(

@@ -21,7 +21,7 @@ namespace orvane {
 class Schema
 {
   public:
-    Schema(SQLite::Database& Base, const std::filesystem::path& File) : Base(Base), File(File) {}
+    explicit Schema(SQLite::Database& Base) : Base(Base) {}
 
     // Whether Find has been asked for this name already.
     bool Knows(const std::string& Name) const;
@@ -54,7 +54,6 @@ class Schema
                                    const std::string& Name);
 
     SQLite::Database& Base;
-    const std::filesystem::path& File;
     std::map<std::string, Source> Sources;                 // by folded name
     std::map<std::filesystem::path, std::string> Attached; // file and its name in SQL
 };

@@ -14,23 +14,14 @@ Database::Database(Store& Owner, std::shared_ptr<Connection> Base)
 
 Database::~Database()
 {
-    Close();
+    if (Base)
+        Owner->Release(*Base);
 }
 
 Database::Database(Database&& Other) noexcept
     : Owner(Other.Owner),
       Base(std::exchange(Other.Base, nullptr))
 {
-}
-
-Database& Database::operator=(Database&& Other) noexcept
-{
-    if (this != &Other) {
-        Close();
-        Owner = Other.Owner;
-        Base = std::exchange(Other.Base, nullptr);
-    }
-    return *this;
 }
 
 Recordset Database::OpenRecordset(std::string_view Sql) const
@@ -56,12 +47,6 @@ void Database::SetLinkConnect(const std::string& Table, const std::string& Conne
 void Database::RefreshLink(const std::string& Table) const
 {
     Base->RefreshLink(Table);
-}
-
-void Database::Close()
-{
-    if (const auto Closed = std::exchange(Base, nullptr))
-        Owner->Release(*Closed);
 }
 
 Database Store::Open(const std::filesystem::path& Path)

@@ -12,15 +12,13 @@ namespace orvane {
 
 class Store;
 
-// An open database. Closing it, or the end of the handle, ends its reading; sets already opened
-// stay readable.
+// An open database. The end of the handle ends its reading; sets already opened stay readable.
 class Database
 {
   public:
     Database(Store& Owner, std::shared_ptr<Connection> Base);
     ~Database();
     Database(Database&& Other) noexcept;
-    Database& operator=(Database&& Other) noexcept;
 
     Recordset OpenRecordset(std::string_view Sql) const;
 
@@ -31,8 +29,6 @@ class Database
     std::string LinkConnect(const std::string& Table) const;
     void SetLinkConnect(const std::string& Table, const std::string& Connect) const;
     void RefreshLink(const std::string& Table) const;
-
-    void Close();
 
   private:
     Store* Owner;

@@ -132,12 +132,11 @@ TEST_F(ConnectionTest, ANestedHandleWritesWhileItsCallerReads)
 
 TEST_F(ConnectionTest, OneEventReadsOneStateOfTheFileUntilItCloses)
 {
-    Database Base = TheStore.Open(File);
-    const Recordset Rows = Base.OpenRecordset(All);
+    auto Base = std::make_unique<Database>(TheStore.Open(File));
+    const Recordset Rows = Base->OpenRecordset(All);
     SQLite::Database Writer(File.string(), SQLite::OPEN_READWRITE);
     EXPECT_THROW(Writer.exec("DELETE FROM T"), SQLite::Exception) << "the reader holds its state";
-    Base.Close();
-    Base.Close();
+    Base = nullptr;
     Writer.exec("DELETE FROM T");
     EXPECT_EQ(Walk(File, All, "Nom"), "");
     EXPECT_EQ(Rows.Text("Nom"), "Fer") << "a set stays readable";
@@ -145,12 +144,11 @@ TEST_F(ConnectionTest, OneEventReadsOneStateOfTheFileUntilItCloses)
 
 TEST_F(ConnectionTest, WhatOthersDoToAFileIsNoticedAtTheNextOpening)
 {
-    Database First = TheStore.Open(File);
-    Database Second = std::move(First);
-    First = TheStore.Open(File);
-    Second = std::move(First);
-    EXPECT_EQ(Walk(Second, All, "Nom"), "Fer|Bois");
-    Second.Close(); // handles that were moved close once
+    {
+        Database First = TheStore.Open(File);
+        const Database Second = std::move(First); // closes once
+        EXPECT_EQ(Walk(Second, All, "Nom"), "Fer|Bois");
+    }
     Raw("Métiers.mdb", "ALTER TABLE T ADD COLUMN Nb INTEGER; INSERT INTO T VALUES ('Cuir', 3)");
     EXPECT_EQ(Walk(File, All, "Nb"), "||3");
     Raw("b.mdb", "CREATE TABLE T (Num INTEGER, Nom TEXT); INSERT INTO T VALUES (1, 'Neuf')");
