@@ -24,7 +24,7 @@ class Family
     {
         if (i < 1 || i > Count)
             throw Failure(FailureKind::Program, "family member " + std::to_string(i));
-        return Members[static_cast<std::size_t>(i - 1)];
+        return Members[static_cast<std::size_t>(i) - 1];
     }
 
     auto begin() { return Members.begin(); }
