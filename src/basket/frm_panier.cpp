@@ -4,7 +4,9 @@
 #include "base/failure.h"
 #include "base/notation.h"
 #include "base/text.h"
+#include "base/typography.h"
 #include "basket/orders.h"
+#include "toolkit/calculation.h"
 
 namespace orvane {
 
@@ -41,8 +43,11 @@ void frm_Panier::ViderListes()
 {
     for (ListBox* Liste : Listes())
         Liste->Clear();
-    txt_TotalPanierCoûtant.Text = "0";
-    txt_TotalPanierVente.Text = "0";
+    for (TextBox* Total : {&txt_TotalPanierCoûtant, &txt_TotalPanierVente}) {
+        Total->Text = "0";
+        Total->Marked = false;
+        Total->Tip = "";
+    }
 }
 
 void frm_Panier::RemplirListes()
@@ -70,16 +75,36 @@ void frm_Panier::TotalVente()
     Totaliser("PrixVente", txt_TotalPanierVente);
 }
 
-// Over all orders and realms. A row without a price counts nothing.
+// Over all orders and realms. A row without a price counts nothing; one whose price can't be
+// counted leaves no total, and the box tells which.
 void frm_Panier::Totaliser(const std::string& Colonne, TextBox& Total)
 {
     TotalPanier = {};
+    std::size_t LigneComptée = 0;
     const Ouverture Base(App, Globals.CheminPanier);
-    for (Recordset Lignes = OuvrirEnregistrements("SELECT " + Colonne + " FROM PanierGlobal");
-         !Lignes.Eof(); Lignes.MoveNext())
-        TotalPanier =
-            TotalPanier + Montant::FromText(Lignes.TextOrEmpty(Colonne)).value_or(Montant());
-    Total.Text = T(TotalPanier);
+    const bool Juste = Calculate({}, [&] {
+        for (Recordset Lignes = OuvrirEnregistrements("SELECT " + Colonne + " FROM PanierGlobal");
+             !Lignes.Eof(); Lignes.MoveNext(), ++LigneComptée) {
+            const std::string Prix = Lignes.IsNull(Colonne) ? "0" : Lignes.Text(Colonne);
+            const auto Lu = Montant::FromText(Prix);
+            if (!Lu)
+                throw Failure(FailureKind::WrongText, Prix);
+            TotalPanier = TotalPanier + *Lu;
+        }
+    });
+    Total.Text = Juste ? T(TotalPanier) : "";
+    Total.Marked = !Juste;
+    Total.Tip = Juste ? "" : Faute(LigneComptée);
+}
+
+// What is to be done about a row of the table, from 0.
+std::string frm_Panier::Faute(std::size_t Ligne)
+{
+    Recordset Lignes = OuvrirEnregistrements("SELECT * FROM PanierGlobal");
+    Lignes.MoveTo(Ligne);
+    return Typeset("Le prix de « " + Lignes.TextOrEmpty("Nom") + " » (commande « " +
+                   Lignes.TextOrEmpty("Acheteur") + " », " + Lignes.TextOrEmpty("Royaume") +
+                   ") ne peut pas être compté.");
 }
 
 std::array<ListBox*, 5> frm_Panier::Listes()

@@ -49,6 +49,7 @@ class frm_Panier : public Feuille
     std::array<ListBox*, 5> Listes();
     void MettreAuPas(const ListBox& Choisie);
     void Totaliser(const std::string& Colonne, TextBox& Total);
+    std::string Faute(std::size_t Ligne);
     void NommerLignes(const std::string& Acheteur);
 
     void cbo_Commandes_Click();
