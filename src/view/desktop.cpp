@@ -55,10 +55,14 @@ void Desktop::Shown(Screen& Which)
     else
         Window.show();
     LastShown = &Window;
-    if (QApplication::activeWindow() != &Window)
-        Expect(Window);
-    Window.raise();
-    Window.activateWindow();
+    // Who has the focus asks for nothing: what answers an old focus comes after what has been
+    // clicked since, and two windows would take the focus from each other for ever.
+    if (QApplication::activeWindow() != &Window || Awaits()) {
+        Expected = &Window;
+        SinceExpected.start();
+        Window.raise();
+        Window.activateWindow();
+    }
 }
 
 void Desktop::Hidden(Screen& Which)
@@ -83,17 +87,16 @@ void Desktop::Place(ScreenWindow& Window) const
                 std::max(Room.top(), std::min(Frame.top(), Room.bottom() + 1 - Frame.height())));
 }
 
-void Desktop::Expect(const ScreenWindow& Window)
+bool Desktop::Awaits() const
 {
-    Expected = &Window;
-    SinceExpected.start();
+    return Expected != nullptr && !SinceExpected.hasExpired(FocusPatience);
 }
 
 void Desktop::Focused(ScreenWindow& Window)
 {
     if (Expected == &Window)
         Expected = nullptr;
-    if (Expected != nullptr && !SinceExpected.hasExpired(FocusPatience))
+    if (Awaits())
         return;
     Expected = nullptr;
     if (TheForms.Active() != &Window.Model() && QApplication::activeModalWidget() == nullptr)
@@ -105,10 +108,8 @@ bool Desktop::eventFilter(QObject* Target, QEvent* Event)
 {
     if (Event->type() == QEvent::MouseButtonPress && Target->isWidgetType()) {
         auto* Window = dynamic_cast<ScreenWindow*>(static_cast<QWidget*>(Target)->window());
-        if (Window != nullptr && TheForms.Active() != &Window->Model()) {
-            Expected = nullptr;
+        if (Window != nullptr && TheForms.Active() != &Window->Model())
             Act([&] { TheUser.Activate(Window->Model()); });
-        }
     }
     return QObject::eventFilter(Target, Event);
 }

@@ -31,7 +31,7 @@ class Desktop : public QObject, public FormsObserver
   private:
     ScreenWindow& Built(Screen& Which);
     void Place(ScreenWindow& Window) const;
-    void Expect(const ScreenWindow& Window);
+    bool Awaits() const;
     void Focused(ScreenWindow& Window);
 
     Forms& TheForms;

@@ -23,6 +23,16 @@ class TwoWindows : public Stage
             Voisin().Show();
             PassThrough(Window());
         };
+        Deeds["turns"] = [this](auto&) { // three clicks that are heard together, later
+            for (QWidget* Each : {&Lower(), &Window(), &Lower()})
+                Each->activateWindow();
+            Rest();
+        };
+        Deeds["return"] = [this](auto&) {
+            Atelier().Show();
+            Voisin().Show();
+            Rest();
+        };
         Deeds["box"] = [this](auto&) {
             QDialog Box;
             Box.open();
@@ -37,6 +47,12 @@ class TwoWindows : public Stage
     frm_Atelier& Voisin() { return static_cast<frm_Atelier&>(TheForms.Touch("frm_Voisin")); }
     ScreenWindow& Lower() { return Checked(Windows.WindowOf(Voisin()), "lower window"); }
     void Await() { EXPECT_TRUE(QTest::qWaitForWindowActive(&Lower())); }
+    void Rest() // the upper one had its turn, once
+    {
+        QTest::qWait(100);
+        EXPECT_EQ(QApplication::activeWindow(), &Lower());
+        Log().removeOne("activated");
+    }
     static void PassThrough(QWidget& Which) // the focus, on its way elsewhere
     {
         QEvent Passing(QEvent::WindowActivate);
@@ -58,6 +74,8 @@ constexpr Row TurnRows[] = {
     {"TypingActivatesFirst", "<type>", "activated|a"},
     {"TheOneBelowIsActivatedOnce", "<leave>", "activated"},
     {"AFocusPassingByIsNobodysWish", "<ask>", "activated"},
+    {"TheLastOfOldClicksRests", "<turns>", "activated|activated"},
+    {"AWindowLeftAndShownAgainRests", "<focus><return>", "activated|activated"},
     {"ABoxKeepsTheScreenActive", "<box><press>", "box|activated"},
 };
 EACH_ROW(TwoWindows, TurnRows);
