@@ -4,6 +4,7 @@
 #include "view/act.h"
 #include "view/look.h"
 #include "view/qt_text.h"
+#include "view/tip.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -51,7 +52,7 @@ void ButtonView::FollowWords()
     const QString Tip = ToQt(TheModel.Tip);
     setAccessibleName(Words);
     setAccessibleDescription(Tip);
-    setToolTip(Tip.isEmpty() ? Words : Tip);
+    SetTip(*this, Tip.isEmpty() ? Words : Tip);
     update();
 }
 

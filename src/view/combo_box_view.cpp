@@ -5,6 +5,7 @@
 #include "view/entry_popup.h"
 #include "view/look.h"
 #include "view/qt_text.h"
+#include "view/tip.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -178,7 +179,7 @@ void ComboBoxView::ShowTip()
     const bool Fits = lineEdit()->fontMetrics().horizontalAdvance(Text) <=
                       lineEdit()->width() - 2 * look::FieldPadding;
     setAccessibleDescription(Tip);
-    setToolTip(Fits ? Tip : Tip.isEmpty() ? Text : Text + u'\n' + Tip);
+    SetTip(*this, Fits ? Tip : Tip.isEmpty() ? Text : Text + u'\n' + Tip);
 }
 
 void ComboBoxView::ShowColours()

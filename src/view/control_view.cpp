@@ -2,6 +2,7 @@
 
 #include "view/look.h"
 #include "view/qt_text.h"
+#include "view/tip.h"
 
 #include <QWidget>
 
@@ -39,7 +40,7 @@ void ControlView::Follow(PropertyId What)
         Widget().setFont(look::Font(TheControl.FontSize));
         break;
     case PropertyId::Tip:
-        Widget().setToolTip(ToQt(TheControl.Tip));
+        SetTip(Widget(), ToQt(TheControl.Tip));
         break;
     case PropertyId::Called:
         Widget().setAccessibleName(ToQt(TheControl.Called));

@@ -1,6 +1,7 @@
 #include "view/entry_delegate.h"
 
 #include "view/look.h"
+#include "view/tip.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
@@ -32,19 +33,19 @@ void EntryDelegate::paint(QPainter* Painter, const QStyleOptionViewItem& Option,
                       QFontMetrics(Font).elidedText(Text, Qt::ElideRight, Box.width()));
 }
 
-QSize EntryDelegate::sizeHint(const QStyleOptionViewItem& Option, const QModelIndex& Index) const
+// An entry is as wide as its list, however long its text.
+QSize EntryDelegate::sizeHint(const QStyleOptionViewItem& Option, const QModelIndex&) const
 {
-    const QString Text = Index.data(Qt::DisplayRole).toString();
-    return {Option.fontMetrics.horizontalAdvance(Text) + 2 * look::RowPadding,
-            Option.fontMetrics.height() + look::RowPadding + 1};
+    return {1, Option.fontMetrics.height() + look::RowPadding + 1};
 }
 
 bool EntryDelegate::helpEvent(QHelpEvent* Event, QAbstractItemView* View,
                               const QStyleOptionViewItem& Option, const QModelIndex& Index)
 {
-    if (Event->type() == QEvent::ToolTip && Index.isValid() &&
-        sizeHint(Option, Index).width() > Option.rect.width()) {
-        QToolTip::showText(Event->globalPos(), Index.data(Qt::DisplayRole).toString(), View);
+    const QString Text = Index.data(Qt::DisplayRole).toString();
+    if (Event->type() == QEvent::ToolTip &&
+        Option.fontMetrics.horizontalAdvance(Text) + 2 * look::RowPadding > Option.rect.width()) {
+        QToolTip::showText(Event->globalPos(), AsTip(Text), View);
         return true;
     }
     return QStyledItemDelegate::helpEvent(Event, View, Option, Index);

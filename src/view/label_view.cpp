@@ -2,6 +2,7 @@
 
 #include "view/look.h"
 #include "view/qt_text.h"
+#include "view/tip.h"
 
 #include <QPainter>
 
@@ -71,7 +72,7 @@ void LabelView::Fit()
         Font.setPointSizeF(TheLabel.FontSize * Share);
         setFont(Font);
     }
-    setToolTip(!Fits() && TheLabel.Tip.empty() ? text() : ToQt(TheLabel.Tip));
+    SetTip(*this, !Fits() && TheLabel.Tip.empty() ? text() : ToQt(TheLabel.Tip));
 }
 
 void LabelView::resizeEvent(QResizeEvent* Event)

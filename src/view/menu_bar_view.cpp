@@ -2,6 +2,7 @@
 
 #include "view/look.h"
 #include "view/qt_text.h"
+#include "view/tip.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -72,7 +73,7 @@ void MenuEntryView::resizeEvent(QResizeEvent* Event)
     QAbstractButton::resizeEvent(Event);
     const bool Fits = fontMetrics().horizontalAdvance(accessibleName()) <= WordsBox().width();
     const QString Tip = accessibleDescription();
-    setToolTip(Fits ? Tip : Tip.isEmpty() ? accessibleName() : accessibleName() + u'\n' + Tip);
+    SetTip(*this, Fits ? Tip : Tip.isEmpty() ? accessibleName() : accessibleName() + u'\n' + Tip);
 }
 
 QRect MenuEntryView::WordsBox() const
@@ -112,7 +113,7 @@ MenuBarView::MenuBarView(const SideMenu::Bar& Bar, const ImageList* Icons, QWidg
       HasPicture(!Bar.Picture.IsEmpty())
 {
     setObjectName(ToQt(Bar.Key));
-    setToolTip(ToQt(Bar.Tip));
+    SetTip(*this, ToQt(Bar.Tip));
     setAccessibleName(Title);
     setAccessibleDescription(ToQt(Bar.Tip));
     Picture.Set(Bar.Picture);

@@ -4,6 +4,7 @@
 #include "view/act.h"
 #include "view/look.h"
 #include "view/qt_text.h"
+#include "view/tip.h"
 
 #include <QFocusEvent>
 #include <QPainter>
@@ -153,7 +154,7 @@ void TextBoxView::ShowTip()
     setAccessibleDescription(Tip);
     if (Tip.isEmpty() && fontMetrics().horizontalAdvance(text()) > Room())
         Tip = text();
-    setToolTip(Tip);
+    SetTip(*this, Tip);
 }
 
 void TextBoxView::paintEvent(QPaintEvent* Event)

@@ -1,7 +1,10 @@
 #include "stage.h"
 #include "view/side_menu_view.h"
 
+#include <QHelpEvent>
 #include <QLineEdit>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 
 namespace orvane {
 
@@ -101,6 +104,34 @@ TEST_F(WindowFollows, WordsForReaders)
     for (const auto& [Name, Told, Tip] : Words) {
         EXPECT_EQ(The<QWidget>(Name).accessibleName(), Told) << Name;
         EXPECT_EQ(The<QWidget>(Name).toolTip(), Tip) << Name;
+    }
+}
+
+TEST_F(WindowFollows, TipsWithoutTakingThemForMarkup)
+{
+    const std::string Name = "<img src='/dev/zero'> <b>Cape</b> & Épée & Écharpe, trop long";
+    frm_Atelier& Given = Atelier();
+    Given.lbl_Nom.Caption = Name + Name + Name;
+    Given.txt_Total.Text = Name;
+    Given.txt_Nombre.Tip = Name;
+    Given.cbo_Objet.Text = Name;
+    Given.cmd_Ajouter.Tip = Name;
+    Given.img_Blason.Tip = Name;
+    Given.lst_Noms.AddItem(Name);
+    Menu().Build({{"Barre", "Barre", Name, {}, {}, {{"Entrée", Name, 0, ""}}}});
+    Show();
+    auto& List = The<QListView>("lst_Noms");
+    const QPoint Entry = List.visualRect(List.model()->index(0, 0)).center();
+    QHelpEvent Hover(QEvent::ToolTip, Entry, List.viewport()->mapToGlobal(Entry));
+    QApplication::sendEvent(List.viewport(), &Hover);
+    std::map<QString, QString> Tips{{"an entry", QToolTip::text()}};
+    for (const char* Each : {"lbl_Nom", "txt_Total", "txt_Nombre", "cbo_Objet", "cmd_Ajouter",
+                             "img_Blason", "Barre", "Entrée"})
+        Tips[Each] = The<QWidget>(Each).toolTip();
+    for (const auto& [Where, Tip] : Tips) {
+        const bool Markup = Qt::mightBeRichText(Tip);
+        const QString Seen = Markup ? QTextDocumentFragment::fromHtml(Tip).toPlainText() : Tip;
+        EXPECT_TRUE(Seen.startsWith(ToQt(Name))) << FromQt(Where) << ": " << FromQt(Seen);
     }
 }
 
