@@ -1,22 +1,24 @@
 #include "view/reading_order.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <map>
 
 namespace orvane {
 
 namespace {
 
-// Where a control stands, in twips.
+// Where a control stands, in twips. Layouts come from files: a box may be as large as it likes, or
+// end before it begins.
 struct LayoutBox
 {
-    int Left = 0;
-    int Top = 0;
-    int Right = 0;
-    int Bottom = 0;
+    std::int64_t Left = 0;
+    std::int64_t Top = 0;
+    std::int64_t Right = 0;
+    std::int64_t Bottom = 0;
 
-    int MiddleX() const { return (Left + Right) / 2; }
-    int MiddleY() const { return (Top + Bottom) / 2; }
+    std::int64_t MiddleX() const { return (Left + Right) / 2; }
+    std::int64_t MiddleY() const { return (Top + Bottom) / 2; }
     bool Holds(const LayoutBox& Other) const
     {
         return Left <= Other.MiddleX() && Other.MiddleX() <= Right && Top <= Other.MiddleY() &&
@@ -27,12 +29,13 @@ struct LayoutBox
         return (Top <= Other.MiddleY() && Other.MiddleY() <= Bottom) ||
                (Other.Top <= MiddleY() && MiddleY() <= Other.Bottom);
     }
-    double Area() const { return double(Right - Left) * (Bottom - Top); }
+    double Area() const { return double(Right - Left) * double(Bottom - Top); }
 };
 
 LayoutBox BoxOf(const Control& Which)
 {
-    return {Which.Left, Which.Top, Which.Left + Which.Width, Which.Top + Which.Height};
+    const std::int64_t Left = Which.Left, Top = Which.Top;
+    return {Left, Top, Left + Which.Width, Top + Which.Height};
 }
 
 bool IsInput(const Control& Which)
@@ -96,11 +99,11 @@ bool HasPanel(const Blocks& Given)
 }
 
 // Groups with a free strip between one and the next.
-std::vector<Blocks> Parted(Blocks Given, int LayoutBox::*From, int LayoutBox::*To)
+std::vector<Blocks> Parted(Blocks Given, std::int64_t LayoutBox::*From, std::int64_t LayoutBox::*To)
 {
     std::ranges::sort(Given, {}, [&](const Block& Each) { return Each.Box.*From; });
     std::vector<Blocks> Result;
-    int End = 0;
+    std::int64_t End = 0;
     for (Block& Each : Given) {
         if (Result.empty() || Each.Box.*From >= End)
             Result.emplace_back();
@@ -122,7 +125,7 @@ void ReadRows(std::vector<Control*> Given, std::vector<Control*>& Result)
 {
     std::ranges::stable_sort(Given, {}, [](const Control* Each) { return BoxOf(*Each).MiddleY(); });
     for (auto Row = Given.begin(); Row != Given.end();) {
-        const auto End = std::find_if(Row, Given.end(), [&](const Control* Each) {
+        const auto End = std::find_if(Row + 1, Given.end(), [&](const Control* Each) {
             return !BoxOf(**Row).IsBesides(BoxOf(*Each));
         });
         std::stable_sort(Row, End, [](const Control* Left, const Control* Right) {

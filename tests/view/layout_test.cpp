@@ -17,7 +17,7 @@ struct Arrangement
 {
     explicit Arrangement(const char* Text)
     {
-        static const QRegularExpression Part(R"((-?)([a-z]+|#) (-?\d+) (-?\d+) (\d+) (\d+))");
+        static const QRegularExpression Part(R"((-?)([a-z]+|#) (-?\d+) (-?\d+) (-?\d+) (-?\d+))");
         for (const QRegularExpressionMatch& Each : Part.globalMatch(Text)) {
             Control& New = *Controls.emplace_back(Made(FromQt(Each.captured(2))));
             const auto At = [&](int Which) { return Each.captured(Which).toInt(); };
@@ -68,6 +68,10 @@ TEST(ReadingOrder, GoesAsTheEyeDoes)
         {"-# 0 0 300 300; -hidden 10 10 50 24; # 310 0 300 300;"
          "b 10 50 50 24; c 320 10 50 24; a 10 -40 600 24",
          "a b c "},
+        // whatever size a file gives: none, one that goes backwards, one beyond all screens
+        {"# 0 0 -300 -100; d 10 143165576 50 143165576; b 10 50 50 -24; c 10 100 0 0; a 10 10 50 "
+         "24",
+         "a b c d "},
     };
     for (const auto& [Arranged, Expected] : Rows) {
         Arrangement Given(Arranged);
