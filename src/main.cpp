@@ -1,4 +1,5 @@
 #include "base/failure.h"
+#include "base/text.h"
 #include "home/feuilles.h"
 #include "view/desktop.h"
 #include "view/french.h"
@@ -47,6 +48,7 @@ int main(int Count, char** Arguments)
     // Quitting ends the process at once, as nothing is left to save.
     App.OnQuit = [] { std::_Exit(EXIT_SUCCESS); };
     EnregistrerFeuilles(App);
+    UseFrench();
     // The core loads while the toolkit sets itself up; from then on there is one thread.
     std::future<void> Loading = std::async(std::launch::async, [&App] { Charger(App); });
 

@@ -3,6 +3,7 @@
 #include <memory>
 #include <unicode/brkiter.h>
 #include <unicode/coll.h>
+#include <unicode/locid.h>
 #include <unicode/normalizer2.h>
 #include <unicode/stringpiece.h>
 #include <unicode/uchar.h>
@@ -86,6 +87,12 @@ const icu::Collator* FrenchCollator()
 }
 
 } // namespace
+
+void UseFrench()
+{
+    UErrorCode Status = U_ZERO_ERROR;
+    icu::Locale::setDefault(icu::Locale::getFrench(), Status);
+}
 
 std::size_t CharacterCount(std::string_view Text)
 {

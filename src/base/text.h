@@ -9,6 +9,10 @@
 // UTF-8; a malformed byte counts as one character and never fails.
 namespace orvane {
 
+// Before the first use, and before a second thread begins: whoever doesn't tell the locale has it
+// looked up in the C library, which may be changing it for another thread.
+void UseFrench();
+
 std::size_t CharacterCount(std::string_view Text);
 
 // The first Count characters, or the whole text when it is shorter.
