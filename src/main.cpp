@@ -62,8 +62,8 @@ int main(int Count, char** Arguments)
     if (!Started(App, Loading, Boxes))
         return EXIT_FAILURE;
     QTimer::singleShot(0, &Toolkit, [&] { // the first picture doesn't wait for it
-        const std::string Icon = App.Chemin("/Interface/Orvane.png");
-        QApplication::setWindowIcon(QIcon(QString::fromStdString(Icon)));
+        const Picture Icon = App.Images.LoadOr(App.Chemin("/Interface/Orvane.png"));
+        QApplication::setWindowIcon(QIcon(QString::fromStdString(Icon.File.string())));
     });
     return QApplication::exec();
 }

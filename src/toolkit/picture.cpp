@@ -3,7 +3,9 @@
 #include "base/failure.h"
 #include "base/text.h"
 
-#include <unistd.h>
+#include <algorithm>
+#include <array>
+#include <fstream>
 
 namespace orvane {
 
@@ -31,6 +33,21 @@ fs::path FindIgnoringCase(const fs::path& File)
 
 } // namespace
 
+bool IsPictureFile(const fs::path& File)
+{
+    using namespace std::string_view_literals;
+    std::error_code Error;
+    if (!fs::is_regular_file(File, Error))
+        return false;
+    std::array<char, 4> Start{};
+    std::ifstream(File, std::ios::binary).read(Start.data(), Start.size());
+    return std::ranges::any_of(
+        std::array{"\x89PNG"sv, "GIF8"sv, "\xFF\xD8\xFF"sv, "\0\0\1\0"sv, "BM"sv},
+        [&](std::string_view Known) {
+            return std::string_view(Start.data(), Start.size()).starts_with(Known);
+        });
+}
+
 void ImageList::Fill(const fs::path& Folder, const std::string& Stem, int Count, int Size)
 {
     TheSize = Size;
@@ -49,8 +66,7 @@ const Picture& ImageList::Picture(int Index) const
 Picture PictureFiles::Load(const fs::path& File)
 {
     const fs::path Found = FindIgnoringCase(File);
-    std::error_code Error;
-    if (Found.empty() || !fs::is_regular_file(Found, Error) || ::access(Found.c_str(), R_OK) != 0)
+    if (!IsPictureFile(Found))
         throw Failure(FailureKind::NoPicture, File.string());
     return {Found};
 }
@@ -58,7 +74,7 @@ Picture PictureFiles::Load(const fs::path& File)
 Picture PictureFiles::LoadOr(const fs::path& File, const Picture& Otherwise)
 {
     try {
-        return Load(File);
+        return {Load(File).File, Otherwise.File};
     } catch (const Failure& Missing) {
         MissingFiles.insert(Missing.Subject());
         return Otherwise;

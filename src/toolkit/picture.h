@@ -10,12 +10,17 @@ namespace orvane {
 // A picture is the file it came from; decoding is for whoever draws it, when it is first seen.
 struct Picture
 {
-    std::filesystem::path File; // empty: no picture
+    std::filesystem::path File;        // empty: no picture
+    std::filesystem::path Otherwise{}; // seen in its place when it proves damaged
 
     bool IsEmpty() const { return File.empty(); }
 
     friend bool operator==(const Picture&, const Picture&) = default;
 };
+
+// Whether somebody may open the file as a picture: a readable file, no pipe, that begins as one of
+// the formats does. What comes behind shows when it is decoded.
+bool IsPictureFile(const std::filesystem::path& File);
 
 // Pictures by number from 1, all of one size.
 class ImageList
@@ -34,17 +39,17 @@ class ImageList
     int TheSize = 0;
 };
 
-// Finds picture files and remembers what was missing, to be said once, together.
+// Finds picture files and remembers what was missing or no picture, to be said once, together.
 class PictureFiles
 {
   public:
     // The picture at a path, found whatever the case of its name. Failure (Kind::NoPicture).
     static Picture Load(const std::filesystem::path& File);
 
-    // The same, but a picture that is missing gives Otherwise and is remembered.
+    // The same, but a picture that can't be had gives Otherwise and is remembered.
     Picture LoadOr(const std::filesystem::path& File, const Picture& Otherwise = {});
 
-    // The files that were missing since the last call; each is given once.
+    // The files that couldn't be had since the last call; each is given once.
     std::vector<std::string> TakeMissing();
 
   private:

@@ -4,7 +4,7 @@
 
 #include <QImageReader>
 
-#include <algorithm>
+#include <tuple>
 
 namespace orvane {
 
@@ -14,6 +14,8 @@ namespace {
 
 QImage Read(const fs::path& File)
 {
+    if (!IsPictureFile(File))
+        return {};
     QImageReader Reader(ToQt(File.string()));
     Reader.setDecideFormatFromContent(true);
     Reader.setAutoTransform(true);
@@ -26,10 +28,8 @@ std::pair<QImage, double> ReadFor(const fs::path& File, double Density)
     if (Density > 1) {
         fs::path Dense = File;
         Dense.replace_filename(File.stem().string() + "@2x" + File.extension().string());
-        std::error_code Error;
-        if (fs::exists(Dense, Error))
-            if (QImage Result = Read(Dense); !Result.isNull())
-                return {Result, 2};
+        if (QImage Result = Read(Dense); !Result.isNull())
+            return {Result, 2};
     }
     return {Read(File), 1};
 }
@@ -55,6 +55,8 @@ const QPixmap& PictureSource::For(QSize Box, double Density, Fit How)
 QPixmap PictureSource::Scaled(QSize Box, double Density, Fit How) const
 {
     auto [Source, PerPixel] = ReadFor(TheFile.File, Density);
+    if (Source.isNull())
+        std::tie(Source, PerPixel) = ReadFor(TheFile.Otherwise, Density);
     if (Source.isNull())
         return {};
     QSizeF Target = Box;

@@ -17,8 +17,9 @@ class PictureSource
 
     void Set(const Picture& NewPicture);
 
-    // The picture for a box of that size, null when there is none or it can't be decoded. Keeping
-    // proportions makes it smaller at need, but never larger than its file is sharp.
+    // The picture for a box of that size, null when neither it nor what is seen in its place can be
+    // decoded. Keeping proportions makes it smaller at need, but never larger than its file is
+    // sharp.
     const QPixmap& For(QSize Box, double Density, Fit How);
 
   private:

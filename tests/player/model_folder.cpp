@@ -17,7 +17,7 @@ namespace {
 void Touch(const fs::path& File)
 {
     fs::create_directories(File.parent_path());
-    std::ofstream(File) << "picture";
+    std::ofstream(File) << "GIF8, its beginning";
 }
 
 // Two resolutions, but frm_Configuration and frm_Panier have one layout for both.

@@ -2,13 +2,15 @@
 #include "support/temp_folder.h"
 #include "toolkit/picture.h"
 
+#include <sys/stat.h>
+
 namespace orvane {
 
 class PictureTest : public testing::Test
 {
   protected:
     TempFolder Folder;
-    const std::filesystem::path Epee = Folder.Write("Images/Épée.png", "x");
+    const std::filesystem::path Epee = Folder.Write("Images/Épée.png", "GIF89a");
 };
 
 TEST_F(PictureTest, AFileIsFoundWhateverTheCaseOfItsNameAndFolder)
@@ -20,7 +22,7 @@ TEST_F(PictureTest, AFileIsFoundWhateverTheCaseOfItsNameAndFolder)
         EXPECT_FAILS(NoPicture, PictureFiles::Load(Folder / Name));
     }
     EXPECT_FAILS(NoPicture, PictureFiles::Load({}));
-    const auto Other = Folder.Write("Images/épée.png", "y");
+    const auto Other = Folder.Write("Images/épée.png", "BM");
     EXPECT_EQ(PictureFiles::Load(Other).File, Other) << "the exact name goes first";
 }
 
@@ -34,6 +36,20 @@ TEST_F(PictureTest, WhatIsMissingGivesThePlaceholderAndIsToldOnce)
                                                              (Folder / "lien.png").string()}));
     Files.LoadOr(Folder / "absent.png");
     EXPECT_TRUE(Files.TakeMissing().empty());
+}
+
+TEST_F(PictureTest, WhatIsNoPictureCountsAsMissing)
+{
+    PictureFiles Files;
+    ASSERT_EQ(::mkfifo((Folder / "un tuyau.png").c_str(), 0600), 0);
+    std::vector<std::string> Told;
+    for (const auto& File :
+         {Folder.Write("coupé.png", "\x89P"), Folder.Write("texte.gif", "un GIF8"),
+          Folder / "un tuyau.png", Folder.Write("vide.png", "")}) {
+        EXPECT_EQ(Files.LoadOr(File, {Epee}), Picture{Epee}) << File;
+        Told.push_back(File.string());
+    }
+    EXPECT_EQ(Files.TakeMissing(), Told);
 }
 
 TEST_F(PictureTest, AnImageListCountsFromOne)

@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 namespace orvane {
 
 class PicturesOnScreen : public Stage
@@ -18,6 +20,10 @@ class PicturesOnScreen : public Stage
         Make("dense.png", {20, 20});
         Make("dense@2x.png", {40, 40}, Qt::blue);
         Make("png.gif", {10, 10});
+        EXPECT_TRUE(QFile::copy(Folder.filePath("high.png"), Folder.filePath("cut.png")));
+        EXPECT_TRUE(QFile::resize(Folder.filePath("cut.png"), 100));
+        EXPECT_EQ(::mkfifo(File("pipe.png").File.c_str(), 0600), 0);
+        EXPECT_EQ(::mkfifo(File("plate@2x.png").File.c_str(), 0600), 0);
     }
     void Make(const QString& Name, QSize Size, QColor Colour = Qt::red)
     {
@@ -45,7 +51,10 @@ TEST_F(PicturesOnScreen, FillTheirBoxOrKeepTheirProportions)
         {"dense.png", 20, 1, KeepingProportions, "20x20 #ff0000"},
         {"dense.png", 20, 2, KeepingProportions, "40x40 #0000ff"},
         {"png.gif", 10, 1, Whole, "10x10 #ff0000"}, // known by its content
+        {"plate.png", 20, 2, KeepingProportions, "40x20 #ff0000"},
         {"absent.png", 10, 1, Whole, "0x0 "},
+        {"cut.png", 10, 1, Whole, "0x0 "},
+        {"pipe.png", 10, 1, Whole, "0x0 "},
     };
     PictureSource Source;
     std::string Last;
@@ -57,6 +66,8 @@ TEST_F(PicturesOnScreen, FillTheirBoxOrKeepTheirProportions)
         const auto Told = QString("%1x%2 %3").arg(Seen.width()).arg(Seen.height()).arg(Colour);
         EXPECT_EQ(FromQt(Told), Expected) << Name;
     }
+    Source.Set({File("cut.png").File, File("plate.png").File});
+    EXPECT_EQ(Source.For({40, 40}, 1, KeepingProportions).size(), QSize(40, 20));
 }
 
 TEST_F(PicturesOnScreen, FillAButtonAndStandInTheMiddleOfAnImage)
