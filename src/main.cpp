@@ -1,5 +1,6 @@
 #include "base/failure.h"
 #include "base/text.h"
+#include "base/typography.h"
 #include "home/feuilles.h"
 #include "view/desktop.h"
 #include "view/french.h"
@@ -14,6 +15,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <future>
+#include <iostream>
 
 using namespace orvane;
 
@@ -22,6 +24,15 @@ namespace {
 std::filesystem::path ProgramFolder()
 {
     return std::filesystem::read_symlink("/proc/self/exe").parent_path();
+}
+
+// Whether the toolkit has nowhere to open a window, which it would answer by aborting. Who gives it
+// arguments or names a platform knows of one.
+bool HasNoDisplay(int Count)
+{
+    const auto IsUnset = [](const char* Name) { return qEnvironmentVariableIsEmpty(Name); };
+    return Count <= 1 && IsUnset("DISPLAY") && IsUnset("WAYLAND_DISPLAY") &&
+           IsUnset("QT_QPA_PLATFORM");
 }
 
 // Runs start-up behind one boundary: what stops it is told in one box.
@@ -43,6 +54,11 @@ bool Started(Application& App, std::future<void>& Loading, Dialogs& Boxes)
 
 int main(int Count, char** Arguments)
 {
+    if (HasNoDisplay(Count)) {
+        std::cerr << Typeset("Aucun écran n’est accessible : le programme se lance depuis une "
+                             "session graphique.\n");
+        return EXIT_FAILURE;
+    }
     QtDialogs Boxes;
     Application App(ProgramFolder(), Boxes);
     // Quitting ends the process at once, as nothing is left to save.
