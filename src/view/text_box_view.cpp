@@ -1,5 +1,6 @@
 #include "view/text_box_view.h"
 
+#include "base/montant.h"
 #include "toolkit/user.h"
 #include "view/act.h"
 #include "view/look.h"
@@ -147,10 +148,13 @@ void TextBoxView::ShowState()
 void TextBoxView::ShowTip()
 {
     QString Tip = ToQt(Box.Tip);
-    if (Box.Marked)
-        Tip = QStringLiteral("Ce texte n’est pas un nombre.");
+    const bool IsTooGreat = Box.Accepts == NumberKind::Entier16 && Montant::FromText(Box.Text);
+    if (Box.Marked && Tip.isEmpty())
+        Tip = IsTooGreat ? QStringLiteral("Il faut un nombre de -32768 à 32767.")
+                         : QStringLiteral("Ce texte n’est pas un nombre.");
     else if (Box.Stale)
-        Tip = QStringLiteral("Ce chiffre date d’avant une saisie à corriger.");
+        Tip =
+            QStringLiteral("Ce chiffre date d’avant une saisie à corriger ou un choix à refaire.");
     setAccessibleDescription(Tip);
     if (Tip.isEmpty() && fontMetrics().horizontalAdvance(text()) > Room())
         Tip = text();

@@ -41,6 +41,7 @@ class TextBoxOnScreen : public Stage
             QApplication::sendEvent(&Focused(), &Composed);
         };
         Deeds["unlock"] = [this](auto&) { Atelier().txt_Total.Locked = false; };
+        Deeds["whole"] = [this](auto&) { Atelier().txt_Nombre.Accepts = NumberKind::Entier16; };
         Deeds["stale"] = [this](const QString& Is) { Atelier().txt_Total.Stale = Is == "yes"; };
         Deeds["total"] = [this](const QString& Text) { Atelier().txt_Total.Text = FromQt(Text); };
         for (TextBox* Each : Fields())
@@ -116,9 +117,11 @@ class TextBoxLook : public TextBoxOnScreen
 
 constexpr Row LookRows[] = {
     {"AWrongText", "<in txt_Nombre>abc", "wrong Ce texte n’est pas un nombre."},
+    {"ANumberTooGreat", "<whole><in txt_Nombre>40000",
+     "wrong Il faut un nombre de -32768 à 32767."},
     {"Corrected", "<in txt_Nombre>abc<Ctrl+A>3", ""},
     {"AStaleFigure", "<in txt_Total><stale yes>",
-     "muted italic Ce chiffre date d’avant une saisie à corriger."},
+     "muted italic Ce chiffre date d’avant une saisie à corriger ou un choix à refaire."},
     {"FreshAgain", "<in txt_Total><stale yes><stale no>", ""},
     {"ALongText", "<in txt_Total><total Une longue désignation>", "Une longue désignation"},
     {"AShortText", "<in txt_Total><total Une longue désignation><total 1>", ""},

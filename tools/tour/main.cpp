@@ -41,9 +41,11 @@ class Evening
     {
         Watched = &Scene;
         Boxes.StandAbove(App.Feuilles);
-        Scene.Enter(App);
-        EnregistrerFeuilles(App);
-        Démarrer(App);
+        Scene.StartBy([this]() -> Application& {
+            EnregistrerFeuilles(App);
+            Démarrer(App);
+            return App;
+        });
     }
 
     ~Evening() { Watched = nullptr; }

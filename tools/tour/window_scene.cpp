@@ -7,16 +7,12 @@
 
 namespace orvane::tour {
 
-void WindowScene::Enter(Application& NewRun)
-{
-    Run = &NewRun;
-    Run->OnQuit = [this] { ++Quits; };
-}
-
 Application& WindowScene::Running()
 {
-    if (Run == nullptr)
-        throw scenario::CannotGoOn("the program doesn't run");
+    if (Run == nullptr) {
+        Run = &Starter();
+        Run->OnQuit = [this] { ++Quits; };
+    }
     return *Run;
 }
 
@@ -84,7 +80,9 @@ std::string WindowScene::Look(const std::string& What)
 
 void WindowScene::Act(const scenario::Step& Which)
 {
-    if (Which.Verb == "activer")
+    if (Which.Verb == "démarrer")
+        Running();
+    else if (Which.Verb == "activer")
         Bring(Running().Feuilles.Touch(Which.Target));
     else if (Which.Verb == "ouvrir")
         TheHands.Open(TurnTo(Which.Target));

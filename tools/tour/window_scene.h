@@ -18,8 +18,9 @@ class WindowScene : public scenario::ProgramScene
     {
     }
 
-    // A run that has its windows, and counts its ends here.
-    void Enter(Application& Run);
+    // How to start a run that has its windows: at the first deed that needs it, so that rows can be
+    // changed before. Its ends are counted here.
+    void StartBy(std::function<Application&()> Start) { Starter = std::move(Start); }
 
     Camera& Photographer() { return TheCamera; }
     int Ends() const { return Quits; }
@@ -47,6 +48,7 @@ class WindowScene : public scenario::ProgramScene
     QString TurnTo(const std::string& Control);
     void Bring(Screen& Which);
 
+    std::function<Application&()> Starter;
     Application* Run = nullptr;
     Eyes TheEyes;
     Camera TheCamera;
