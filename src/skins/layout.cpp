@@ -126,14 +126,8 @@ void Appliquer(Chose& Où, const Recordset& Ligne)
 
 std::string TableDe(Application& App, const Screen& Feuille, const std::string& Résolution)
 {
-    Variables& Globals = App.Globals;
-    const Ouverture Base(App, Globals.BaseDonnées2, Globals.CheminBaseSkin);
-    Recordset Ligne = OuvrirEnregistrements2(Globals, "SELECT * FROM RésolutionCommune WHERE Nom=" +
-                                                          Quoted(Feuille.Name()));
-    Ligne.MoveFirst();
-    std::string Table =
-        Feuille.Name() + "_" + (Vaut(Ligne, "Commun") ? "Commun" : SansEspaces(Résolution));
-    return Table;
+    const Ouverture Base(App, App.Globals.BaseDonnées2, App.Globals.CheminBaseSkin);
+    return Feuille.Name() + "_" + Déclinaison(App, Feuille.Name(), Résolution);
 }
 
 // The rows of one screen's table, read at once and found by name without regard to case. The first

@@ -103,6 +103,13 @@ void Habiller(Application& App, const ImagesFeuille& Fichiers)
             Bouton->Picture = Charger(Each.Fichier);
 }
 
+// A resolution's name as it stands in names of folders and tables.
+std::string SansEspaces(std::string Résolution)
+{
+    std::erase(Résolution, ' ');
+    return Résolution;
+}
+
 } // namespace
 
 std::vector<std::string> ImagesDeSkin()
@@ -139,12 +146,6 @@ void AnnoncerÉcransInconnus(Application& App, const std::vector<std::string>& F
                    "unknown screens");
 }
 
-std::string SansEspaces(std::string Résolution)
-{
-    std::erase(Résolution, ' ');
-    return Résolution;
-}
-
 void ChargerSkin(Application& App, const std::string& Skin, const std::string& Résolution)
 {
     Variables& Globals = App.Globals;
@@ -167,16 +168,18 @@ void ChargerSkin(Application& App, const std::string& Skin, const std::string& R
     AnnoncerÉcransInconnus(App, Inconnues);
 }
 
+std::string Déclinaison(Application& App, const std::string& Feuille, const std::string& Résolution)
+{
+    Recordset Ligne = OuvrirEnregistrements2(
+        App.Globals, "SELECT * FROM RésolutionCommune WHERE Nom=" + Quoted(Feuille));
+    Ligne.MoveFirst();
+    return Ligne.TextOrEmpty("Commun") == "O" ? "Commun" : SansEspaces(Résolution);
+}
+
 void ChoisirDossierImages(Application& App, const std::string& Feuille,
                           const std::string& Résolution)
 {
-    Variables& Globals = App.Globals;
-    Recordset Ligne = OuvrirEnregistrements2(Globals, "SELECT * FROM RésolutionCommune WHERE Nom=" +
-                                                          Quoted(Feuille));
-    Ligne.MoveFirst();
-    Globals.CheminImages =
-        Globals.CheminSkin +
-        (Ligne.TextOrEmpty("Commun") == "O" ? "Commun/" : SansEspaces(Résolution) + "/");
+    App.Globals.CheminImages = App.Globals.CheminSkin + Déclinaison(App, Feuille, Résolution) + "/";
 }
 
 void RelierAlchimie(Application& App, const std::string& Royaume)

@@ -18,13 +18,15 @@ bool SkinExiste(Application& App, const std::string& Skin);
 // there are none.
 void AnnoncerÉcransInconnus(Application& App, const std::vector<std::string>& Feuilles);
 
-// The resolution's name as it stands in names of folders and tables: without its spaces.
-std::string SansEspaces(std::string Résolution);
-
 // Fixes the paths of the skin and loads background and button pictures of all ten screens afresh;
 // a screen's first touch here loads it. A picture that is missing leaves the plain look, a screen
 // that the skin doesn't know keeps what it has; both are told later.
 void ChargerSkin(Application& App, const std::string& Skin, const std::string& Résolution);
+
+// "Commun" for a screen that all resolutions share, else the resolution's name without its spaces.
+// Needs BaseDonnées2 open on the skin's database; fails for a screen that the skin doesn't know.
+std::string Déclinaison(Application& App, const std::string& Feuille,
+                        const std::string& Résolution);
 
 // Sets CheminImages for one screen: the common folder or the resolution's. Needs BaseDonnées2 open
 // on the skin's database.

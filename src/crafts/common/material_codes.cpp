@@ -4,11 +4,29 @@
 
 namespace orvane {
 
+namespace {
+
+constexpr std::string_view CodePatron = "8";
+constexpr std::string_view CodePrixLibre = "9";
+constexpr std::string_view CodeSansMatériau = "10";
+
+} // namespace
+
+bool AUnMatériau(const LigneMatériau& Ligne)
+{
+    return Ligne.Code->Text != CodeSansMatériau;
+}
+
+bool EstLibre(const LigneMatériau& Ligne)
+{
+    return Ligne.Code->Text == CodePrixLibre;
+}
+
 void RésoudreMatériau(Variables& Globals, std::int16_t NuméroDegré, bool PatronCouronne,
                       LigneMatériau& Ligne)
 {
     const std::string& Code = Ligne.Code->Text;
-    if (Code == CodeSansMatériau)
+    if (!AUnMatériau(Ligne))
         return;
     if (Code == CodePatron) {
         Ligne.Nom.Text =

@@ -10,9 +10,11 @@
 // material and its price together with the degree; a few are not.
 namespace orvane {
 
-inline constexpr std::string_view CodeSansMatériau = "10";
-inline constexpr std::string_view CodePatron = "8";
-inline constexpr std::string_view CodePrixLibre = "9"; // priced by the crafter
+// Whether a line's code stands for a material at all: one without is hidden and costs nothing.
+bool AUnMatériau(const LigneMatériau& Ligne);
+
+// Whether the crafter prices it.
+bool EstLibre(const LigneMatériau& Ligne);
 
 // Name and unit price of the material that a line's code means at a degree; a line without material
 // is left as it is. PatronCouronne tells which of the two sewing patterns the object takes. Needs

@@ -31,7 +31,8 @@ void NommerLigne(TextBox& Nom, TextBox& Qté, TextBox& Prix, const std::string& 
 }
 
 LigneMatériau::LigneMatériau(Screen& Owner, const NomsNomenclature& Noms, int Num)
-    : Nom(Owner, Noms.Nom + std::to_string(Num)),
+    : Num(Num),
+      Nom(Owner, Noms.Nom + std::to_string(Num)),
       Fois(Owner, Noms.Fois + std::to_string(Num)),
       Qté(Owner, Noms.Qté + std::to_string(Num)),
       Égale(Owner, Noms.Égale + std::to_string(Num)),

@@ -53,6 +53,7 @@ class LigneMatériau
   public:
     LigneMatériau(Screen& Owner, const NomsNomenclature& Noms, int Num);
 
+    const int Num; // from 1
     TextBox Nom;
     Label Fois;
     TextBox Qté;

@@ -1,4 +1,5 @@
 #include "crafts/legendary/frm_armes_legendaires.h"
+#include "toolkit/visibility.h"
 
 // Where the controls of the legendary weapons stand and what they say until a skin moves them.
 // Above at the left the choice and the final bill, at the right the weapon and its sale; below, the
@@ -151,9 +152,9 @@ void frm_ArmesLégendaires::DéfinirComposant(Composant& Lequel, const char* Tit
 
 void frm_ArmesLégendaires::DéfinirCachés()
 {
-    for (TextBox* Holder : {&txt_PrixUnitaireMatériau, &txt_ObjetNum, &txt_GemmeNum,
-                            &txt_TeintureNum, &txt_Image, &txt_Icône})
-        Holder->Visible = false;
+    ShowAll({&txt_PrixUnitaireMatériau, &txt_ObjetNum, &txt_GemmeNum, &txt_TeintureNum, &txt_Image,
+             &txt_Icône},
+            false);
     txt_PrixUnitaireMatériau.Text.StartWith("0");
     for (TextBox* Holder : {&txt_Image, &Teinture.FichierIcône})
         Holder->Text.StartWith("Vide"); // so that the first empty text shows the placeholder

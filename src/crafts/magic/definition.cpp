@@ -37,9 +37,9 @@ void frm_ArtisanatsMagiques::Définir()
     DéfinirPrixAlchimie();
     DéfinirPrixArcanes();
     AfficherArcanes(false);
-    for (TextBox* Holder : {&txt_IcôneAlchimie, &txt_IcôneArcanes, &txt_AlchimieIconeObjetSup,
-                            &txt_Degré, &txt_ArcanesCoefQté2})
-        Holder->Visible = false;
+    ShowAll({&txt_IcôneAlchimie, &txt_IcôneArcanes, &txt_AlchimieIconeObjetSup, &txt_Degré,
+             &txt_ArcanesCoefQté2},
+            false);
     PlacerBoutons(cmd_AjouterPanier, cmd_Retour);
 }
 

@@ -17,8 +17,7 @@ void frm_ArtisanatsManuels::Définir()
     DéfinirMatériaux();
     DéfinirVente();
     DéfinirObjetSup();
-    for (TextBox* Holder : {&txt_Sup, &txt_Image, &txt_Icône, &txt_IconeObjetSup, &txt_ObjetSupBis})
-        Holder->Visible = false;
+    ShowAll({&txt_Sup, &txt_Image, &txt_Icône, &txt_IconeObjetSup, &txt_ObjetSupBis}, false);
     txt_Image.Text.StartWith("Vide"); // so that the first empty text shows the placeholder
     PlacerBoutons(cmd_AjouterPanier, cmd_Retour);
 }

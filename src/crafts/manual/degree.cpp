@@ -51,9 +51,8 @@ void frm_ArtisanatsManuels::cbo_Degré_Click()
         [&] {
             LireDegré();
             ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
-            int i = 0;
-            Matériaux.Chiffrer(ProduitDeMontants, [&](const LigneMatériau& Each) {
-                return ++i < 3 || Each.Code->Text != CodeSansMatériau;
+            Matériaux.Chiffrer(ProduitDeMontants, [](const LigneMatériau& Each) {
+                return Each.Num < 3 || AUnMatériau(Each);
             });
         },
         [&] { CalculerPrixVente(); });
@@ -109,8 +108,8 @@ void frm_ArtisanatsManuels::LireStatistiques(const Recordset& Objet)
 // Shows or hides a row with its code, and opens its price for a material that the crafter prices.
 void frm_ArtisanatsManuels::txt_MatériauxBruts_Change(LigneMatériau& Ligne)
 {
-    Ligne.Montrer(Ligne.Code->Text != CodeSansMatériau);
-    Ligne.PoserVerrou(Ligne.Code->Text == CodePrixLibre, InputGrey, White);
+    Ligne.Montrer(AUnMatériau(Ligne));
+    Ligne.PoserVerrou(EstLibre(Ligne), InputGrey, White);
 }
 
 void frm_ArtisanatsManuels::MontrerStatistique(TextBox& Valeur, Label& Titre)

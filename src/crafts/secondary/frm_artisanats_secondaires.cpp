@@ -24,7 +24,7 @@ void frm_ArtisanatsSecondaires::Relier()
         Matériaux[i].Nom.OnChange = [this, i] { txt_Matériaux_Change(Matériaux[i]); };
     for (int i : {2, 3})
         Matériaux[i].Code->OnChange = [this, i] {
-            Matériaux[i].Montrer(Matériaux[i].Code->Text != CodeSansMatériau);
+            Matériaux[i].Montrer(AUnMatériau(Matériaux[i]));
         };
     txt_Icône.OnChange = [this] { MontrerIcôneRoyaume(this->App, txt_Icône, img_Icône); };
     txt_Image.OnChange = [this] { MontrerImageObjet(this->App, txt_Image, img_Objet); };

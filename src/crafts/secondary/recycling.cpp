@@ -74,10 +74,8 @@ void frm_ArtisanatsSecondaires::ChoisirDegré()
         [&] {
             LireDegré();
             ChangerCouleurCraft(App, lbl_Niveau.Caption, NiveauCraft, img_Niveau);
-            int i = 0;
-            Matériaux.Chiffrer(ProduitDeMontants, [&](const LigneMatériau& Each) {
-                ++i;
-                return i == 1 || (i < 4 && Each.Code->Text != CodeSansMatériau);
+            Matériaux.Chiffrer(ProduitDeMontants, [](const LigneMatériau& Each) {
+                return Each.Num == 1 || (Each.Num < 4 && AUnMatériau(Each));
             });
         },
         [&] { CalculerCoût(); });
