@@ -57,11 +57,13 @@ void frm_Panier::RemplirListes()
              "SELECT * FROM PanierGlobal WHERE (Royaume=" + Quoted(Globals.RoyaumeCourant) +
              " AND Acheteur=" + Quoted(cbo_Commandes.Text) + ") ORDER BY Nom");
          !Lignes.Eof(); Lignes.MoveNext()) {
-        lst_Num.AddItem(Lignes.TextOrEmpty("Num"));
-        lst_Objet.AddItem(Lignes.TextOrEmpty("Nom"));
-        lst_Nb.AddItem(Lignes.TextOrEmpty("Nb"));
-        lst_PrixCoûtant.AddItem(Lignes.TextOrEmpty("PrixCoûtant"));
-        lst_PrixVente.AddItem(Lignes.TextOrEmpty("PrixVente"));
+        // a row is read whole: a column that isn't there must not leave lists of unlike lengths
+        const std::array<std::string, 5> Cellules{
+            Lignes.TextOrEmpty("Nom"), Lignes.TextOrEmpty("Nb"), Lignes.TextOrEmpty("PrixCoûtant"),
+            Lignes.TextOrEmpty("PrixVente"), Lignes.TextOrEmpty("Num")};
+        auto Cellule = Cellules.begin();
+        for (ListBox* Liste : Listes())
+            Liste->AddItem(*Cellule++);
     }
 }
 

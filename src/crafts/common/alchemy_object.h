@@ -10,6 +10,15 @@ namespace orvane {
 // ending. Needs the alchemy database open; fails when no material bears the name.
 void RemplacerDernierCaractère(Variables& Globals, TextBox& Nom);
 
+// The bill of an object that another one needs, as two screens call it.
+inline const NomsNomenclature NomsObjetSup{"txt_MatSup",
+                                           "lbl_MatSupX",
+                                           "txt_MatSupQté",
+                                           "lbl_MatSup",
+                                           "txt_PrixMatSup",
+                                           "txt_PrixMatSuptUnitaire",
+                                           {}};
+
 // Where an object that another one needs shows its level, its icon and its first four materials.
 struct ObjetSup
 {

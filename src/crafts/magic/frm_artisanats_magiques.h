@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/feuille.h"
+#include "crafts/common/alchemy_object.h"
 #include "crafts/common/nomenclature.h"
 
 #include <cstdint>
@@ -104,15 +105,7 @@ class frm_ArtisanatsMagiques : public Feuille
     Label NAMED(lbl_AlchimieObjetSupNiveau);
     Label NAMED(lbl_AlchimieObjetSupNiveauCraft);
     Image NAMED(img_AlchimieObjetSupNiveau);
-    Nomenclature MatériauxSup{*this,
-                              {"txt_MatSup",
-                               "lbl_MatSupX",
-                               "txt_MatSupQté",
-                               "lbl_MatSup",
-                               "txt_PrixMatSup",
-                               "txt_PrixMatSuptUnitaire",
-                               {}},
-                              4};
+    Nomenclature MatériauxSup{*this, NomsObjetSup, 4};
     Label NAMED(lbl_AlchimieObjetSUpPrixCoûtant);
     TextBox NAMED(txt_AlchimieObjetSUpPrixCoûtant);
 

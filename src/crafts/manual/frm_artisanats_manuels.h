@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/feuille.h"
+#include "crafts/common/alchemy_object.h"
 #include "crafts/common/nomenclature.h"
 
 #include <cstdint>
@@ -97,15 +98,7 @@ class frm_ArtisanatsManuels : public Feuille
     Image NAMED(img_ObjetSup);
     Label NAMED(lbl_ObjetSUpPrixCoûtant);
     TextBox NAMED(txt_ObjetSUpPrixCoûtant);
-    Nomenclature MatériauxSup{*this,
-                              {"txt_MatSup",
-                               "lbl_MatSupX",
-                               "txt_MatSupQté",
-                               "lbl_MatSup",
-                               "txt_PrixMatSup",
-                               "txt_PrixMatSuptUnitaire",
-                               {}},
-                              4};
+    Nomenclature MatériauxSup{*this, NomsObjetSup, 4};
 
     // Hidden holders: working values that are never shown
     TextBox NAMED(txt_Sup);
