@@ -1,4 +1,3 @@
-#include "base/text.h"
 #include "databases/databases.h"
 #include "home/feuilles.h"
 #include "support/temp_folder.h"
@@ -173,39 +172,6 @@ TEST_P(Catalogue, EveryPickOfEveryCraftHasItsPrice)
         Cliquer(Each.Screen, "cmd_Retour");
     }
     EXPECT_GT(Vus, 3500);
-}
-
-// A word that no object bears leaves the list and, in saddlery, is told; the others narrow it.
-TEST_P(Catalogue, TheFiltersFindObjectsButForTwo)
-{
-    int WithoutObjects = 0;
-    Cliquer("frm_Accueil", "cmd_ArtisanatsMagiques");
-    const auto Magic = [this](const char* List) -> ComboBox& {
-        return Le<ComboBox>("frm_ArtisanatsMagiques", List);
-    };
-    for (const std::string& Product : std::vector(Magic("cbo_Produit").Items())) {
-        App.Door.Pick(Magic("cbo_Produit"), Product);
-        for (const std::string& Detail : std::vector(Magic("cbo_ProduitDétaillé").Items())) {
-            App.Door.Pick(Magic("cbo_ProduitDétaillé"), Detail);
-            if (Magic("cbo_Type").Visible)
-                for (const std::string& Word : std::vector(Magic("cbo_Type").Items())) {
-                    App.Door.Pick(Magic("cbo_Type"), Word);
-                    WithoutObjects +=
-                        !ContainsIgnoringCase(Magic("cbo_Objet").Items().front(), Word);
-                }
-        }
-    }
-    EXPECT_EQ(WithoutObjects, 1);
-    EXPECT_TRUE(Reçues.Messages.empty());
-    Cliquer("frm_ArtisanatsMagiques", "cmd_Retour");
-    Cliquer("frm_Accueil", "cmd_ArtisanatsSecondaires");
-    for (const char* Entry : {"Bardes", "Carapaçons", "Sacoches"}) {
-        App.Door.ClickItem(Le<SideMenu>("frm_ArtisanatsSecondaires", "Bar_Menus"), Entry);
-        auto& Words = Le<ComboBox>("frm_ArtisanatsSecondaires", "cbo_Degré");
-        for (const std::string& Word : std::vector(Words.Items()))
-            App.Door.Pick(Words, Word);
-    }
-    EXPECT_EQ(Reçues.Messages.size(), 1U);
 }
 
 INSTANTIATE_TEST_SUITE_P(EachRealm, Catalogue, testing::Values("Valdren", "Corvane", "Brenmoor"));
