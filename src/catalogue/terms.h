@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalogue/catalogue.h"
+#include "store/sql_text.h"
 
 #include <initializer_list>
 #include <string>
@@ -47,18 +48,12 @@ inline Columns OfEachRoyaume(std::initializer_list<const char*> Stems, ColumnTyp
     return Result;
 }
 
-// "Stem", "Stem_1"... as the repeated joins of one table are named.
-inline std::string Repeated(const std::string& Stem, int i)
-{
-    return i == 0 ? Stem : Stem + "_" + std::to_string(i);
-}
-
 // Column of each of the repeated joins, as items of a SELECT list.
 inline std::string EachJoin(const std::string& Stem, int Count, const std::string& Column)
 {
     std::string Result;
     for (int i = 0; i < Count; ++i)
-        Result += ", " + Repeated(Stem, i) + "." + Column;
+        Result += ", " + JoinName(Stem, i + 1) + "." + Column;
     return Result;
 }
 
@@ -67,7 +62,7 @@ inline std::string MaterialJoins(const std::string& List, const std::string& Ste
 {
     std::string Result;
     for (int i = 0; i < Count; ++i) {
-        const std::string Alias = Repeated(Stem, i);
+        const std::string Alias = JoinName(Stem, i + 1);
         Result += " LEFT JOIN " + Stem + (i == 0 ? "" : " AS " + Alias) + " ON " + List + ".Mat" +
                   std::to_string(i + 1) + " = " + Alias + ".Num";
     }

@@ -31,4 +31,11 @@ std::vector<Token> Tokenize(std::string_view Sql);
 // Failure (Kind::Store) for a query that isn't of the dialect, about the file that it is sent to.
 [[noreturn]] void ThrowUnreadable(std::string_view Sql);
 
+// What a saved query calls a table that it joins several times, from 1: "Matériaux", "Matériaux_1",
+// "Matériaux_2"...
+inline std::string JoinName(const std::string& Table, int i)
+{
+    return i == 1 ? Table : Table + "_" + std::to_string(i - 1);
+}
+
 } // namespace orvane

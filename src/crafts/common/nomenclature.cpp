@@ -189,7 +189,7 @@ void Nomenclature::MarquerPérimée(bool Périmée)
 
 std::string ColonneJointe(const std::string& Table, int i, const std::string& Colonne)
 {
-    return (i == 1 ? Table : Table + "_" + std::to_string(i - 1)) + "." + Colonne;
+    return JoinName(Table, i) + "." + Colonne;
 }
 
 } // namespace orvane
