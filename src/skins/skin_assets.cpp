@@ -103,13 +103,6 @@ void Habiller(Application& App, const ImagesFeuille& Fichiers)
             Bouton->Picture = Charger(Each.Fichier);
 }
 
-// A resolution's name as it stands in names of folders and tables.
-std::string SansEspaces(std::string Résolution)
-{
-    std::erase(Résolution, ' ');
-    return Résolution;
-}
-
 } // namespace
 
 std::vector<std::string> ImagesDeSkin()
@@ -166,6 +159,12 @@ void ChargerSkin(Application& App, const std::string& Skin, const std::string& R
             Globals.CheminStatut = Globals.CheminImages + "Statut/";
     }
     AnnoncerÉcransInconnus(App, Inconnues);
+}
+
+std::string SansEspaces(std::string Résolution)
+{
+    std::erase(Résolution, ' ');
+    return Résolution;
 }
 
 std::string Déclinaison(Application& App, const std::string& Feuille, const std::string& Résolution)

@@ -23,6 +23,9 @@ void AnnoncerÉcransInconnus(Application& App, const std::vector<std::string>& F
 // that the skin doesn't know keeps what it has; both are told later.
 void ChargerSkin(Application& App, const std::string& Skin, const std::string& Résolution);
 
+// The resolution's name as it stands in names of folders and tables: without its spaces.
+std::string SansEspaces(std::string Résolution);
+
 // "Commun" for a screen that all resolutions share, else the resolution's name without its spaces.
 // Needs BaseDonnées2 open on the skin's database; fails for a screen that the skin doesn't know.
 std::string Déclinaison(Application& App, const std::string& Feuille,

@@ -21,6 +21,14 @@ std::int32_t ColourOf(const std::string& Text, const std::string& Place)
     return RGB(Value >> 16, (Value >> 8) & 0xFF, Value & 0xFF).Number;
 }
 
+// Boxes whose width the program itself sets, the same at each resolution.
+bool HasFixedWidth(const Control& Which)
+{
+    const std::string Name = Which.Owner().Name() + "/" + Which.Name();
+    return Name == "frm_ArtisanatsManuels/cbo_Degré" ||
+           Name == "frm_ArtisanatsMagiques/cbo_ProduitDétaillé";
+}
+
 class RowWriter
 {
   public:
@@ -40,6 +48,8 @@ class RowWriter
         Row["Left"] = Scaled(Which.Left);
         Row["Top"] = Scaled(Which.Top);
         Size(Row, Which.Width, Which.Height);
+        if (HasFixedWidth(Which))
+            Row["Width"] = std::to_string(Which.Width());
         if (HasFont(Which.Kind())) {
             Row["ChangeFontSize"] = "O";
             Row["FontSize"] = TextOfDouble(std::round(Which.FontSize * Factor * 2) / 2);
