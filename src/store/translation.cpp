@@ -151,7 +151,10 @@ Translation TranslateSelect(Tokens Query, const SourceFinder& Find)
     Result.Sql += " FROM " + QuotedName(From.Name) + Next.Where(From) + " ORDER BY ";
     if (Next.Takes("ORDER")) {
         Next.Expect("BY");
-        Result.Sql += QuotedName(ColumnOf(From, Next.Name())) + " COLLATE FRENCH, ";
+        const std::string Column = QuotedName(ColumnOf(From, Next.Name()));
+        // of texts that differ in case alone, a DISTINCT keeps the one stored first
+        Result.Sql +=
+            (Result.Distinct ? "fold_case(" + Column + ")" : Column) + " COLLATE FRENCH, ";
     }
     Next.ExpectEnd();
     for (const std::string& Term : From.Order)

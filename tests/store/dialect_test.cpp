@@ -63,7 +63,7 @@ TEST_F(DialectTest, RowsComeInTheirOrderAndOnceWhenDistinct)
         {"SELECT DISTINCT Sorte FROM U", "Sorte", "B|a"},
         {"SELECT DISTINCT Nom FROM U WHERE Nom LIKE \"é*\"", "Nom", "épée|Étain"},
         {"SELECT DISTINCT Nom, Nb FROM U WHERE Nom = \"Épée\"", "Nom", "épée|ÉPÉE"},
-        {"SELECT DISTINCT Sorte FROM U ORDER BY Sorte", "Sorte", "a|b"},
+        {"SELECT DISTINCT Sorte FROM U ORDER BY Sorte", "Sorte", "a|B"},
         {"SELECT DISTINCT * FROM [V à part]", "B", "x|x||b+:"}};
     for (const auto& [Sql, Column, Cells] : Rows)
         EXPECT_EQ(Walk(File, Sql, Column), Cells) << Sql;
