@@ -22,19 +22,11 @@ class ScriptedDialogs : public Dialogs
             ADD_FAILURE() << "box that never came up: " << Left.Text;
     }
 
-    void ExpectMsgBox(std::string Text)
-    {
-        Script.push_back({Box::Message, std::move(Text), {}, {}});
-    }
+    void ExpectMsgBox(std::string Text) { Script.push_back({Box::Message, std::move(Text), {}}); }
 
     void AnswerInputBox(std::string Prompt, std::string Answer)
     {
-        Script.push_back({Box::Input, std::move(Prompt), std::move(Answer), {}});
-    }
-
-    void AnswerShowColor(std::optional<Colour> Answer)
-    {
-        Script.push_back({Box::Colours, {}, {}, Answer});
+        Script.push_back({Box::Input, std::move(Prompt), std::move(Answer)});
     }
 
     // Whether every scripted box has come up.
@@ -42,33 +34,34 @@ class ScriptedDialogs : public Dialogs
 
     void MsgBox(const std::string& Text) override { Next(Box::Message, Text); }
 
-    std::string InputBox(const std::string& Prompt, const std::string& Title) override
+    std::string InputBox(const std::string& Prompt, const std::string&) override
     {
-        LastTitle = Title;
         return Next(Box::Input, Prompt).Answer;
     }
 
-    std::optional<Colour> ShowColor() override { return Next(Box::Colours, {}).Chosen; }
+    std::optional<Colour> ShowColor() override
+    {
+        ADD_FAILURE() << "nobody expects a choice of colour";
+        return {};
+    }
 
-    std::string LastTitle;       // of the last input box
     std::function<void()> OnBox; // runs while a box is up
 
   private:
-    enum class Box { Message, Input, Colours };
+    enum class Box { Message, Input };
 
     struct Step
     {
         Box Kind;
         std::string Text;
         std::string Answer;
-        std::optional<Colour> Chosen;
     };
 
     Step Next(Box Kind, const std::string& Text)
     {
         if (Script.empty() || Script.front().Kind != Kind) {
             ADD_FAILURE() << "unexpected box: " << Text;
-            return {Kind, Text, {}, {}};
+            return {Kind, Text, {}};
         }
         Step Expected = std::move(Script.front());
         Script.pop_front();
