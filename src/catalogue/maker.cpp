@@ -1,6 +1,7 @@
 #include "catalogue/maker.h"
 
 #include "store/binding.h"
+#include "store/guard.h"
 #include "store/link.h"
 #include "store/schema.h"
 #include "store/sql_text.h"
@@ -54,6 +55,7 @@ struct DatabaseMaker::Inside
                SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE),
           Transaction(Base)
     {
+        Distrust(Base);
     }
 
     ~Inside()

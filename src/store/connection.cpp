@@ -4,6 +4,7 @@
 #include "store/binding.h"
 #include "store/file_stamp.h"
 #include "store/functions.h"
+#include "store/guard.h"
 #include "store/query_shape.h"
 #include "store/schema.h"
 #include "store/sqlite_error.h"
@@ -33,6 +34,15 @@ Value ValueAt(SQLite::Statement& Statement, int At)
     if (Cell.isFloat())
         return Cell.getDouble();
     return Cell.getString();
+}
+
+std::size_t BytesOf(const std::vector<Value>& Row)
+{
+    std::size_t Bytes = Row.size() * sizeof(Value);
+    for (const Value& Cell : Row)
+        if (const auto* Text = std::get_if<std::string>(&Cell.Raw()))
+            Bytes += Text->size();
+    return Bytes;
 }
 
 // What equal rows have in common: their values with case folded away.
@@ -68,8 +78,10 @@ struct Connection::Inside
         : File(std::move(Path)),
           BeforeWrite(std::move(BeforeWriteRuns)),
           Base(File.string(), SQLite::OPEN_READWRITE, BusyMilliseconds),
+          Work(Base),
           Schema(Base)
     {
+        Distrust(Base);
         RegisterFunctions(Base);
         Base.exec(
             "PRAGMA schema_version"); // reads the header: a file that is no database fails here
@@ -101,6 +113,7 @@ struct Connection::Inside
     {
         BeforeWrite();
         EndReading();
+        Work.Renew();
         SQLite::Transaction Transaction(Base, SQLite::TransactionBehavior::IMMEDIATE);
         Action();
         Transaction.commit();
@@ -117,6 +130,7 @@ struct Connection::Inside
     std::filesystem::path File;
     std::function<void()> BeforeWrite;
     SQLite::Database Base;
+    Allowance Work;
     orvane::Schema Schema;
     std::unordered_map<std::string, std::unique_ptr<Prepared>> Statements;
     std::map<std::filesystem::path, std::optional<FileStamp>> Stamps;
@@ -148,6 +162,7 @@ RowSet Connection::Select(std::string_view Sql)
     return Translated(In->File, [&] {
         const std::vector<Token> Query = Tokenize(Sql);
         std::vector<Value> Parameters;
+        In->Work.Renew();
         const std::string Shape = ShapeOf(Query, Parameters);
         Prepared& Ready = In->Prepare(Query, Shape);
         if (!In->Reading) {
@@ -166,6 +181,10 @@ RowSet Connection::Select(std::string_view Sql)
             Row.reserve(static_cast<std::size_t>(Count));
             for (int i = 0; i < Count; ++i)
                 Row.push_back(ValueAt(Statement, i));
+            if (!In->Work.Spend(static_cast<std::int64_t>(BytesOf(Row)))) {
+                Statement.tryReset();
+                throw Failure(FailureKind::Store, DisplayName(In->File), "too many rows");
+            }
             const bool LikeTheLast = !Result.Rows.empty() && Row == Result.Rows.back();
             if (Ready.Query.Distinct && (LikeTheLast || !Seen.insert(DistinctKey(Row)).second))
                 continue;

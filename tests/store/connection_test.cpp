@@ -164,6 +164,33 @@ TEST_F(ConnectionTest, WhatOthersDoToAFileIsNoticedAtTheNextOpening)
     EXPECT_FAILS(DatabaseMissing, TheStore.Open(File));
 }
 
+TEST_F(ConnectionTest, AFileFromElsewhereIsDataAndOneQueryOfItDoesNotGoOnForEver)
+{
+    Raw("Métiers.mdb", R"(
+        CREATE TABLE N (Num INTEGER PRIMARY KEY, Mot TEXT);
+        WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n LIMIT 5000)
+        INSERT INTO N SELECT i, CASE WHEN i = 1 THEN hex(zeroblob(500000)) END FROM n;
+        CREATE TABLE SavedQueries (Nom TEXT, Texte TEXT);
+        INSERT INTO SavedQueries VALUES
+        ('R_Rien', 'SELECT N.Num FROM N INNER JOIN N AS A ON A.Mot > N.Mot'),
+        ('R_Grand', 'SELECT A.Mot FROM N INNER JOIN N AS A ON A.Num = 1 WHERE 101 > N.Num');
+        CREATE TABLE G (Mot TEXT);
+        INSERT INTO G VALUES (hex(zeroblob(600000)));
+        CREATE VIRTUAL TABLE F USING fts5(Mot);
+        CREATE TRIGGER Appel BEFORE UPDATE ON T BEGIN SELECT fold_case(NEW.Nom); END)");
+    const std::string Refused = Failure(FailureKind::Store, "Métiers.mdb").Sentence();
+    const Database Base = TheStore.Open(File);
+    for (const std::string From : {"R_Rien", "R_Grand", "G"}) {
+        EXPECT_EQ(SentenceOf([&] { Base.OpenRecordset("SELECT * FROM " + From); }), Refused)
+            << From;
+        EXPECT_EQ(Walk(Base, All, "Nom"), "Fer|Bois") << "after " << From;
+    }
+    EXPECT_EQ(Writing(), Refused) << "a trigger that calls a function of the program";
+    EXPECT_EQ(SentenceOf([&] { Base.Execute("DELETE * FROM F_data WHERE id = 1"); }), Refused);
+    EXPECT_EQ(SentenceOf([&] { Base.Execute("DELETE * FROM T WHERE Nom = \"Fer\""); }), "");
+    EXPECT_EQ(RawCell("Métiers.mdb", "SELECT group_concat(Nom) FROM T"), "Bois");
+}
+
 TEST(SqliteError, AFullFileLeavesTheDiskFullSentence)
 {
     SQLite::Database Base(":memory:", SQLite::OPEN_READWRITE);
