@@ -79,7 +79,7 @@ struct Connection::Inside
           BeforeWrite(std::move(BeforeWriteRuns)),
           Base(File.string(), SQLite::OPEN_READWRITE, BusyMilliseconds),
           Work(Base),
-          Schema(Base)
+          Schema(Base, File)
     {
         Distrust(Base);
         RegisterFunctions(Base);

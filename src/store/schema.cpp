@@ -17,7 +17,18 @@ std::string TableNamed(const std::string& File)
            ".sqlite_schema WHERE type = 'table' AND fold_case(name) = ?";
 }
 
+std::filesystem::path Full(const std::filesystem::path& File)
+{
+    return std::filesystem::absolute(File).lexically_normal();
+}
+
 } // namespace
+
+Schema::Schema(SQLite::Database& Base, const std::filesystem::path& File)
+    : Base(Base),
+      Folder(Full(File).parent_path())
+{
+}
 
 bool Schema::Knows(const std::string& Name) const
 {
@@ -114,6 +125,9 @@ std::string Schema::MakeView(const std::string& Name)
 
 std::string Schema::Attach(const std::filesystem::path& Path)
 {
+    const std::filesystem::path Below = Full(Path).lexically_relative(Folder);
+    if (Below.empty() || *Below.begin() == "..")
+        throw Failure(FailureKind::Store, DisplayName(Path), "a link out of " + Folder.string());
     std::error_code Error;
     if (!std::filesystem::exists(Path, Error)) // attaching would make it
         throw Failure(FailureKind::DatabaseMissing, DisplayName(Path), Path.string());

@@ -21,7 +21,7 @@ namespace orvane {
 class Schema
 {
   public:
-    explicit Schema(SQLite::Database& Base) : Base(Base) {}
+    Schema(SQLite::Database& Base, const std::filesystem::path& File);
 
     // Whether Find has been asked for this name already.
     bool Knows(const std::string& Name) const;
@@ -44,7 +44,8 @@ class Schema
     // Makes the temporary view that a saved query or a linked table is read through. Its own name.
     std::string MakeView(const std::string& Name);
 
-    // The name in SQL of a linked file, which is attached when it isn't yet.
+    // The name in SQL of a linked file, which is attached when it isn't yet. Failure (Kind::Store)
+    // when it lies outside the folder of the file that links it.
     std::string Attach(const std::filesystem::path& Path);
 
     // The first row of a query with a name, folded, as its parameter; of one of the store's own
@@ -54,6 +55,7 @@ class Schema
                                    const std::string& Name);
 
     SQLite::Database& Base;
+    std::filesystem::path Folder;
     std::map<std::string, Source> Sources;                 // by folded name
     std::map<std::filesystem::path, std::string> Attached; // file and its name in SQL
 };

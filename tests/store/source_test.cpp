@@ -129,6 +129,21 @@ TEST_F(SourceTest, AnUnknownLinkOrOneToADamagedFileFails)
               "«\u00A0commun.mdb\u00A0».");
 }
 
+TEST_F(SourceTest, ALinkLeadsNowhereOutsideTheFolder)
+{
+    const TempFolder Elsewhere;
+    std::filesystem::copy_file(Folder / "autre.mdb", Elsewhere / "autre.mdb");
+    const Database Base = TheStore.Open(File);
+    for (const std::filesystem::path& Path :
+         {Elsewhere / "autre.mdb", Folder / ".." / Elsewhere.Path().filename() / "autre.mdb",
+          std::filesystem::path("/absente/autre.mdb")}) {
+        Base.SetLinkConnect("Liée", ";DATABASE=" + Path.string());
+        EXPECT_EQ(SentenceOf([&] { Base.RefreshLink("Liée"); }),
+                  Failure(FailureKind::Store, "autre.mdb").Sentence())
+            << Path;
+    }
+}
+
 TEST_F(SourceTest, ALinkedFileThatWasReplacedIsNoticedAtTheNextOpening)
 {
     EXPECT_EQ(Linked(), "Élixir|Teinture|Teinture");
