@@ -193,7 +193,13 @@ void RelierAlchimie(Application& App, const std::string& Royaume)
             : Connect.substr(ConnectPrefix.size(),
                              Connect.size() - ConnectPrefix.size() - Fin.size());
     if (Dossier != App.Chemin(""))
-        Base.SetLinkConnect(Table, ConnectOf(App.Chemin(Fin)));
+        try {
+            Base.SetLinkConnect(Table, ConnectOf(App.Chemin(Fin)));
+        } catch (const Failure& Given) {
+            if (Given.Kind() != FailureKind::DatabaseReadOnly)
+                throw;
+            Base.UseLinkConnect(Table, ConnectOf(App.Chemin(Fin)));
+        }
     Base.RefreshLink(Table);
 }
 

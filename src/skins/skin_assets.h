@@ -37,7 +37,7 @@ void ChoisirDossierImages(Application& App, const std::string& Feuille,
                           const std::string& Résolution);
 
 // Repairs the link of the alchemy objects in one realm's database, which goes stale when the
-// program's folder moves.
+// program's folder moves; for this run only where nothing can be written.
 void RelierAlchimie(Application& App, const std::string& Royaume);
 
 } // namespace orvane

@@ -74,12 +74,14 @@ struct Prepared
 
 struct Connection::Inside
 {
-    Inside(std::filesystem::path Path, std::function<void()> BeforeWriteRuns)
+    Inside(std::filesystem::path Path, std::function<void()> BeforeWriteRuns,
+           std::shared_ptr<RunLinks> LinksOfRun)
         : File(std::move(Path)),
           BeforeWrite(std::move(BeforeWriteRuns)),
+          Links(std::move(LinksOfRun)),
           Base(File.string(), SQLite::OPEN_READWRITE, BusyMilliseconds),
           Work(Base),
-          Schema(Base, File)
+          Schema(Base, File, *Links)
     {
         Distrust(Base);
         RegisterFunctions(Base);
@@ -129,6 +131,7 @@ struct Connection::Inside
 
     std::filesystem::path File;
     std::function<void()> BeforeWrite;
+    std::shared_ptr<RunLinks> Links;
     SQLite::Database Base;
     Allowance Work;
     orvane::Schema Schema;
@@ -137,7 +140,8 @@ struct Connection::Inside
     bool Reading = false;
 };
 
-Connection::Connection(std::filesystem::path File, std::function<void()> BeforeWrite)
+Connection::Connection(std::filesystem::path File, std::function<void()> BeforeWrite,
+                       std::shared_ptr<RunLinks> Links)
 {
     std::error_code Error;
     if (!std::filesystem::exists(File, Error))
@@ -146,8 +150,9 @@ Connection::Connection(std::filesystem::path File, std::function<void()> BeforeW
         std::filesystem::file_size(File, Error) == 0)
         throw Failure(FailureKind::NotADatabase, DisplayName(File), File.string());
     const auto Path = File;
-    Translated(Path,
-               [&] { In = std::make_unique<Inside>(std::move(File), std::move(BeforeWrite)); });
+    Translated(Path, [&] {
+        In = std::make_unique<Inside>(std::move(File), std::move(BeforeWrite), std::move(Links));
+    });
 }
 
 Connection::~Connection() = default;
@@ -263,14 +268,21 @@ void Connection::SetLinkConnect(const std::string& Name, const std::string& Conn
             In->Run("UPDATE LinkedTables SET Connect = ? WHERE fold_case(Nom) = ?",
                     {Connect, FoldedCase(Name)});
         });
+        In->Links->erase(FoldedCase(Name));
     });
+}
+
+void Connection::UseLinkConnect(const std::string& Name, const std::string& Connect)
+{
+    (*In->Links)[FoldedCase(Name)] = Connect;
 }
 
 void Connection::RefreshLink(const std::string& Name)
 {
     const auto File = In->File;
     Translated(File, [&] {
-        In = std::make_unique<Inside>(File, In->BeforeWrite); // views and attached files go
+        In = std::make_unique<Inside>(File, In->BeforeWrite,
+                                      In->Links); // views and attached files go
         In->Schema.Find(Name);
     });
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/link.h"
 #include "store/source.h"
 #include "store/value.h"
 
@@ -29,10 +30,11 @@ struct RowSet
 class Connection
 {
   public:
-    // BeforeWrite runs before each write. Failure: DatabaseMissing, NotADatabase,
-    // DatabaseUnreadable.
+    // BeforeWrite runs before each write; Links outlive the connections of a run. Failure:
+    // DatabaseMissing, NotADatabase, DatabaseUnreadable.
     explicit Connection(
-        std::filesystem::path File, std::function<void()> BeforeWrite = [] {});
+        std::filesystem::path File, std::function<void()> BeforeWrite = [] {},
+        std::shared_ptr<RunLinks> Links = std::make_shared<RunLinks>());
     ~Connection();
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
@@ -50,6 +52,9 @@ class Connection
     // ";DATABASE=" and the full path of the file that a linked table comes from.
     std::string LinkConnect(const std::string& Name);
     void SetLinkConnect(const std::string& Name, const std::string& Connect);
+
+    // The same for this run only: the file stays as it is.
+    void UseLinkConnect(const std::string& Name, const std::string& Connect);
 
     // Connects the linked table again. Failure when the file or the table isn't there.
     void RefreshLink(const std::string& Name);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -13,5 +14,9 @@ inline std::string ConnectOf(const std::filesystem::path& File)
 {
     return std::string(ConnectPrefix) + File.string();
 }
+
+// What linked tables keep for this run only, by their folded names, in place of what their file
+// says.
+using RunLinks = std::map<std::string, std::string>;
 
 } // namespace orvane

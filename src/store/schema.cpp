@@ -1,7 +1,6 @@
 #include "store/schema.h"
 
 #include "base/text.h"
-#include "store/link.h"
 #include "store/sqlite_error.h"
 #include "store/translation.h"
 
@@ -24,9 +23,10 @@ std::filesystem::path Full(const std::filesystem::path& File)
 
 } // namespace
 
-Schema::Schema(SQLite::Database& Base, const std::filesystem::path& File)
+Schema::Schema(SQLite::Database& Base, const std::filesystem::path& File, const RunLinks& Links)
     : Base(Base),
-      Folder(Full(File).parent_path())
+      Folder(Full(File).parent_path()),
+      Links(Links)
 {
 }
 
@@ -67,7 +67,8 @@ std::string Schema::LinkConnect(const std::string& Name)
     const auto Link = Entry("LinkedTables", "Connect", Name);
     if (Link.empty())
         throw Failure(FailureKind::DatabaseIncomplete, Name);
-    return Link[0];
+    const auto ForThisRun = Links.find(FoldedCase(Name));
+    return ForThisRun == Links.end() ? Link[0] : ForThisRun->second;
 }
 
 std::vector<std::filesystem::path> Schema::LinkedFiles() const
@@ -107,16 +108,17 @@ std::string Schema::MakeView(const std::string& Name)
         SQLite::Statement(Base, ViewOf(Saved[0], Saved[1], Tables)).exec();
         return Saved[0];
     }
-    const auto Link = Entry("LinkedTables", "Nom, Connect, Source", Name);
+    const auto Link = Entry("LinkedTables", "Nom, Source", Name);
     if (Link.empty())
         throw Failure(FailureKind::DatabaseIncomplete, Name);
+    const std::string Connect = LinkConnect(Name);
     const std::filesystem::path Path =
-        Link[1].starts_with(ConnectPrefix) ? Link[1].substr(ConnectPrefix.size()) : Link[1];
+        Connect.starts_with(ConnectPrefix) ? Connect.substr(ConnectPrefix.size()) : Connect;
     Translated(Path, [&] {
         const std::string Linked = Attach(Path);
-        const auto Table = FirstRow(TableNamed(Linked), Link[2]);
+        const auto Table = FirstRow(TableNamed(Linked), Link[1]);
         if (Table.empty())
-            throw Failure(FailureKind::DatabaseIncomplete, Link[2]);
+            throw Failure(FailureKind::DatabaseIncomplete, Link[1]);
         Base.exec("CREATE TEMP VIEW IF NOT EXISTS " + QuotedName(Link[0]) + " AS SELECT rowid AS " +
                   QuotedName(PlacePrefix) + ", * FROM " + Linked + "." + QuotedName(Table[0]));
     });

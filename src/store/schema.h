@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/link.h"
 #include "store/source.h"
 #include "store/value.h"
 
@@ -21,7 +22,7 @@ namespace orvane {
 class Schema
 {
   public:
-    Schema(SQLite::Database& Base, const std::filesystem::path& File);
+    Schema(SQLite::Database& Base, const std::filesystem::path& File, const RunLinks& Links);
 
     // Whether Find has been asked for this name already.
     bool Knows(const std::string& Name) const;
@@ -56,6 +57,7 @@ class Schema
 
     SQLite::Database& Base;
     std::filesystem::path Folder;
+    const RunLinks& Links;
     std::map<std::string, Source> Sources;                 // by folded name
     std::map<std::filesystem::path, std::string> Attached; // file and its name in SQL
 };

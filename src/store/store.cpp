@@ -44,6 +44,11 @@ void Database::SetLinkConnect(const std::string& Table, const std::string& Conne
     Base->SetLinkConnect(Table, Connect);
 }
 
+void Database::UseLinkConnect(const std::string& Table, const std::string& Connect) const
+{
+    Base->UseLinkConnect(Table, Connect);
+}
+
 void Database::RefreshLink(const std::string& Table) const
 {
     Base->RefreshLink(Table);
@@ -56,7 +61,8 @@ Database Store::Open(const std::filesystem::path& Path)
     if (Known.Handles == 0 && !(Known.Base && Known.Base->IsFresh()))
         Known.Base = nullptr;
     if (!Known.Base)
-        Known.Base = std::make_shared<Connection>(File, [this] { EndAllReading(); });
+        Known.Base = std::make_shared<Connection>(
+            File, [this] { EndAllReading(); }, Known.Links);
     ++Known.Handles;
     return {*this, Known.Base};
 }

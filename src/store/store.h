@@ -28,6 +28,7 @@ class Database
     // Where a linked table comes from: ";DATABASE=" and the full path of the file.
     std::string LinkConnect(const std::string& Table) const;
     void SetLinkConnect(const std::string& Table, const std::string& Connect) const;
+    void UseLinkConnect(const std::string& Table, const std::string& Connect) const; // this run
     void RefreshLink(const std::string& Table) const;
 
   private:
@@ -49,6 +50,7 @@ class Store
     struct Entry
     {
         std::shared_ptr<Connection> Base;
+        std::shared_ptr<RunLinks> Links = std::make_shared<RunLinks>();
         int Handles = 0;
     };
 

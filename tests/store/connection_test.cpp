@@ -1,8 +1,6 @@
 #include "store/small_store.h"
 #include "store/sqlite_error.h"
-
-#include <functional>
-#include <unistd.h>
+#include "support/ordinary_user.h"
 
 namespace orvane {
 
@@ -11,16 +9,6 @@ namespace {
 using std::filesystem::perms;
 
 const std::string All = "SELECT * FROM T";
-
-// Runs Action as an ordinary user also when root, who reads and writes everything, runs the tests.
-void AsOrdinaryUser(const std::function<void()>& Action)
-{
-    constexpr uid_t Nobody = 65534;
-    const bool Root = ::geteuid() == 0;
-    ASSERT_TRUE(!Root || ::seteuid(Nobody) == 0) << "no ordinary user to become";
-    Action();
-    ASSERT_TRUE(!Root || ::seteuid(0) == 0) << "root is gone";
-}
 
 } // namespace
 
