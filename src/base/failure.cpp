@@ -31,6 +31,8 @@ constexpr std::array Phrases{
     Phrase{FailureKind::DatabaseLocked, "La base de données « ",
            " » est utilisée par un autre programme.\nFermez-le, puis recommencez."},
     Phrase{FailureKind::DiskFull, "Le disque est plein : rien n’a été enregistré dans « ", " »."},
+    Phrase{FailureKind::WriteFailed, "L’écriture dans « ",
+           " » a échoué : rien n’a été enregistré."},
     Phrase{FailureKind::DatabaseIncomplete, "La base de données est incomplète : il manque « ",
            " ».", true},
     Phrase{FailureKind::Store, "La base de données « ", " » a refusé l’opération."},

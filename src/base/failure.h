@@ -12,6 +12,7 @@ enum class FailureKind {
     DatabaseReadOnly,
     DatabaseLocked,
     DiskFull,
+    WriteFailed,        // for another reason: a quota, a size limit, a medium that gives up
     DatabaseIncomplete, // a table, query or column that isn't there
     Store,              // any other failure of the store
     NoRow,              // a look-up without the row that a rule needs

@@ -8,16 +8,22 @@ namespace orvane {
 
 namespace {
 
-constexpr std::array<std::pair<int, FailureKind>, 8> Kinds{{
+// An extended code stands before the code that it belongs to.
+constexpr std::array Kinds = std::to_array<std::pair<int, FailureKind>>({
     {SQLITE_BUSY, FailureKind::DatabaseLocked},
     {SQLITE_LOCKED, FailureKind::DatabaseLocked},
     {SQLITE_READONLY, FailureKind::DatabaseReadOnly},
     {SQLITE_FULL, FailureKind::DiskFull},
     {SQLITE_NOTADB, FailureKind::NotADatabase},
     {SQLITE_CORRUPT, FailureKind::DatabaseUnreadable},
+    {SQLITE_IOERR_WRITE, FailureKind::WriteFailed},
+    {SQLITE_IOERR_FSYNC, FailureKind::WriteFailed},
+    {SQLITE_IOERR_DIR_FSYNC, FailureKind::WriteFailed},
+    {SQLITE_IOERR_TRUNCATE, FailureKind::WriteFailed},
+    {SQLITE_IOERR_DELETE, FailureKind::WriteFailed},
     {SQLITE_IOERR, FailureKind::DatabaseUnreadable},
     {SQLITE_CANTOPEN, FailureKind::DatabaseUnreadable},
-}};
+});
 
 } // namespace
 
@@ -30,7 +36,7 @@ std::string DisplayName(const std::filesystem::path& File)
 Failure FailureOf(const SQLite::Exception& Error, const std::filesystem::path& File)
 {
     for (const auto& [Code, Kind] : Kinds)
-        if (Error.getErrorCode() == Code)
+        if (Error.getErrorCode() == Code || Error.getExtendedErrorCode() == Code)
             return {Kind, DisplayName(File), Error.what()};
     const std::string Cause = Error.what();
     if (Cause.starts_with("no such ")) // "no such column: Objets.Prix"

@@ -2,6 +2,9 @@
 #include "store/sqlite_error.h"
 #include "support/ordinary_user.h"
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace orvane {
 
 namespace {
@@ -177,6 +180,28 @@ TEST_F(ConnectionTest, AFileFromElsewhereIsDataAndOneQueryOfItDoesNotGoOnForEver
     EXPECT_EQ(SentenceOf([&] { Base.Execute("DELETE * FROM F_data WHERE id = 1"); }), Refused);
     EXPECT_EQ(SentenceOf([&] { Base.Execute("DELETE * FROM T WHERE Nom = \"Fer\""); }), "");
     EXPECT_EQ(RawCell("Métiers.mdb", "SELECT group_concat(Nom) FROM T"), "Bois");
+}
+
+TEST_F(ConnectionTest, AWriteThatFailsWithRoomOnTheDiskIsNoDamagedFile)
+{
+    rlimit Before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &Before), 0);
+    const auto Ended = std::signal(SIGXFSZ, SIG_IGN); // a write then fails instead
+    const rlim_t Size = std::filesystem::file_size(File);
+    for (const rlim_t Greatest : {rlim_t(16), Size}) { // of the journal, of the file
+        Recordset Rows = TheStore.Open(File).OpenRecordset(All);
+        const rlimit Limit{Greatest, Before.rlim_max};
+        ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &Limit), 0);
+        const std::string Told = SentenceOf([&] { Put(Rows, "Nom", std::string(2 * Size, 'x')); });
+        ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &Before), 0);
+        EXPECT_EQ(Told, "L’écriture dans «\u00A0Métiers.mdb\u00A0» a échoué\u00A0: "
+                        "rien n’a été enregistré.")
+            << Greatest;
+        EXPECT_EQ(Walk(File, All, "Nom"), "Fer|Bois");
+    }
+    std::signal(SIGXFSZ, Ended);
+    EXPECT_EQ(Writing(), "");
+    EXPECT_EQ(RawCell("Métiers.mdb", "SELECT group_concat(Nom) FROM T"), "Or,Bois");
 }
 
 TEST(SqliteError, AFullFileLeavesTheDiskFullSentence)
