@@ -32,20 +32,14 @@ class frm_Trait : public Feuille
 TEST(Lines, ALayoutSetsTheEndsAndACaptureGivesThemBack)
 {
     const TempFolder Folder;
-    const TableDefinition Layout = LayoutTable("frm_Trait_Commun");
-    DatabaseMaker Maker(Folder / "Skin.mdb", SkinDefinition());
-    Maker.Insert(SkinDefinition().Tables[0], {"Nom", "Commun"},
-                 {std::string("frm_Trait"), std::string("O")});
-    Maker.AddTable(Layout);
-    const std::vector<std::string> Columns{
-        "Num",  "NomControl", "ChangeLeftTop", "ChangeWidth", "ChangeColor",
-        "Left", "Top",        "Width",         "Height",      "Color"};
-    const std::string Yes = "O", No = "N";
-    Maker.Insert(Layout, Columns,
-                 {std::int64_t{1}, std::string("lin_Trait"), Yes, No, Yes, std::int64_t{10},
-                  std::int64_t{20}, std::int64_t{30}, std::int64_t{40}, std::int64_t{255}});
-    Maker.Insert(Layout, {"Num", "NomControl"}, {std::int64_t{2}, std::string("frm_Trait")});
-    Maker.Finish();
+    DatabaseMaker(Folder / "Skin.mdb", SkinDefinition()).Finish();
+    SQLite::Database((Folder / "Skin.mdb").string(), SQLite::OPEN_READWRITE)
+        .exec("INSERT INTO RésolutionCommune VALUES ('frm_Trait', 'O');"
+              "CREATE TABLE frm_Trait_Commun AS SELECT * FROM Temp;"
+              "INSERT INTO frm_Trait_Commun (NomControl) VALUES ('frm_Trait');"
+              "INSERT INTO frm_Trait_Commun (NomControl, ChangeLeftTop, ChangeWidth, ChangeColor, "
+              "[Left], Top, Width, Height, Color) "
+              "VALUES ('lin_Trait', 'O', 'N', 'O', 10, 20, 30, 40, 255)");
 
     ScriptedDialogs Boxes;
     Application App(Folder.Path(), Boxes);
