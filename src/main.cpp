@@ -12,6 +12,7 @@
 #include <QIcon>
 #include <QTimer>
 
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <future>
@@ -59,6 +60,9 @@ int main(int Count, char** Arguments)
                              "session graphique.\n");
         return EXIT_FAILURE;
     }
+#ifdef SIGXFSZ
+    std::signal(SIGXFSZ, SIG_IGN); // a write beyond a limit fails, and is told, as any other
+#endif
     QtDialogs Boxes;
     Application App(ProgramFolder(), Boxes);
     // Quitting ends the process at once, as nothing is left to save.
