@@ -77,9 +77,9 @@ void frm_ArtisanatsMagiques::DéfinirCaractéristiques()
     PlaceField(lbl_NiveauObjet, "Niveau :", txt_NiveauObjet, {X, 118, 80, High}, 54);
     PlaceField(lbl_ChargesObjet, "Charges :", txt_ChargesObjet, {X + 148, 118, 66, High}, 54);
     PlaceField(lbl_EffetObjet, "Effet : ", txt_EffetObjet, {X, 150, 80, High}, 188);
-    PlaceField(lbl_DuréeObjet, "Durée : ", txt_DuréeObjet, {X, 182, 80, High}, 54);
-    PlaceField(lbl_valeurObjet, "Valeur : ", txt_ValeurObjet, {X + 148, 182, 50, High}, 70);
-    PlaceField(lbl_RésistObjet, "Résistance : ", txt_RésistObjet, {X, 214, 80, High}, 188);
+    PlaceField(lbl_valeurObjet, "Valeur : ", txt_ValeurObjet, {X, 182, 80, High}, 188);
+    PlaceField(lbl_RésistObjet, "Résistance : ", txt_RésistObjet, {X, 214, 80, High}, 60);
+    PlaceField(lbl_DuréeObjet, "Durée : ", txt_DuréeObjet, {X + 148, 214, 50, High}, 70);
     ShowAll({&lbl_ChargesObjet, &txt_ChargesObjet}, false);
 }
 
