@@ -94,10 +94,10 @@ LigneMatériau& Nomenclature::operator[](int Num)
 void Nomenclature::Placer(int X, int Y, int Pas, const ColonnesMatériau& Colonnes,
                           const std::string& Titre)
 {
-    int Num = 0;
     for (LigneMatériau& Each : Lignes) {
         NommerLigne(Each.Nom, Each.Qté, Each.Prix,
-                    (Titre.empty() ? "Matériau " : Titre + ", matériau ") + std::to_string(++Num));
+                    (Titre.empty() ? "Matériau " : Titre + ", matériau ") +
+                        std::to_string(Each.Num));
         PlacerLigne(Each.Nom, Each.Fois, Each.Qté, Each.Égale, Each.Prix, X, Y, Colonnes);
         Y += Pas;
     }
@@ -132,12 +132,11 @@ void Nomenclature::Vider()
 // Within a line the count comes before the unit price, whose handler may work out the price.
 void Nomenclature::Charger(const Recordset& Objet, const std::string& Table, bool PremièreSansQté)
 {
-    int i = 0;
     for (LigneMatériau& Each : Lignes) {
-        ++i;
-        Each.Nom.Text = Objet.Text(ColonneJointe(Table, i, "Nom"));
-        Each.Qté.Text = i == 1 && PremièreSansQté ? "1" : Objet.Text("Qté" + std::to_string(i));
-        Each.PrixUnitaire.Text = Objet.Text(ColonneJointe(Table, i, "Prix"));
+        Each.Nom.Text = Objet.Text(ColonneJointe(Table, Each.Num, "Nom"));
+        Each.Qté.Text =
+            Each.Num == 1 && PremièreSansQté ? "1" : Objet.Text("Qté" + std::to_string(Each.Num));
+        Each.PrixUnitaire.Text = Objet.Text(ColonneJointe(Table, Each.Num, "Prix"));
     }
 }
 
