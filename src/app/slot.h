@@ -9,7 +9,7 @@ namespace orvane {
 
 // A shared place for something open. It holds nothing between two events; an event nested in
 // another one may fill and empty it under its caller, and emptying it once more is harmless. Using
-// an empty slot fails (Kind::Program).
+// an empty slot fails (FailureKind::Program).
 template <class Type>
 class Slot
 {

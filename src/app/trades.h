@@ -32,7 +32,7 @@ inline constexpr std::array Métiers{
 
 inline constexpr int ImagePanier = 11; // behind the crafts
 
-// The craft of that name. Failure (Kind::Program) when there is none.
+// The craft of that name. Failure (FailureKind::Program) when there is none.
 const Métier& LeMétier(std::string_view Nom);
 
 // A menu's entry for a craft, which bears its name.

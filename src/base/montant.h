@@ -8,7 +8,7 @@
 namespace orvane {
 
 // Money: a signed count of ten-thousandths, exact over the whole 64-bit range.
-// Every operation that leaves the range throws Failure (Kind::Overflow); nothing wraps.
+// Every operation that leaves the range throws Failure (FailureKind::Overflow); nothing wraps.
 class Montant
 {
   public:

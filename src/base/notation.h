@@ -10,7 +10,7 @@
 namespace orvane {
 
 std::string T(Montant Amount);
-std::string T(double Value); // Failure (Kind::Overflow) when the value isn't finite
+std::string T(double Value); // Failure (FailureKind::Overflow) when the value isn't finite
 
 inline double D(Montant Amount)
 {

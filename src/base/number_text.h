@@ -27,7 +27,7 @@ std::string TextOfDouble(double Value);
 // A 16-bit whole number: the text's number rounded once, ties to even ("2,50001" is 3, "2,5" is 2).
 std::optional<std::int16_t> Entier16FromText(std::string_view Text);
 
-// Exact in 16 bits, or Failure (Kind::Overflow).
+// Exact in 16 bits, or Failure (FailureKind::Overflow).
 std::int16_t Entier16(std::int64_t Value);
 
 } // namespace orvane

@@ -144,7 +144,7 @@ void frm_Panier::cmd_Enregistrer_Click()
     cmd_Enregistrer.Visible = false;
 }
 
-// The rows of the unnamed order, of all realms. Failure (Kind::NoRow) when none is left.
+// The rows of the unnamed order, of all realms. Failure (FailureKind::NoRow) when none is left.
 void frm_Panier::NommerLignes(const std::string& Acheteur)
 {
     const Ouverture Base(App, Globals.CheminPanier);

@@ -22,7 +22,7 @@ class DatabaseMaker
     void AddTable(const TableDefinition& Table);
 
     // A row of a table; values come in the order of Columns and are converted to their kinds.
-    // Failure (Kind::RefusedNumber, Kind::Store, Kind::Program).
+    // Failure (FailureKind::RefusedNumber, FailureKind::Store, FailureKind::Program).
     void Insert(const TableDefinition& Table, const std::vector<std::string>& Columns,
                 const std::vector<Value>& Row);
 

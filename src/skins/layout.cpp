@@ -21,8 +21,8 @@ bool Vaut(const Recordset& Ligne, std::string_view Drapeau)
     return Ligne.TextOrEmpty(Drapeau) == "O";
 }
 
-// A number of a row, to a whole one with ties to even. Failure (Kind::OutOfRange), naming the
-// column, when nothing on a screen can be like that.
+// A number of a row, to a whole one with ties to even. Failure (FailureKind::OutOfRange), naming
+// the column, when nothing on a screen can be like that.
 int Entier(const Recordset& Ligne, std::string_view Colonne, int Least, int Greatest)
 {
     const double Lu = Ligne.Number(Colonne);

@@ -29,7 +29,7 @@ struct Literal
     std::vector<Value> Values;
 };
 
-// The literal at Query[At]. Failure (Kind::Store) for a number that no column holds.
+// The literal at Query[At]. Failure (FailureKind::Store) for a number that no column holds.
 Literal LiteralAt(Tokens Query, std::size_t At);
 
 // A query's words, with each literal as the question marks that it takes. Two texts of one shape

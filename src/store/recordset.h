@@ -21,14 +21,14 @@ class Recordset
     std::size_t RecordCount() const { return Rows.Rows.size(); }
     bool Eof() const { return At >= Rows.Rows.size(); }
 
-    // Failure (Kind::NoRow) on an empty set; Kind::ChoiceMissing when the query looked for an empty
-    // text.
+    // Failure (FailureKind::NoRow) on an empty set; FailureKind::ChoiceMissing when the query
+    // looked for an empty text.
     void MoveFirst();
     void MoveNext();
     void MoveTo(std::size_t Row); // from 0; at or behind RecordCount is the end
 
-    // Cells of the present row. Text, Whole and Number fail on a null (Kind::NullValue); Whole and
-    // Number also on a text that is no number.
+    // Cells of the present row. Text, Whole and Number fail on a null (FailureKind::NullValue);
+    // Whole and Number also on a text that is no number.
     bool IsNull(std::string_view Name) const;
     std::string Text(std::string_view Name) const;
     std::string TextOrEmpty(std::string_view Name) const;

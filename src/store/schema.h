@@ -28,7 +28,7 @@ class Schema
     bool Knows(const std::string& Name) const;
 
     // May attach the file of a linked table, which must not happen inside a transaction.
-    // Failure (Kind::DatabaseIncomplete) when nothing has that name.
+    // Failure (FailureKind::DatabaseIncomplete) when nothing has that name.
     const Source& Find(const std::string& Name);
 
     // The values as the table's columns hold them, under the columns' own names.
@@ -45,8 +45,8 @@ class Schema
     // Makes the temporary view that a saved query or a linked table is read through. Its own name.
     std::string MakeView(const std::string& Name);
 
-    // The name in SQL of a linked file, which is attached when it isn't yet. Failure (Kind::Store)
-    // when it lies outside the folder of the file that links it.
+    // The name in SQL of a linked file, which is attached when it isn't yet. Failure
+    // (FailureKind::Store) when it lies outside the folder of the file that links it.
     std::string Attach(const std::filesystem::path& Path);
 
     // The first row of a query with a name, folded, as its parameter; of one of the store's own

@@ -23,7 +23,7 @@ struct Source
 // A row to be written: columns and their new values, by the table's own column names.
 using Assignments = std::vector<std::pair<std::string, Value>>;
 
-// The source of that name. Failure (Kind::DatabaseIncomplete) when there is none.
+// The source of that name. Failure (FailureKind::DatabaseIncomplete) when there is none.
 using SourceFinder = std::function<const Source&(const std::string& Name)>;
 
 // Position of the column that a query or a caller calls Name: by its whole name; by its short name

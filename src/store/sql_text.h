@@ -24,11 +24,12 @@ struct Token
     bool Is(std::string_view Keyword) const;
 };
 
-// Failure (Kind::Store) for a sign that the dialect doesn't have, and for a text or bracket that
-// doesn't end.
+// Failure (FailureKind::Store) for a sign that the dialect doesn't have, and for a text or bracket
+// that doesn't end.
 std::vector<Token> Tokenize(std::string_view Sql);
 
-// Failure (Kind::Store) for a query that isn't of the dialect, about the file that it is sent to.
+// Failure (FailureKind::Store) for a query that isn't of the dialect, about the file that it is
+// sent to.
 [[noreturn]] void ThrowUnreadable(std::string_view Sql);
 
 // What a saved query calls a table that it joins several times, from 1: "Matériaux", "Matériaux_1",

@@ -23,7 +23,7 @@ struct Translation
 
 // SELECT [DISTINCT] columns FROM source [WHERE condition] [ORDER BY column]. A condition compares
 // columns with values: = and LIKE with texts, = and > with numbers, joined by AND, in brackets or
-// not. Failure (Kind::Store) for anything else, as for each query here.
+// not. Failure (FailureKind::Store) for anything else, as for each query here.
 Translation TranslateSelect(Tokens Query, const SourceFinder& Find);
 
 // DELETE * FROM table [WHERE condition].

@@ -42,7 +42,7 @@ class ColumnKind
 
     // The value as this column holds it. A text written to a number column is converted by the
     // decimal-comma rule, more than four decimals by ties to even.
-    // Failure (Kind::RefusedNumber) for a text that is no number.
+    // Failure (FailureKind::RefusedNumber) for a text that is no number.
     Value Convert(const Value& Given) const;
 
   private:

@@ -12,7 +12,7 @@
 namespace orvane {
 
 // The text of a box as a Montant. A text that is no number marks the box; it ends the calculation,
-// as a stale figure does (Failure, Kind::WrongText).
+// as a stale figure does (Failure, FailureKind::WrongText).
 Montant M(TextBox& Box);
 
 // The text of a box as a 16-bit whole number, likewise.

@@ -31,7 +31,8 @@ class Forms
     // A screen that can be touched from now on.
     void Register(const std::string& Name, Factory Make);
 
-    // The screen of that name, loaded at its first touch. Failure (Kind::Program) when unknown.
+    // The screen of that name, loaded at its first touch. Failure (FailureKind::Program) when
+    // unknown.
     Screen& Touch(std::string_view Name);
 
     // The same, by the screen's class: Get<frm_Panier>().

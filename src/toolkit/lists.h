@@ -15,7 +15,7 @@ class ListControl : public Control
     using Control::Control;
 
     // Assigning another index shows its entry and runs OnClick inside the assignment; the same
-    // index runs nothing. Failure (Kind::Program) for an index that isn't there.
+    // index runs nothing. Failure (FailureKind::Program) for an index that isn't there.
     class IndexProperty
     {
       public:

@@ -29,7 +29,7 @@ class ImageList
     // Files Stem1.png to Stem<Count>.png of Folder; Size in pixels, square.
     void Fill(const std::filesystem::path& Folder, const std::string& Stem, int Count, int Size);
 
-    // Failure (Kind::Program) for an index that isn't there.
+    // Failure (FailureKind::Program) for an index that isn't there.
     const orvane::Picture& Picture(int Index) const;
     int Count() const { return static_cast<int>(Pictures.size()); }
     int Size() const { return TheSize; }
@@ -43,7 +43,7 @@ class ImageList
 class PictureFiles
 {
   public:
-    // The picture at a path, found whatever the case of its name. Failure (Kind::NoPicture).
+    // The picture at a path, found whatever the case of its name. Failure (FailureKind::NoPicture).
     static Picture Load(const std::filesystem::path& File);
 
     // The same, but a picture that can't be had gives Otherwise and is remembered.

@@ -38,7 +38,7 @@ class Screen : private PropertyOwner
     // Every control of the screen, in the order of its definition.
     const std::vector<Control*>& Controls() const { return TheControls; }
 
-    // The control of that name. Failure (Kind::Program) when there is none.
+    // The control of that name. Failure (FailureKind::Program) when there is none.
     Control& Find(std::string_view Name) const;
     Control* FindOrNull(std::string_view Name) const;
 

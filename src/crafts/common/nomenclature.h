@@ -86,7 +86,7 @@ class Nomenclature
   public:
     Nomenclature(Screen& Owner, const NomsNomenclature& Noms, int Lignes);
 
-    // From 1. Failure (Kind::Program) for a line that isn't there.
+    // From 1. Failure (FailureKind::Program) for a line that isn't there.
     LigneMatériau& operator[](int Num);
 
     auto begin() { return Lignes.begin(); }
