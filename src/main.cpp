@@ -1,6 +1,7 @@
 #include "base/failure.h"
 #include "base/text.h"
 #include "base/typography.h"
+#include "command_line/command_line.h"
 #include "home/feuilles.h"
 #include "view/desktop.h"
 #include "view/french.h"
@@ -12,11 +13,14 @@
 #include <QIcon>
 #include <QTimer>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <future>
 #include <iostream>
+#include <string>
+#include <vector>
 
 using namespace orvane;
 
@@ -27,13 +31,14 @@ std::filesystem::path ProgramFolder()
     return std::filesystem::read_symlink("/proc/self/exe").parent_path();
 }
 
-// Whether the toolkit has nowhere to open a window, which it would answer by aborting. Who gives it
-// arguments or names a platform knows of one.
-bool HasNoDisplay(int Count)
+// Whether the toolkit has nowhere to open a window, which it would answer by aborting. Who names a
+// platform knows of one.
+bool HasNoDisplay(const std::vector<std::string>& Given)
 {
     const auto IsUnset = [](const char* Name) { return qEnvironmentVariableIsEmpty(Name); };
-    return Count <= 1 && IsUnset("DISPLAY") && IsUnset("WAYLAND_DISPLAY") &&
-           IsUnset("QT_QPA_PLATFORM");
+    return IsUnset("DISPLAY") && IsUnset("WAYLAND_DISPLAY") && IsUnset("QT_QPA_PLATFORM") &&
+           std::ranges::find(Given, "-platform") == Given.end() &&
+           std::ranges::find(Given, "-display") == Given.end();
 }
 
 // Runs start-up behind one boundary: what stops it is told in one box.
@@ -55,7 +60,11 @@ bool Started(Application& App, std::future<void>& Loading, Dialogs& Boxes)
 
 int main(int Count, char** Arguments)
 {
-    if (HasNoDisplay(Count)) {
+    const std::vector<std::string> Given(Arguments + (Count > 0), Arguments + Count);
+    const CommandLine Asked = RunCommandLine(Given, ProgramFolder(), std::cout, std::cerr);
+    if (Asked.Status)
+        return *Asked.Status;
+    if (HasNoDisplay(Given)) {
         std::cerr << Typeset("Aucun écran n’est accessible : le programme se lance depuis une "
                              "session graphique.\n");
         return EXIT_FAILURE;
@@ -64,7 +73,7 @@ int main(int Count, char** Arguments)
     std::signal(SIGXFSZ, SIG_IGN); // a write beyond a limit fails, and is told, as any other
 #endif
     QtDialogs Boxes;
-    Application App(ProgramFolder(), Boxes);
+    Application App(Asked.Folder, Boxes);
     // Quitting ends the process at once, as nothing is left to save.
     App.OnQuit = [] { std::_Exit(EXIT_SUCCESS); };
     EnregistrerFeuilles(App);

@@ -67,6 +67,8 @@ Failure Failure::In(const std::string& Where) const
 
 std::string Failure::Sentence() const
 {
+    if (TheKind == FailureKind::Told)
+        return Typeset(TheSubject);
     if (TheKind == FailureKind::ChoiceMissing && TheSubject.empty())
         return "Il faut d’abord faire le choix précédent.";
     const auto Known = std::ranges::find(Phrases, TheKind, &Phrase::Kind);

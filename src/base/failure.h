@@ -25,6 +25,7 @@ enum class FailureKind {
     Overflow,
     NoPicture,
     Program, // the program's own fault, such as an unknown control
+    Told,    // none of the above: Subject is the whole sentence
 };
 
 // Whatever stops an event. Subject names what it is about: an object, a column, or a file, which is

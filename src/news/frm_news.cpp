@@ -1,7 +1,7 @@
 #include "news/frm_news.h"
 
 #include "app/navigation.h"
-#include "news/version.h"
+#include "app/version.h"
 #include "toolkit/placing.h"
 
 namespace orvane {
