@@ -28,6 +28,8 @@ constexpr std::array Phrases{
     Phrase{FailureKind::NotADatabase, "Le fichier « ", " » n’est pas une base de données."},
     Phrase{FailureKind::DatabaseReadOnly, "La base de données « ",
            " » est en lecture seule : rien n’a été enregistré."},
+    Phrase{FailureKind::DatabaseNewer, "La base de données « ",
+           " » vient d’une version plus récente du programme : rien n’y est enregistré."},
     Phrase{FailureKind::DatabaseLocked, "La base de données « ",
            " » est utilisée par un autre programme.\nFermez-le, puis recommencez."},
     Phrase{FailureKind::DiskFull, "Le disque est plein : rien n’a été enregistré dans « ", " »."},

@@ -10,6 +10,7 @@ enum class FailureKind {
     DatabaseUnreadable,
     NotADatabase,
     DatabaseReadOnly,
+    DatabaseNewer, // made by a later version of the program: read, never written to
     DatabaseLocked,
     DiskFull,
     WriteFailed,        // for another reason: a quota, a size limit, a medium that gives up

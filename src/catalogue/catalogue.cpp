@@ -42,7 +42,7 @@ const DatabaseDefinition& ConfigDefinition()
 const DatabaseDefinition& PanierDefinition()
 {
     static const DatabaseDefinition Definition{{{"PanierGlobal",
-                                                 {{"Num", Key, {}},
+                                                 {{"Num", Counter, {}},
                                                   {"Nom", Text, {}},
                                                   {"Nb", Whole, {}},
                                                   {"PrixCoûtant", Decimal, {}},

@@ -10,6 +10,7 @@ namespace orvane {
 
 enum class ColumnType {
     Key,       // INTEGER PRIMARY KEY, given by the store when left out
+    Counter,   // a key whose number is never given to a second row
     Whole,     // INTEGER
     Decimal,   // DECIMAL(19,4): settings and amounts, exact to the ten-thousandth
     Text,      // TEXT

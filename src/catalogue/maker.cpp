@@ -1,6 +1,8 @@
 #include "catalogue/maker.h"
 
+#include "catalogue/declaration.h"
 #include "store/binding.h"
+#include "store/file_version.h"
 #include "store/guard.h"
 #include "store/link.h"
 #include "store/schema.h"
@@ -15,22 +17,6 @@
 namespace orvane {
 
 namespace {
-
-std::string DeclaredType(ColumnType Type)
-{
-    switch (Type) {
-    case ColumnType::Key:
-        return "INTEGER PRIMARY KEY";
-    case ColumnType::Whole:
-    case ColumnType::Reference:
-        return "INTEGER";
-    case ColumnType::Decimal:
-        return "DECIMAL(19,4)";
-    case ColumnType::Text:
-        break;
-    }
-    return "TEXT";
-}
 
 // Columns that queries look names up in.
 bool IsSearched(const ColumnDefinition& Column)
@@ -56,6 +42,7 @@ struct DatabaseMaker::Inside
           Transaction(Base)
     {
         Distrust(Base);
+        Base.exec("PRAGMA user_version = " + std::to_string(FileVersion));
     }
 
     ~Inside()

@@ -13,6 +13,7 @@ namespace orvane::catalogue {
 
 using Columns = std::vector<ColumnDefinition>;
 inline constexpr auto Key = ColumnType::Key;
+inline constexpr auto Counter = ColumnType::Counter;
 inline constexpr auto Whole = ColumnType::Whole;
 inline constexpr auto Decimal = ColumnType::Decimal;
 inline constexpr auto Text = ColumnType::Text;

@@ -6,9 +6,11 @@
 #include "base/typography.h"
 #include "basket/orders.h"
 #include "catalogue/catalogue.h"
+#include "catalogue/upgrade.h"
 #include "settings/frm_configuration.h"
 #include "skins/layout.h"
 #include "skins/skin_assets.h"
+#include "store/file_version.h"
 
 #include <algorithm>
 
@@ -43,6 +45,7 @@ void frm_Accueil::Load()
     Globals.CheminPanier = App.Chemin("/" + PanierFile);
     Globals.CheminAlchimie = App.Chemin("/" + AlchimieFile);
     Globals.CheminConfig = App.Chemin("/" + ConfigFile);
+    PréparerFichiersDuJoueur();
     {
         const Ouverture Base(App, Globals.CheminConfig);
         RestaurerRoyaume();
@@ -58,6 +61,19 @@ void frm_Accueil::Load()
     RemplirCommandes(App);
     for (const std::string& Royaume : Royaumes())
         RelierAlchimie(App, Royaume);
+}
+
+// The files that hold the crafter's own things come in this version's form; one of a later version
+// is told, since nothing will be stored in it.
+void frm_Accueil::PréparerFichiersDuJoueur()
+{
+    for (const auto& [Fichier, Définition] :
+         {std::pair{ConfigFile, &ConfigDefinition()}, std::pair{PanierFile, &PanierDefinition()}}) {
+        const std::string Chemin = App.Chemin("/" + Fichier);
+        BringUpToDate(Chemin, *Définition);
+        if (FileVersionOf(Chemin).value_or(0) > FileVersion)
+            App.Notice(Failure(FailureKind::DatabaseNewer, Fichier).Sentence());
+    }
 }
 
 // All rows are read before a box changes: settings never belong half to one realm and half to

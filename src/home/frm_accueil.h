@@ -24,6 +24,7 @@ class frm_Accueil : public Feuille
     bool LeadsBack() const override { return false; }
 
     // Copies the rows of ConfigRoyaume for the current realm into the boxes of frm_Configuration.
+    void PréparerFichiersDuJoueur();
     bool ChargerConfigRoyaume(const std::string& Royaume); // whether nothing was missing
 
     Shape NAMED(shp_Royaumes);

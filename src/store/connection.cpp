@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "store/binding.h"
 #include "store/file_stamp.h"
+#include "store/file_version.h"
 #include "store/functions.h"
 #include "store/guard.h"
 #include "store/query_shape.h"
@@ -117,6 +118,8 @@ struct Connection::Inside
         EndReading();
         Work.Renew();
         SQLite::Transaction Transaction(Base, SQLite::TransactionBehavior::IMMEDIATE);
+        if (Base.execAndGet("PRAGMA user_version").getInt() > FileVersion)
+            throw Failure(FailureKind::DatabaseNewer, DisplayName(File));
         Action();
         Transaction.commit();
     }
