@@ -11,6 +11,7 @@ void frm_Panier::Définir()
     PlaceLabel(lbl_Commandes, "Liste des commandes :", {32, 37, 160, 24});
     Place(cbo_Commandes, {196, 37, 330, 24}, "Liste des commandes");
     cbo_Commandes.Sorted = true;
+    cbo_Commandes.KeepsTyping = true;
     PlaceButton(cmd_Enregistrer, "Nommer la commande",
                 "Donner un nom d’acheteur à la nouvelle commande", {544, 27, 200, 44});
 

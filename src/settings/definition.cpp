@@ -98,7 +98,9 @@ void frm_Configuration::Définir()
     PlaceLabel(Label25, "Résolution", {RightX + 16, 298, 200, High});
     Place(cbo_Résolution, {RightX + 16, 322, RightWide - 32, High}, "Résolution");
     cbo_Skin.Sorted = true;
+    cbo_Skin.KeepsTyping = true;
     cbo_Résolution.Sorted = true;
+    cbo_Résolution.KeepsTyping = true;
 
     PlaceButton(cmd_Validation, "Valider", "Enregistrer les réglages du royaume et fermer",
                 {RightX + 60, 420, 224, 58});

@@ -75,6 +75,10 @@ class ComboBox : public ListControl
     // Assigning runs nothing and leaves the index alone.
     TextProperty Text{AsOwner(), PropertyId::Text};
 
+    // Whether a typed text that is no entry means something, so that it stays when the person goes
+    // on; elsewhere the text of before comes back.
+    bool KeepsTyping = false;
+
   protected:
     void ShowChoice(const std::string& Entry) override { Text = Entry; }
 };

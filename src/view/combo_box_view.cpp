@@ -7,12 +7,27 @@
 #include "view/qt_text.h"
 #include "view/tip.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QWheelEvent>
 
 namespace orvane {
+
+namespace {
+
+// Whether a person who goes there goes on with something else. A button may still act on what was
+// typed.
+bool IsInput(const QWidget* There)
+{
+    const auto* Line = qobject_cast<const QLineEdit*>(There);
+    return (Line != nullptr && !Line->isReadOnly()) || qobject_cast<const QComboBox*>(There) ||
+           qobject_cast<const QAbstractItemView*>(There);
+}
+
+} // namespace
 
 ComboBoxView::ComboBoxView(ComboBox& Model, User& TheUser, QWidget* Parent)
     : QComboBox(Parent),
@@ -33,9 +48,12 @@ void ComboBoxView::Follow(PropertyId What)
 {
     switch (What) {
     case PropertyId::Text:
+        Settle();
         ShowText();
         break;
     case PropertyId::Items:
+        if (Box.ListCount() == 0) // emptied, and the text with it
+            Settle();
         TheOffers.Forget();
         hidePopup();
         break;
@@ -124,10 +142,28 @@ void ComboBoxView::Move(int Rows)
 
 void ComboBoxView::Typed(const QString& Text)
 {
+    const std::string Former = Before.value_or(Box.Text);
     Act([&] { TheUser.Type(Box, FromQt(Text)); });
+    if (Former != std::string(Box.Text))
+        Before = Former;
     ShowText();
     ShowTip();
     Act([&] { Offer(); });
+}
+
+void ComboBoxView::TakeBack()
+{
+    Act([&] { TheUser.Type(Box, std::string(*Before)); });
+    ShowText();
+}
+
+void ComboBoxView::Settle()
+{
+    if (!Before)
+        return;
+    Before.reset();
+    ShowTip();
+    update();
 }
 
 void ComboBoxView::Offer()
@@ -146,8 +182,10 @@ void ComboBoxView::Offer()
 void ComboBoxView::Pick(int Entry)
 {
     hidePopup();
-    if (Entry >= 0)
+    if (Entry >= 0) {
+        Settle();
         Act([&] { TheUser.Pick(Box, Entry); });
+    }
     ShowText();
     lineEdit()->setCursorPosition(0);
 }
@@ -174,7 +212,8 @@ void ComboBoxView::ShowFont()
 
 void ComboBoxView::ShowTip()
 {
-    const QString Tip = ToQt(Box.Tip);
+    const QString Tip =
+        Before ? QStringLiteral("Texte tapé : aucun choix n’est fait.") : ToQt(Box.Tip);
     const QString Text = lineEdit()->text();
     const bool Fits = lineEdit()->fontMetrics().horizontalAdvance(Text) <=
                       lineEdit()->width() - 2 * look::FieldPadding;
@@ -193,7 +232,8 @@ void ComboBoxView::ShowColours()
 void ComboBoxView::paintEvent(QPaintEvent*)
 {
     QPainter Painter(this);
-    look::PaintField(Painter, rect(), {palette().color(QPalette::Base), hasFocus(), false});
+    look::PaintField(Painter, rect(),
+                     {palette().color(QPalette::Base), hasFocus(), false, Before.has_value()});
     const QRect Arrow(width() - look::ArrowWidth, 0, look::ArrowWidth, height());
     look::PaintArrow(Painter, Arrow, hasFocus() || underMouse() ? look::Focus : look::MutedInk);
 }
@@ -225,6 +265,8 @@ void ComboBoxView::focusOutEvent(QFocusEvent* Event)
     QComboBox::focusOutEvent(Event);
     if (Event->reason() != Qt::PopupFocusReason && Event->reason() != Qt::ActiveWindowFocusReason)
         lineEdit()->setCursorPosition(0);
+    if (Before && !Box.KeepsTyping && IsInput(QApplication::focusWidget()))
+        TakeBack();
 }
 
 void ComboBoxView::keyPressEvent(QKeyEvent* Event)
@@ -254,6 +296,8 @@ void ComboBoxView::keyPressEvent(QKeyEvent* Event)
     case Qt::Key_Escape:
         if (IsOpen())
             hidePopup();
+        else if (Before)
+            TakeBack();
         else
             Event->ignore(); // the way back is the window's business
         return;

@@ -6,6 +6,9 @@
 
 #include <QComboBox>
 
+#include <optional>
+#include <string>
+
 namespace orvane {
 
 class EntryPopup;
@@ -45,6 +48,8 @@ class ComboBoxView : public QComboBox, public ControlView
     void Toggle();
     void Move(int Rows);
     void Typed(const QString& Text);
+    void TakeBack();
+    void Settle();
     void Offer();
     void Pick(int Entry);
     void ShowText();
@@ -56,6 +61,10 @@ class ComboBoxView : public QComboBox, public ControlView
     User& TheUser;
     Offers TheOffers;
     EntryPopup* ThePopup = nullptr;
+
+    // The text that stood before a half-typed one: what shows is neither a pick's nor the
+    // program's.
+    std::optional<std::string> Before;
 };
 
 } // namespace orvane

@@ -101,6 +101,12 @@ void PaintField(QPainter& Painter, const QRectF& Box, const FieldState& State)
     Painter.setPen(QPen(Border, Pen));
     Painter.setBrush(State.Wrong ? WrongGround : State.FieldGround);
     Painter.drawRoundedRect(Inside(Box, Pen / 2), FieldRadius, FieldRadius);
+    if (State.HalfTyped) {
+        Painter.setPen(QPen(MutedInk, 1, Qt::DashLine));
+        const double Line = Box.bottom() - FieldPadding + 0.5;
+        Painter.drawLine(QPointF(Box.left() + FieldPadding, Line),
+                         QPointF(Box.right() - FieldPadding, Line));
+    }
     Painter.restore();
 }
 

@@ -59,6 +59,7 @@ struct FieldState
     QColor FieldGround;
     bool Focused = false;
     bool Wrong = false;
+    bool HalfTyped = false; // a broken line under a text that stands for no choice
 };
 void PaintField(QPainter& Painter, const QRectF& Box, const FieldState& State);
 

@@ -24,6 +24,7 @@ class ComboBoxOnScreen : public Stage
             }
         };
         Deeds["choose"] = [this](const QString& Entry) { Box().ListIndex = Entry.toInt(); };
+        Deeds["keep"] = [this](auto&) { Box().KeepsTyping = true; };
         Deeds["write"] = [this](const QString& Text) { Box().Text = FromQt(Text); };
         Deeds["fill"] = [this](const QString& Entries) {
             Box().Clear();
@@ -37,7 +38,8 @@ class ComboBoxOnScreen : public Stage
     QLineEdit& Field() { return *View().lineEdit(); }
     const EntryPopup& List() { return Checked(View().Popup(), "list"); }
 
-    // "text#index (picks) [open list, its highlighted entry with a star]"
+    // "text#index (picks) [open list, its highlighted entry with a star]"; a text that bears the
+    // sign of a half-typed one has a "~" behind it.
     std::string Seen() override
     {
         EXPECT_EQ(FromQt(Field().text()), Box().Text);
@@ -48,24 +50,35 @@ class ComboBoxOnScreen : public Stage
             for (int Row = 0; Row < List->model()->rowCount(); ++Row)
                 Offered << (Row == List->currentIndex().row() ? "*" : "") +
                                List->model()->index(Row, 0).data().toString();
-        return Box().Text + "#" + std::to_string(Box().ListIndex) + " (" + Stage::Seen() + ") [" +
-               FromQt(Offered.join('/')) + "]";
+        const bool Signed = View().accessibleDescription().startsWith("Texte tapé");
+        return Box().Text + (Signed ? "~" : "") + "#" + std::to_string(Box().ListIndex) + " (" +
+               Stage::Seen() + ") [" + FromQt(Offered.join('/')) + "]";
     }
 };
 
 constexpr Row ComboBoxRows[] = {
-    {"TypingChoosesNothing", "Cape", "Cape#-1 () [*Cape]"},
-    {"LeavingIsNoPick", "Cape<Tab>", "Cape#-1 () []"},
-    {"CaseAndAccentsAside", "ep", "ep#-1 () [Épée courte/Grande épée]"},
-    {"BeginningsFirst", "<fill Grande épée,Épée>ep", "ep#-1 () [Épée/Grande épée]"},
-    {"CapitalsAndAccents", "GRANDE ÉP", "GRANDE ÉP#-1 () [Grande épée]"},
-    {"NoOffer", "epx", "epx#-1 () []"},
+    {"TypingChoosesNothing", "Cape", "Cape~#-1 () [*Cape]"},
+    {"LeavingIsNoPick", "Cape<Tab>", "#-1 () []"},
+    {"TheTextOfBeforeComesBack", "<choose 1>xy<click txt_Nombre>", "Épée courte#1 (1) []"},
+    {"AlsoOneThatTheProgramWrote", "<write rien>xy<click lst_Noms>", "rien#-1 () []"},
+    {"AButtonMayUseWhatIsTyped", "<choose 1>xy<in cmd_Ajouter>", "xyÉpée courte~#1 (1) []"},
+    {"ALockedBoxIsNoInput", "<choose 1>xy<click txt_Total>", "xyÉpée courte~#1 (1) []"},
+    {"SomeListsKeepTheTyping", "<keep><choose 1>xy<click txt_Nombre>", "xyÉpée courte~#1 (1) []"},
+    {"EscapeTakesItBackFirst", "<choose 1>x<Esc>", "Épée courte#1 (1) []"},
+    {"EscapeThenLeavesAllTheSame", "<choose 1>x<Esc><Esc>", "Épée courte#1 (1|back) []"},
+    {"TypedAwayByHand", "<choose 1>x<Backspace>", "Épée courte#1 (1) [*Épée courte]"},
+    {"TheProgramsTextIsNotTyped", "xy<write rien>", "rien#-1 () []"},
+    {"NorIsAnEmptiedListsText", "x<Backspace><fill a><click txt_Nombre>", "#-1 () []"},
+    {"CaseAndAccentsAside", "ep", "ep~#-1 () [Épée courte/Grande épée]"},
+    {"BeginningsFirst", "<fill Grande épée,Épée>ep", "ep~#-1 () [Épée/Grande épée]"},
+    {"CapitalsAndAccents", "GRANDE ÉP", "GRANDE ÉP~#-1 () [Grande épée]"},
+    {"NoOffer", "epx", "epx~#-1 () []"},
     {"NothingForNothing", "e<Backspace>", "#-1 () []"},
-    {"GoingThroughOffers", "ep<Down><Down>", "ep#-1 () [Épée courte/*Grande épée]"},
+    {"GoingThroughOffers", "ep<Down><Down>", "ep~#-1 () [Épée courte/*Grande épée]"},
     {"EnterTakesTheHighlighted", "ep<Down><Down><Return>", "Grande épée#2 (2) []"},
     {"EnterTakesWhatIsTypedInFull", "cape<Enter>", "Cape#0 (0) []"},
     {"InFullWithoutItsAccent", "echarpe<Return>", "Écharpe#3 (3) []"},
-    {"EnterWithoutHighlight", "ca<Return><Return>", "ca#-1 () []"},
+    {"EnterWithoutHighlight", "ca<Return><Return>", "ca~#-1 () []"},
     {"MousePickKeepsTheKeyboard", "ep<row 1><Down>", "Écharpe#3 (2|3) []"},
     {"ArrowOpens", "<arrow>", "#-1 () [Cape/Épée courte/Grande épée/Écharpe]"},
     {"ArrowCloses", "<arrow><arrow>", "#-1 () []"},
@@ -83,7 +96,7 @@ constexpr Row ComboBoxRows[] = {
     {"APressElsewhereCloses", "<arrow><elsewhere>", "#-1 () []"},
     {"TheProgramsTextIsNoEntry", "<choose 2><write rien de tel>", "rien de tel#2 (2) []"},
     {"TheProgramEmptiesIt", "<choose 2><fill>", "#-1 (2) []"},
-    {"ARefilledListOffersAnew", "ep<fill Épinglette,b,c,d>epi", "epi#-1 () [Épinglette]"},
+    {"ARefilledListOffersAnew", "ep<fill Épinglette,b,c,d>epi", "epi~#-1 () [Épinglette]"},
 };
 EACH_ROW(ComboBoxOnScreen, ComboBoxRows);
 
