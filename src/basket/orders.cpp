@@ -10,13 +10,23 @@ namespace orvane {
 
 namespace {
 
-// An input that the crafter can correct.
+// An input in sight that the crafter can correct.
 bool AUneSaisieFausse(const Screen& Feuille)
 {
     return std::ranges::any_of(Feuille.Controls(), [](const Control* Each) {
         const auto* Saisie = dynamic_cast<const TextBox*>(Each);
         return Saisie != nullptr && Saisie->Marked && Saisie->Visible && !Saisie->Locked;
     });
+}
+
+std::string ÀFaireDAbord(const TextBox& Prix)
+{
+    if (AUneSaisieFausse(Prix.Owner()))
+        return "corrigez d’abord les nombres saisis.";
+    if (Prix.WaitsFor != nullptr)
+        return "corrigez d’abord « " + std::string(Prix.WaitsFor->Called) +
+               " », que cet écran ne montre pas en ce moment.";
+    return "refaites d’abord le dernier choix.";
 }
 
 } // namespace
@@ -53,10 +63,9 @@ void AjouterAuPanier(Application& App, bool EstChoisi, const LigneCommande& Lign
         return;
     }
     if (Ligne.PrixCoûtant.Stale || Ligne.PrixVente.Stale) {
-        App.MsgBox(Typeset(std::string("Les prix affichés ne sont pas à jour : ") +
-                           (AUneSaisieFausse(Ligne.PrixVente.Owner())
-                                ? "corrigez d’abord les nombres saisis."
-                                : "refaites d’abord le dernier choix.")));
+        App.MsgBox(
+            Typeset("Les prix affichés ne sont pas à jour : " +
+                    ÀFaireDAbord(Ligne.PrixVente.Stale ? Ligne.PrixVente : Ligne.PrixCoûtant)));
         return;
     }
     Variables& Globals = App.Globals;

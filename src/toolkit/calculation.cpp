@@ -11,7 +11,7 @@ Number OrMarked(std::optional<Number> Read, TextBox& Box)
 {
     Box.Marked = !Read;
     if (!Read || Box.Stale)
-        throw Failure(FailureKind::WrongText, Box.Text, Box.Name());
+        throw UnusableText(Box, Read ? Box.WaitsFor : Box.Locked ? nullptr : &Box);
     return *Read;
 }
 

@@ -29,8 +29,10 @@ void TextBox::OpenFor(NumberKind Kind)
 
 void TextBox::Assigned(PropertyId Id)
 {
-    if (Id == PropertyId::Text)
-        Stale = false;
+    if (Id != PropertyId::Text)
+        return;
+    WaitsFor = nullptr;
+    Stale = false;
 }
 
 void TextBox::Changed(PropertyId Id)

@@ -27,9 +27,13 @@ class TextBox : public Control
     // it.
     Property<bool> Stale{AsOwner(), PropertyId::Stale};
 
+    // The marked input that a stale figure waits for; none when it waits for a choice.
+    const TextBox* WaitsFor = nullptr;
+
     Alignment Align = Alignment::Centre;
     NumberKind Accepts = NumberKind::None;
     std::function<void()> OnChange;
+    std::function<void()> OnTyped; // behind OnChange, when a person has written the text
 
     // Open to typing on the input ground, meant for numbers of that kind.
     void OpenFor(NumberKind Kind);

@@ -14,8 +14,11 @@ User::User(Forms& TheForms, Dialogs& TheDialogs, std::function<void()> AfterEven
 void User::Type(TextBox& Box, const std::string& NewText)
 {
     On(Box, [&] {
-        if (!Box.Locked)
-            Box.Text = NewText;
+        if (Box.Locked)
+            return;
+        Box.Text = NewText;
+        if (Box.OnTyped)
+            Box.OnTyped();
     });
 }
 

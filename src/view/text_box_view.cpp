@@ -152,6 +152,9 @@ void TextBoxView::ShowTip()
     if (Box.Marked && Tip.isEmpty())
         Tip = IsTooGreat ? QStringLiteral("Il faut un nombre de -32768 à 32767.")
                          : QStringLiteral("Ce texte n’est pas un nombre.");
+    else if (Box.Stale && Box.WaitsFor != nullptr)
+        Tip = QStringLiteral("Ce chiffre attend un nombre juste dans «\u00a0%1\u00a0».")
+                  .arg(ToQt(Box.WaitsFor->Called));
     else if (Box.Stale)
         Tip =
             QStringLiteral("Ce chiffre date d’avant une saisie à corriger ou un choix à refaire.");

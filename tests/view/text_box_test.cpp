@@ -42,6 +42,7 @@ class TextBoxOnScreen : public Stage
         };
         Deeds["unlock"] = [this](auto&) { Atelier().txt_Total.Locked = false; };
         Deeds["whole"] = [this](auto&) { Atelier().txt_Nombre.Accepts = NumberKind::Entier16; };
+        Deeds["waits"] = [this](auto&) { Atelier().txt_Total.WaitsFor = &Atelier().txt_Nombre; };
         Deeds["stale"] = [this](const QString& Is) { Atelier().txt_Total.Stale = Is == "yes"; };
         Deeds["total"] = [this](const QString& Text) { Atelier().txt_Total.Text = FromQt(Text); };
         for (TextBox* Each : Fields())
@@ -122,6 +123,8 @@ constexpr Row LookRows[] = {
     {"Corrected", "<in txt_Nombre>abc<Ctrl+A>3", ""},
     {"AStaleFigure", "<in txt_Total><stale yes>",
      "muted italic Ce chiffre date d’avant une saisie à corriger ou un choix à refaire."},
+    {"AFigureThatWaits", "<in txt_Total><waits><stale yes>",
+     "muted italic Ce chiffre attend un nombre juste dans «\u00a0Nb d'objets\u00a0»."},
     {"FreshAgain", "<in txt_Total><stale yes><stale no>", ""},
     {"ALongText", "<in txt_Total><total Une longue désignation>", "Une longue désignation"},
     {"AShortText", "<in txt_Total><total Une longue désignation><total 1>", ""},

@@ -182,8 +182,10 @@ bool Nomenclature::EstPérimée() const
 void Nomenclature::MarquerPérimée(bool Périmée)
 {
     for (LigneMatériau& Each : Lignes)
-        for (TextBox* Chiffre : {&Each.Qté, &Each.PrixUnitaire, &Each.Prix})
+        for (TextBox* Chiffre : {&Each.Qté, &Each.PrixUnitaire, &Each.Prix}) {
+            Chiffre->WaitsFor = nullptr;
             Chiffre->Stale = Périmée;
+        }
 }
 
 std::string ColonneJointe(const std::string& Table, int i, const std::string& Colonne)

@@ -71,7 +71,16 @@ void frm_ArtisanatsMagiques::RelierLignes()
         Each.PrixUnitaire.OnChange = [this, &Each] { txt_PrixMatSuptUnitaire_Change(Each); };
     for (int i : {3, 4})
         MatériauxSup[i].Nom.OnChange = [this, i] { txt_MatSup_Change(MatériauxSup[i]); };
-    RecalculerSiOuverte(MatériauxSup[2].Prix);
+    // a pick in alchemy adds up at its end alone; a price typed there counts at once all the same
+    LigneMatériau& Ouvrable = MatériauxSup[2];
+    RecalculerAuChangement(Ouvrable.Prix, {""}, "0", [this, &Ouvrable] {
+        if (!Ouvrable.Prix.Locked && lbl_Artisanat.Caption == "Arcanes")
+            CalculerPrixArcanes();
+    });
+    Ouvrable.Prix.OnTyped = [this] {
+        if (lbl_Artisanat.Caption == "Alchimie")
+            CalculerPrixAlchimie();
+    };
     txt_AlchimieObjetSup.OnChange = [this] { txt_AlchimieObjetSup_Change(); };
 }
 
