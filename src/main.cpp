@@ -4,6 +4,7 @@
 #include "command_line/command_line.h"
 #include "home/feuilles.h"
 #include "view/desktop.h"
+#include "view/dialogs/menus.h"
 #include "view/french.h"
 #include "view/look.h"
 #include "view/qt_dialogs.h"
@@ -87,7 +88,7 @@ int main(int Count, char** Arguments)
     InstallFrench(Toolkit);
     Loading.wait();
     Boxes.StandAbove(App.Feuilles);
-    Desktop Windows(App.Feuilles, App.Door);
+    Desktop Windows(App.Feuilles, App.Door, ProgramMenus(App));
     if (!Started(App, Loading, Boxes))
         return EXIT_FAILURE;
     QTimer::singleShot(0, &Toolkit, [&] { // the first picture doesn't wait for it

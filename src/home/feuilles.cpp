@@ -71,4 +71,9 @@ void Démarrer(Application& App)
     App.TellNotices();
 }
 
+void Quitter(Application& App)
+{
+    App.Door.Event([&] { App.Feuilles.Get<frm_Accueil>().cmd_Quitter.OnClick(); });
+}
+
 } // namespace orvane

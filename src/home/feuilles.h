@@ -21,4 +21,7 @@ void Charger(Application& App);
 // Start-up: loads what isn't loaded yet, shows the home screen, and tells what there is to tell.
 void Démarrer(Application& App);
 
+// What "Quitter" does, from any screen.
+void Quitter(Application& App);
+
 } // namespace orvane

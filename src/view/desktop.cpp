@@ -17,7 +17,10 @@ constexpr int FocusPatience = 700; // milliseconds
 
 } // namespace
 
-Desktop::Desktop(Forms& TheForms, User& TheUser) : TheForms(TheForms), TheUser(TheUser)
+Desktop::Desktop(Forms& TheForms, User& TheUser, Menus TheMenus)
+    : TheForms(TheForms),
+      TheUser(TheUser),
+      TheMenus(std::move(TheMenus))
 {
     QApplication::setQuitOnLastWindowClosed(false);
     qApp->installEventFilter(this);
@@ -39,7 +42,7 @@ ScreenWindow& Desktop::Built(Screen& Which)
 {
     std::unique_ptr<ScreenWindow>& Window = Windows[&Which];
     if (Window == nullptr) {
-        Window = std::make_unique<ScreenWindow>(Which, TheUser);
+        Window = std::make_unique<ScreenWindow>(Which, TheUser, TheMenus);
         Window->OnFocused = [this, Made = Window.get()] { Focused(*Made); };
     }
     return *Window;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "toolkit/forms.h"
+#include "view/window_menu.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -17,7 +18,8 @@ class User;
 class Desktop : public QObject, public FormsObserver
 {
   public:
-    Desktop(Forms& TheForms, User& TheUser);
+    // TheMenus stand in every window.
+    Desktop(Forms& TheForms, User& TheUser, Menus TheMenus = {});
     ~Desktop() override;
 
     void Shown(Screen& Which) override;
@@ -36,6 +38,7 @@ class Desktop : public QObject, public FormsObserver
 
     Forms& TheForms;
     User& TheUser;
+    Menus TheMenus;
     std::map<const Screen*, std::unique_ptr<ScreenWindow>> Windows;
     const ScreenWindow* LastShown = nullptr;
 

@@ -34,6 +34,8 @@ const QPixmap& Grain()
     return Tile;
 }
 
+constexpr int Dark = 110; // of 255: below, words are light
+
 QRectF Inside(const QRectF& Box, double By)
 {
     return Box.adjusted(By, By, -By, -By);
@@ -159,11 +161,23 @@ void PaintGround(QPainter& Painter, const QRectF& Window)
 
 QColor Veil(const QPixmap& Background)
 {
-    constexpr int Dark = 110;
     const QImage Average =
         Background.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).toImage();
     const bool IsDark = qGray(Average.pixel(0, 0)) < Dark;
     return IsDark ? QColor(255, 255, 255, 20) : QColor(255, 252, 244, 120);
+}
+
+BarColours BarOn(const QPixmap& Background)
+{
+    constexpr int Strip = 24; // of the picture, below the bar
+    if (Background.isNull())
+        return {GroundTop, Ink};
+    const QImage Average = Background.copy(0, 0, Background.width(), Strip)
+                               .scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                               .toImage();
+    const QColor There = Average.pixelColor(0, 0).toRgb();
+    return qGray(There.rgb()) < Dark ? BarColours{There.darker(125), Cream}
+                                     : BarColours{There.lighter(104), Ink};
 }
 
 QPixmap Notice(double Density)

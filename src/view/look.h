@@ -42,6 +42,7 @@ inline constexpr int ArrowWidth = 20; // of a combo box
 inline constexpr int ComboHeight = 23;
 inline constexpr int PopupRows = 14;
 inline constexpr double DialogPoints = 10;
+inline constexpr double MenuPoints = 9;
 
 QPalette Palette();
 QFont Font(double Points, bool Bold = false);
@@ -80,6 +81,15 @@ void PaintGround(QPainter& Painter, const QRectF& Window);
 // The ground of panels on a background picture: lighter, as much as captions made for that picture
 // can bear.
 QColor Veil(const QPixmap& Background);
+
+// A menu bar above a background picture, or above the plain ground: its colour carried on, and
+// words that can be read on it.
+struct BarColours
+{
+    QColor BarGround;
+    QColor Words;
+};
+BarColours BarOn(const QPixmap& Background);
 
 // What stands beside the words of a message.
 QPixmap Notice(double Density);

@@ -2,7 +2,7 @@
 
 #include "toolkit/screen.h"
 #include "view/look.h"
-#include "view/screen_window.h"
+#include "view/screen_area.h"
 
 #include <QPainter>
 
@@ -23,7 +23,7 @@ void ShapeView::paintEvent(QPaintEvent*)
     QPainter Painter(this);
     Painter.setRenderHint(QPainter::Antialiasing);
     Painter.setPen(QPen(look::ColourOf(TheShape.BorderColor), 1));
-    Painter.setBrush(static_cast<ScreenWindow*>(window())->PanelGround());
+    Painter.setBrush(static_cast<ScreenArea*>(parentWidget())->PanelGround());
     Painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), look::PanelRadius,
                             look::PanelRadius);
 }

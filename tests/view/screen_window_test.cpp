@@ -85,7 +85,7 @@ TEST_F(WindowFollows, WhatIsVisible)
     EXPECT_EQ(&Focused(), &The<QWidget>("txt_Nom"));
     Play("<hide txt_Nom>");
     EXPECT_FALSE(The<QWidget>("txt_Nom").isVisible());
-    const QObjectList& Order = Window().children();
+    const QObjectList& Order = The<QWidget>("shp_Gauche").parent()->children();
     for (const char* Panel : {"shp_Gauche", "shp_Droite"})
         for (const char* Above : {"txt_Nombre", "lbl_Nombre", "Bar_Menus"})
             EXPECT_LT(Order.indexOf(&The<QWidget>(Panel)), Order.indexOf(&The<QWidget>(Above)));

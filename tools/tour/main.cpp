@@ -10,6 +10,7 @@
 #include "tour/names.h"
 #include "tour/tour.h"
 #include "view/desktop.h"
+#include "view/dialogs/menus.h"
 #include "view/french.h"
 #include "view/qt_dialogs.h"
 #include "view/style.h"
@@ -55,7 +56,7 @@ class Evening
   private:
     QtDialogs Boxes;
     Application App{Scene.Path(), Boxes};
-    Desktop Windows{App.Feuilles, App.Door};
+    Desktop Windows{App.Feuilles, App.Door, ProgramMenus(App)};
 };
 
 void Walk(const QString& Program, const QDir& Pictures, const QStringList& Filter)

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "app/application.h"
+#include "view/window_menu.h"
+
+namespace orvane {
+
+// What the menu of every window holds. App outlives it.
+Menus ProgramMenus(Application& App);
+
+} // namespace orvane

@@ -1,0 +1,138 @@
+#include "view/screen_area.h"
+
+#include "view/act.h"
+#include "view/control_view.h"
+#include "view/look.h"
+#include "view/reading_order.h"
+#include "view/view_factory.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPainter>
+
+namespace orvane {
+
+namespace {
+
+const auto ArrangeEvent = static_cast<QEvent::Type>(QEvent::User + 1);
+
+bool IsPanel(const Control& Which)
+{
+    return Which.Kind() == ControlKind::Shape || Which.Kind() == ControlKind::Line;
+}
+
+} // namespace
+
+ScreenArea::ScreenArea(Screen& Model, User& TheUser, QWidget* Parent)
+    : QWidget(Parent),
+      TheScreen(Model),
+      TheUser(TheUser)
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    PictureChanged();
+    for (const bool Panels : {true, false}) // panels first, below everything else
+        for (Control* Each : TheScreen.Controls())
+            if (IsPanel(*Each) == Panels && Each->Visible)
+                AddView(*Each);
+    Arrange();
+}
+
+// A control that has never been visible has no widget: most holders of a screen never will.
+void ScreenArea::AddView(Control& Which)
+{
+    ControlView* View = MakeView(Which, TheUser, this);
+    Views[&Which] = View;
+}
+
+void ScreenArea::ControlChanged(Control& Which, PropertyId What)
+{
+    const auto Known = Views.find(&Which);
+    if (Known != Views.end())
+        Known->second->Follow(What);
+    else if (Which.Visible) {
+        AddView(Which);
+        QWidget& Late = Views.at(&Which)->Widget();
+        if (IsPanel(Which))
+            Late.lower(); // below what stands on it, however late it comes
+        Late.show();
+    } else
+        return;
+    switch (What) {
+    case PropertyId::Left:
+    case PropertyId::Top:
+    case PropertyId::Width:
+    case PropertyId::Height:
+    case PropertyId::Visible:
+    case PropertyId::Picture:
+        ArrangeLater();
+        break;
+    case PropertyId::Items:
+        if (Which.Kind() == ControlKind::SideMenu)
+            ArrangeLater();
+        break;
+    default:
+        break;
+    }
+}
+
+void ScreenArea::PictureChanged()
+{
+    Source.Set(TheScreen.Picture);
+    update();
+}
+
+void ScreenArea::ArrangeLater()
+{
+    if (!ArrangementIsOld)
+        QCoreApplication::postEvent(this, new QEvent(ArrangeEvent));
+    ArrangementIsOld = true;
+}
+
+void ScreenArea::Arrange()
+{
+    ArrangementIsOld = false;
+    QWidget* Last = nullptr;
+    for (const Control* Each : ReadingOrder(TheScreen)) {
+        const auto Known = Views.find(Each);
+        if (Known == Views.end())
+            continue;
+        for (QWidget* Stop : Known->second->TabStops()) {
+            if (Last != nullptr)
+                setTabOrder(Last, Stop);
+            Last = Stop;
+        }
+    }
+}
+
+const QPixmap& ScreenArea::Background()
+{
+    return Source.For(size(), devicePixelRatioF(), PictureSource::Fit::Whole);
+}
+
+QColor ScreenArea::PanelGround()
+{
+    const QPixmap& Picture = Background();
+    if (PanelGroundOf != Picture.cacheKey()) {
+        PanelGroundOf = Picture.cacheKey();
+        ThePanelGround = Picture.isNull() ? look::Panel : look::Veil(Picture);
+    }
+    return ThePanelGround;
+}
+
+bool ScreenArea::event(QEvent* Event)
+{
+    if (Event->type() == ArrangeEvent)
+        Act([&] { Arrange(); });
+    return QWidget::event(Event);
+}
+
+void ScreenArea::paintEvent(QPaintEvent*)
+{
+    QPainter Painter(this);
+    const QPixmap& Picture = Background();
+    if (Picture.isNull() || Picture.hasAlpha())
+        look::PaintGround(Painter, rect());
+    Painter.drawPixmap(0, 0, Picture);
+}
+
+} // namespace orvane

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "toolkit/screen.h"
+#include "view/picture_source.h"
+
+#include <QColor>
+#include <QWidget>
+
+#include <unordered_map>
+
+namespace orvane {
+
+class ControlView;
+class User;
+
+// What a layout lays out: a screen's background and a widget for each of its controls, told of each
+// change.
+class ScreenArea : public QWidget
+{
+  public:
+    ScreenArea(Screen& Model, User& TheUser, QWidget* Parent);
+
+    QColor PanelGround();
+    const QPixmap& Background(); // null without a picture
+
+    void ControlChanged(Control& Which, PropertyId What);
+    void PictureChanged();
+
+  protected:
+    bool event(QEvent* Event) override;
+    void paintEvent(QPaintEvent* Event) override;
+
+  private:
+    void AddView(Control& Which);
+    void ArrangeLater();
+    void Arrange(); // the order of Tab
+
+    Screen& TheScreen;
+    User& TheUser;
+    PictureSource Source;
+    QColor ThePanelGround;
+    qint64 PanelGroundOf = -1; // the background that it was found for
+    bool ArrangementIsOld = false;
+    std::unordered_map<const Control*, ControlView*> Views; // of what has been visible
+};
+
+} // namespace orvane
