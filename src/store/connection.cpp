@@ -147,7 +147,10 @@ Connection::Connection(std::filesystem::path File, std::function<void()> BeforeW
                        std::shared_ptr<RunLinks> Links)
 {
     std::error_code Error;
-    if (!std::filesystem::exists(File, Error))
+    const bool Exists = std::filesystem::exists(File, Error);
+    if (Error == std::errc::permission_denied) // a folder on the way: nobody knows
+        throw Failure(FailureKind::DatabaseUnreadable, DisplayName(File), File.string());
+    if (!Exists)
         throw Failure(FailureKind::DatabaseMissing, DisplayName(File), File.string());
     if (!std::filesystem::is_regular_file(File, Error) ||
         std::filesystem::file_size(File, Error) == 0)

@@ -88,7 +88,8 @@ TEST_F(ConnectionTest, WhatTheFolderAllowsIsDoneAndTheRestIsTold)
         std::string ToWrite;
     } Rows[] = {{perms(0555), perms(0777), "", ReadOnly},
                 {perms(0777), perms(0555), "", ReadOnly},
-                {perms(0000), perms(0777), Damaged, Damaged}};
+                {perms(0000), perms(0777), Damaged, Damaged},
+                {perms(0777), perms(0000), Damaged, Damaged}};
     for (const auto& [OfFile, OfFolder, ToRead, ToWrite] : Rows) {
         SCOPED_TRACE(static_cast<int>(OfFile));
         TheStore = Store();
