@@ -162,16 +162,32 @@ std::string frm_Accueil::RestaurerChoix(const std::string& Liste, const std::str
 
 void frm_Accueil::txt_Skin_Change()
 {
-    if (txt_Résolution.Text != "")
-        ChargerSkin(App, txt_Skin.Text, txt_Résolution.Text);
+    Habiller([this] {
+        if (txt_Résolution.Text != "")
+            ChargerSkin(App, txt_Skin.Text, txt_Résolution.Text);
+    });
 }
 
 void frm_Accueil::txt_Résolution_Change()
 {
-    if (txt_Skin.Text != "")
-        ChargerSkin(App, txt_Skin.Text, txt_Résolution.Text);
-    if (!Globals.CheminBaseSkin.empty()) // no skin at all: the definition's look stays
-        AppliquerRésolutionPartout(App, txt_Résolution.Text);
+    Habiller([this] {
+        if (txt_Skin.Text != "")
+            ChargerSkin(App, txt_Skin.Text, txt_Résolution.Text);
+        if (!Globals.CheminBaseSkin.empty()) // no skin at all: the definition's look stays
+            AppliquerRésolutionPartout(App, txt_Résolution.Text);
+    });
+}
+
+// A skin may be locked between the look at it and its use.
+void frm_Accueil::Habiller(const std::function<void()>& Faire)
+{
+    try {
+        Faire();
+    } catch (const Failure& Given) {
+        if (Given.Kind() != FailureKind::DatabaseLocked)
+            throw;
+        App.Notice(Given.Sentence());
+    }
 }
 
 // A realm whose settings can't be read isn't chosen.

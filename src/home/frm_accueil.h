@@ -61,6 +61,7 @@ class frm_Accueil : public Feuille
 
     void txt_Skin_Change();
     void txt_Résolution_Change();
+    void Habiller(const std::function<void()>& Faire); // a lock is told later
 
     void RestaurerRoyaume();
 

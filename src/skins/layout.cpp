@@ -189,15 +189,16 @@ void AppliquerRésolution(Application& App, std::int16_t IndexFeuille, const std
 
 void AppliquerRésolutionPartout(Application& App, const std::string& Résolution)
 {
-    std::vector<std::string> Inconnues;
+    const Database Tenue = App.Bases.Open(App.Globals.CheminBaseSkin); // one reading for all
+    ÉcransManqués Manqués(App);
     const std::int16_t Dernière = Entier16(App.Feuilles.Count() - 1);
     for (std::int16_t IndexFeuille = 0; IndexFeuille <= Dernière; ++IndexFeuille)
         try {
             AppliquerRésolution(App, IndexFeuille, Résolution);
-        } catch (const Failure&) {
-            Inconnues.push_back(App.Feuilles[IndexFeuille].Name());
+        } catch (const Failure& Given) {
+            Manqués.Ajouter(App.Feuilles[IndexFeuille], Given);
         }
-    AnnoncerÉcransInconnus(App, Inconnues);
+    Manqués.Annoncer();
 }
 
 } // namespace orvane

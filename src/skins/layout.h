@@ -13,7 +13,8 @@ namespace orvane {
 void AppliquerRésolution(Application& App, std::int16_t IndexFeuille,
                          const std::string& Résolution);
 
-// All loaded screens; one that can't be laid out keeps what it has, which is told later.
+// All loaded screens; one that can't be laid out keeps what it has, which is told later. Failure
+// when the database can't be opened or is locked.
 void AppliquerRésolutionPartout(Application& App, const std::string& Résolution);
 
 } // namespace orvane

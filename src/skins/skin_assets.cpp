@@ -1,7 +1,6 @@
 #include "skins/skin_assets.h"
 
 #include "app/queries.h"
-#include "base/failure.h"
 #include "base/text.h"
 #include "base/typography.h"
 #include "catalogue/catalogue.h"
@@ -127,15 +126,26 @@ bool SkinExiste(Application& App, const std::string& Skin)
     }
 }
 
-void AnnoncerÉcransInconnus(Application& App, const std::vector<std::string>& Feuilles)
+void ÉcransManqués::Ajouter(Screen& Feuille, const Failure& Cause)
 {
-    std::string Noms;
-    for (const std::string& Feuille : Feuilles)
-        Noms += (Noms.empty() ? "" : ", ") + App.Feuilles.Touch(Feuille).Caption;
-    if (!Noms.empty())
+    switch (Cause.Kind()) {
+    case FailureKind::DatabaseLocked:
+        throw Cause;
+    case FailureKind::NoRow:
+    case FailureKind::DatabaseIncomplete:
+        Inconnus += (Inconnus.empty() ? "" : ", ") + Feuille.Caption;
+        break;
+    default:
+        App.Notice(Cause.Sentence());
+    }
+}
+
+void ÉcransManqués::Annoncer() const
+{
+    if (!Inconnus.empty())
         App.Notice(Typeset("L’habillage ne connaît pas ces écrans à cette résolution ; ils gardent "
                            "leur aspect : " +
-                           Noms + "."),
+                           Inconnus + "."),
                    "unknown screens");
 }
 
@@ -145,20 +155,19 @@ void ChargerSkin(Application& App, const std::string& Skin, const std::string& R
     Globals.CheminSkin = App.Chemin("/Skins/" + Skin + "/");
     Globals.CheminBaseSkin = Globals.CheminSkin + "/" + SkinFile(Skin);
     const Ouverture Base(App, Globals.BaseDonnées2, Globals.CheminBaseSkin);
-    std::vector<std::string> Inconnues;
+    ÉcransManqués Manqués(App);
     for (const ImagesFeuille& Each : Images()) {
         try {
             ChoisirDossierImages(App, Each.Feuille, Résolution);
-        } catch (const Failure&) {
-            App.Feuilles.Touch(Each.Feuille);
-            Inconnues.emplace_back(Each.Feuille);
+        } catch (const Failure& Given) {
+            Manqués.Ajouter(App.Feuilles.Touch(Each.Feuille), Given);
             continue;
         }
         Habiller(App, Each);
         if (std::string_view(Each.Feuille) == "frm_Statut")
             Globals.CheminStatut = Globals.CheminImages + "Statut/";
     }
-    AnnoncerÉcransInconnus(App, Inconnues);
+    Manqués.Annoncer();
 }
 
 std::string SansEspaces(std::string Résolution)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/application.h"
+#include "base/failure.h"
 
 #include <string>
 #include <vector>
@@ -14,13 +15,28 @@ std::vector<std::string> ImagesDeSkin();
 // Whether the skin's layout database is there and can be opened.
 bool SkinExiste(Application& App, const std::string& Skin);
 
-// Tells later, in one notice, which screens the skin doesn't know at this resolution; nothing when
-// there are none.
-void AnnoncerÉcransInconnus(Application& App, const std::vector<std::string>& Feuilles);
+// The screens that couldn't be dressed or laid out, each with its failure.
+class ÉcransManqués
+{
+  public:
+    explicit ÉcransManqués(Application& App) : App(App) {}
+
+    // What is wrong with the database itself is told later as it is. When it is locked, Failure
+    // again: each further screen would wait for it in vain.
+    void Ajouter(Screen& Feuille, const Failure& Cause);
+
+    // Tells later, in one notice, which ones the skin doesn't know at this resolution.
+    void Annoncer() const;
+
+  private:
+    Application& App;
+    std::string Inconnus;
+};
 
 // Fixes the paths of the skin and loads background and button pictures of all ten screens afresh;
 // a screen's first touch here loads it. A picture that is missing leaves the plain look, a screen
-// that the skin doesn't know keeps what it has; both are told later.
+// that the skin doesn't know keeps what it has; both are told later. Failure when the database
+// can't be opened or is locked.
 void ChargerSkin(Application& App, const std::string& Skin, const std::string& Résolution);
 
 // The resolution's name as it stands in names of folders and tables: without its spaces.
