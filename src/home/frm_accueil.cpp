@@ -10,6 +10,7 @@
 #include "settings/frm_configuration.h"
 #include "skins/layout.h"
 #include "skins/skin_assets.h"
+#include "skins/skin_check.h"
 #include "store/file_version.h"
 
 #include <algorithm>
@@ -50,12 +51,15 @@ void frm_Accueil::Load()
         const Ouverture Base(App, Globals.CheminConfig);
         RestaurerRoyaume();
         auto& Configuration = App.Feuilles.Get<frm_Configuration>();
-        txt_Skin.Text =
+        const std::string Skin =
             RestaurerChoix("SkinsListe", "DernièreSkin", Configuration.cbo_Skin,
-                           [this](const std::string& Skin) { return SkinExiste(App, Skin); });
-        txt_Résolution.Text =
-            RestaurerChoix("RésolutionsListe", "DernièreRésolution", Configuration.cbo_Résolution,
-                           [](const std::string&) { return true; });
+                           [this](const std::string& Nom) { return FauteDeSkin(App, Nom); });
+        txt_Skin.Text = Skin;
+        txt_Résolution.Text = RestaurerChoix(
+            "RésolutionsListe", "DernièreRésolution", Configuration.cbo_Résolution,
+            [&](const std::string& Nom) { // without a skin any will do
+                return Skin.empty() ? std::string() : FauteDeRésolution(App, Skin, Nom);
+            });
     }
     ChargerConfigRoyaume(Globals.RoyaumeCourant);
     RemplirCommandes(App);
@@ -140,21 +144,19 @@ void frm_Accueil::RestaurerRoyaume()
 }
 
 std::string frm_Accueil::RestaurerChoix(const std::string& Liste, const std::string& Dernier,
-                                        ComboBox& Box,
-                                        const std::function<bool(const std::string&)>& Possible)
+                                        ComboBox& Box, const Examen& FauteDe)
 {
     std::vector<std::string> Noms;
     for (Recordset Lignes = PremierEnregistrement("SELECT Nom FROM " + Liste + " ORDER BY Num");
          !Lignes.Eof(); Lignes.MoveNext())
         Box.AddItem(Noms.emplace_back(Lignes.Text("Nom")));
     std::string Choix = PremierEnregistrement("SELECT Nom FROM " + Dernier).Text("Nom");
-    if (Box.FindItem(Choix) < 0 || !Possible(Choix)) {
-        const auto Premier = std::ranges::find_if(Noms, Possible);
-        const std::string Remplaçant = Premier == Noms.end() ? std::string() : *Premier;
-        App.Notice(Typeset("« " + Choix + " » n’existe plus : " +
-                           (Remplaçant.empty() ? "rien ne peut le remplacer."
-                                               : "« " + Remplaçant + " » est choisi à sa place.")));
-        Choix = Remplaçant;
+    if (const std::string Faute = FauteDe(Choix); !Faute.empty()) {
+        const auto Premier = std::ranges::find_if(
+            Noms, [&](const std::string& Nom) { return Nom != Choix && FauteDe(Nom).empty(); });
+        Choix = Premier == Noms.end() ? std::string() : *Premier;
+        App.Notice(Typeset(Faute + "\n" + (Choix.empty() ? "Rien n’est" : "« " + Choix + " » est") +
+                           " choisi à la place."));
     }
     Box.Text = Choix;
     return Choix;

@@ -65,10 +65,14 @@ class frm_Accueil : public Feuille
 
     void RestaurerRoyaume();
 
-    // Fills the list from Liste and writes the last choice, the row of Dernier, to its text. A last
-    // choice that isn't Possible any more gives way to the first that is, which is told later.
+    // What is wrong with a name, as a sentence; empty when nothing is.
+    using Examen = std::function<std::string(const std::string& Nom)>;
+
+    // Fills the list from Liste and writes the last choice, the row of Dernier, to its text. One
+    // with a fault gives way to the first of the list that has none, which is told later; nothing
+    // when there is none.
     std::string RestaurerChoix(const std::string& Liste, const std::string& Dernier, ComboBox& Box,
-                               const std::function<bool(const std::string&)>& Possible);
+                               const Examen& FauteDe);
 
     void ChoisirRoyaume(const std::string& Royaume);
     void OuvrirArtisanat(const std::string& Feuille, const std::vector<std::string>& AvecIcône);

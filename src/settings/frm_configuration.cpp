@@ -5,7 +5,7 @@
 #include "base/number_text.h"
 #include "base/typography.h"
 #include "skins/capture.h"
-#include "skins/skin_assets.h"
+#include "skins/skin_check.h"
 
 namespace orvane {
 
@@ -64,13 +64,11 @@ void frm_Configuration::cmd_Couleur_Click()
 bool frm_Configuration::ToutEstValable()
 {
     std::string Faute;
-    // What is in force stays possible, also when its files are gone.
-    const bool MêmeRésolution = cbo_Résolution.Text == EnVigueur("txt_Résolution").Text;
-    if (!MêmeRésolution && cbo_Résolution.FindItem(cbo_Résolution.Text) < 0)
-        Faute = "La résolution « " + cbo_Résolution.Text + " » n’existe pas.";
-    const bool MêmeSkin = cbo_Skin.Text == EnVigueur("txt_Skin").Text;
-    if (!MêmeSkin && (cbo_Skin.FindItem(cbo_Skin.Text) < 0 || !SkinExiste(App, cbo_Skin.Text)))
-        Faute = "L’habillage « " + cbo_Skin.Text + " » n’existe pas.";
+    // What is in force stays possible, also when its files are gone. A skin alone is looked at with
+    // the resolution too, by which it will be laid out.
+    if (cbo_Skin.Text != EnVigueur("txt_Skin").Text ||
+        cbo_Résolution.Text != EnVigueur("txt_Résolution").Text)
+        Faute = FauteDeRésolution(App, cbo_Skin.Text, cbo_Résolution.Text);
     for (const Métier& Each : Métiers) {
         const RéglagesArtisanat Artisanat = Réglages(Each.Nom);
         for (TextBox* Case : {Artisanat.Niveau, Artisanat.Marge, Artisanat.Essai})

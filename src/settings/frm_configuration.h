@@ -107,8 +107,8 @@ class frm_Configuration : public Feuille
     void cmd_Validation_Click();
     void cmd_Couleur_Click();
 
-    // Every box and both lists, before anything is written; tells what is wrong and says whether
-    // all is right.
+    // Every box, and what the disk holds of the skin and the resolution, before anything is
+    // written; tells what is wrong and says whether all is right.
     bool ToutEstValable();
     void EnregistrerRéglages();
 

@@ -158,13 +158,18 @@ class Lignes
 
 } // namespace
 
+Recordset LignesDeDisposition(const Database& Base, const std::string& Table)
+{
+    return Base.OpenRecordset("SELECT * FROM " + Bracketed(Table) + " ORDER BY Num");
+}
+
 void AppliquerRésolution(Application& App, std::int16_t IndexFeuille, const std::string& Résolution)
 {
     Variables& Globals = App.Globals;
     Screen& Feuille = App.Feuilles[IndexFeuille];
     const std::string Table = TableDe(App, Feuille, Résolution);
     const Database Base = App.Bases.Open(Globals.CheminBaseSkin);
-    Lignes Rangées(Base.OpenRecordset("SELECT * FROM [" + Table + "] ORDER BY Num"));
+    Lignes Rangées(LignesDeDisposition(Base, Table));
     const Recordset* Propre = Rangées.Pour(Feuille.Name());
     if (Propre == nullptr)
         throw Failure(FailureKind::NoRow, Feuille.Name());

@@ -116,16 +116,6 @@ std::vector<std::string> ImagesDeSkin()
     return {Fichiers.begin(), Fichiers.end()};
 }
 
-bool SkinExiste(Application& App, const std::string& Skin)
-{
-    try {
-        const Database Base = App.Bases.Open(App.Chemin("/Skins/" + Skin + "/" + SkinFile(Skin)));
-        return true;
-    } catch (const Failure&) {
-        return false;
-    }
-}
-
 void ÉcransManqués::Ajouter(Screen& Feuille, const Failure& Cause)
 {
     switch (Cause.Kind()) {
@@ -176,12 +166,17 @@ std::string SansEspaces(std::string Résolution)
     return Résolution;
 }
 
+bool EstCommun(const Recordset& Ligne)
+{
+    return Ligne.TextOrEmpty("Commun") == "O";
+}
+
 std::string Déclinaison(Application& App, const std::string& Feuille, const std::string& Résolution)
 {
     Recordset Ligne = OuvrirEnregistrements2(
         App.Globals, "SELECT * FROM RésolutionCommune WHERE Nom=" + Quoted(Feuille));
     Ligne.MoveFirst();
-    return Ligne.TextOrEmpty("Commun") == "O" ? "Commun" : SansEspaces(Résolution);
+    return EstCommun(Ligne) ? "Commun" : SansEspaces(Résolution);
 }
 
 void ChoisirDossierImages(Application& App, const std::string& Feuille,

@@ -12,9 +12,6 @@ namespace orvane {
 // The pictures that a skin holds below each of its image folders: "Accueil/Fond.jpg".
 std::vector<std::string> ImagesDeSkin();
 
-// Whether the skin's layout database is there and can be opened.
-bool SkinExiste(Application& App, const std::string& Skin);
-
 // The screens that couldn't be dressed or laid out, each with its failure.
 class ÉcransManqués
 {
@@ -41,6 +38,9 @@ void ChargerSkin(Application& App, const std::string& Skin, const std::string& R
 
 // The resolution's name as it stands in names of folders and tables: without its spaces.
 std::string SansEspaces(std::string Résolution);
+
+// Whether a row of RésolutionCommune marks its screen as common to all resolutions.
+bool EstCommun(const Recordset& Ligne);
 
 // "Commun" for a screen that all resolutions share, else the resolution's name without its spaces.
 // Needs BaseDonnées2 open on the skin's database; fails for a screen that the skin doesn't know.

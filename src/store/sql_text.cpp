@@ -23,15 +23,16 @@ char Lower(char Letter)
     return Letter >= 'A' && Letter <= 'Z' ? static_cast<char>(Letter + 32) : Letter;
 }
 
-std::string Enclosed(std::string_view Text, char Quote)
+// Between the two signs; the closing one is doubled inside.
+std::string Enclosed(std::string_view Text, char Opening, char Closing)
 {
-    std::string Result(1, Quote);
+    std::string Result(1, Opening);
     for (const char Letter : Text) {
-        if (Letter == Quote)
-            Result += Quote;
+        if (Letter == Closing)
+            Result += Closing;
         Result += Letter;
     }
-    return Result + Quote;
+    return Result + Closing;
 }
 
 class Scanner
@@ -103,12 +104,17 @@ class Scanner
 
 std::string Quoted(std::string_view Text)
 {
-    return Enclosed(Text, '"');
+    return Enclosed(Text, '"', '"');
 }
 
 std::string QuotedName(std::string_view Name)
 {
-    return Enclosed(Name, '"');
+    return Enclosed(Name, '"', '"');
+}
+
+std::string Bracketed(std::string_view Name)
+{
+    return Enclosed(Name, '[', ']');
 }
 
 bool Token::Is(std::string_view Keyword) const

@@ -13,6 +13,9 @@ std::string Quoted(std::string_view Text);
 // A name for SQLite, accents and dots included.
 std::string QuotedName(std::string_view Name);
 
+// A name for a query of the dialect, whatever signs it has.
+std::string Bracketed(std::string_view Name);
+
 enum class TokenKind { Word, Text, Number, Symbol };
 
 struct Token
