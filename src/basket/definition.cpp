@@ -13,7 +13,7 @@ void frm_Panier::Définir()
     cbo_Commandes.Sorted = true;
     cbo_Commandes.KeepsTyping = true;
     PlaceButton(cmd_Enregistrer, "Nommer la commande",
-                "Donner un nom d’acheteur à la nouvelle commande", {544, 27, 200, 44});
+                "Donner un nom d’acheteur à la nouvelle commande", {544, 27, 200, 44}, "F2");
 
     PlacePanel(shp_Objets, {16, 94, 868, 422});
     struct Column
@@ -43,10 +43,10 @@ void frm_Panier::Définir()
     Place(txt_TotalPanierVente, {734, 475, 134, 24}, "Total, prix de vente");
 
     PlaceButton(cmd_SupprimerObjet, "Supprimer l’objet", "Retirer la ligne choisie de la commande",
-                {16, 532, 200, 48});
+                {16, 532, 200, 48}, "Del");
     PlaceButton(cmd_SupprimerCommande, "Supprimer la commande",
                 "Supprimer toute la commande, dans les trois royaumes", {232, 532, 200, 48});
-    PlaceButton(cmd_Retour, "Retour", "Revenir à l’écran précédent", {744, 532, 140, 48});
+    PlaceButton(cmd_Retour, "Retour", "Revenir à l’écran précédent", {744, 532, 140, 48}, "Esc");
 }
 
 } // namespace orvane

@@ -36,16 +36,17 @@ void frm_Accueil::Définir()
     PlacePanel(shp_Ateliers, {40, 368, 680, 170});
     PlaceButton(cmd_ArtisanatsManuels, "Artisanats manuels",
                 "Armurerie, couture, empennage, forge, archerie et armes légendaires",
-                {60, 386, 206, 60});
+                {60, 386, 206, 60}, "Ctrl+1");
     PlaceButton(cmd_ArtisanatsMagiques, "Artisanats magiques", "Alchimie et arcanes",
-                {277, 386, 206, 60});
+                {277, 386, 206, 60}, "Ctrl+2");
     PlaceButton(cmd_ArtisanatsSecondaires, "Artisanats secondaires", "Sellerie et recyclage",
-                {494, 386, 206, 60});
-    PlaceButton(cmd_Configuration, "Configuration", "Niveaux, marges, skin et résolution",
-                {60, 462, 206, 56});
+                {494, 386, 206, 60}, "Ctrl+3");
+    PlaceButton(cmd_Configuration, "Configuration", "Niveaux, marges, habillage et résolution",
+                {60, 462, 206, 56}, "Ctrl+4");
     PlaceButton(cmd_News, "Nouvelles", "Version du logiciel et état des données",
-                {277, 462, 206, 56});
-    PlaceButton(cmd_Quitter, "Quitter", "Retenir le royaume et quitter", {494, 462, 206, 56});
+                {277, 462, 206, 56}, "Ctrl+5");
+    PlaceButton(cmd_Quitter, "Quitter", "Retenir le royaume et quitter", {494, 462, 206, 56},
+                "Ctrl+Q");
 
     txt_Skin.Visible = false;
     txt_Résolution.Visible = false;

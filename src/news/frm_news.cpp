@@ -36,8 +36,8 @@ void frm_News::Définir()
         Each->FontSize = 12;
     lbl_Version.Bold = true;
     PlaceButton(cmd_Détails, "Détails", "État des données, royaume par royaume",
-                {180, 320, 140, 46});
-    PlaceButton(cmd_Retour, "Retour", "Revenir à l’accueil", {360, 320, 140, 46});
+                {180, 320, 140, 46}, "Return");
+    PlaceButton(cmd_Retour, "Retour", "Revenir à l’accueil", {360, 320, 140, 46}, "Esc");
 }
 
 } // namespace orvane

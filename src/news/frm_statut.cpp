@@ -79,7 +79,7 @@ void frm_Statut::Définir()
     PlaceLabel(lbl_Alchimie, "Alchimie : A jour (v1.85)", {60, 351, 560, 26});
     shp.Visible = false;
     lbl_Alchimie.Visible = false;
-    PlaceButton(cmd_Retour, "Retour", "Revenir aux nouvelles", {270, 414, 140, 46});
+    PlaceButton(cmd_Retour, "Retour", "Revenir aux nouvelles", {270, 414, 140, 46}, "Esc");
 }
 
 } // namespace orvane

@@ -103,7 +103,7 @@ void frm_Configuration::Définir()
     cbo_Résolution.KeepsTyping = true;
 
     PlaceButton(cmd_Validation, "Valider", "Enregistrer les réglages du royaume et fermer",
-                {RightX + 60, 420, 224, 58});
+                {RightX + 60, 420, 224, 58}, "Return");
     PlaceButton(cmd_Couleur, "Couleur", "Choisir une couleur et lire son numéro",
                 {16, 16, 120, 26});
     PlaceButton(cmd_Récup, "Récup données Résolution", "Capturer la géométrie d’une feuille",

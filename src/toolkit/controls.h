@@ -80,6 +80,10 @@ class Button : public PictureControl
     }
 
     TextProperty Words{AsOwner(), PropertyId::Caption};
+
+    // What presses it wherever the focus is on its screen, unless something else there takes the
+    // key: "Ctrl+Return". Its tip tells it.
+    std::string Key;
 };
 
 } // namespace orvane

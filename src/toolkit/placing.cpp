@@ -67,9 +67,11 @@ void PlacePanel(Shape& Which, Box At)
     Which.BorderColor = PanelBorder;
 }
 
-void PlaceButton(Button& Which, const std::string& Words, const std::string& Tip, Box At)
+void PlaceButton(Button& Which, const std::string& Words, const std::string& Tip, Box At,
+                 const std::string& Key)
 {
     Place(Which, At);
+    Which.Key = Key;
     Which.Words = Words;
     Which.Tip = Tip;
 }

@@ -40,6 +40,7 @@ void PlaceTitle(Label& Which, const std::string& Text, Box At);
 void PlacePanel(Shape& Which, Box At);
 
 // A button with the words that stand for its picture.
-void PlaceButton(Button& Which, const std::string& Words, const std::string& Tip, Box At);
+void PlaceButton(Button& Which, const std::string& Words, const std::string& Tip, Box At,
+                 const std::string& Key = {});
 
 } // namespace orvane

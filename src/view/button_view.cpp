@@ -2,6 +2,8 @@
 
 #include "toolkit/user.h"
 #include "view/act.h"
+#include "view/key_words.h"
+#include "view/keyboard_focus.h"
 #include "view/look.h"
 #include "view/qt_text.h"
 #include "view/tip.h"
@@ -49,10 +51,14 @@ void ButtonView::FollowAll()
 void ButtonView::FollowWords()
 {
     const QString Words = ToQt(TheModel.Words);
-    const QString Tip = ToQt(TheModel.Tip);
+    QString Tip = ToQt(TheModel.Tip);
     setAccessibleName(Words);
     setAccessibleDescription(Tip);
-    SetTip(*this, Tip.isEmpty() ? Words : Tip);
+    if (Tip.isEmpty())
+        Tip = Words;
+    if (!TheModel.Key.empty())
+        Tip += QStringLiteral(" (%1)").arg(KeyWords(TheModel.Key));
+    SetTip(*this, Tip);
     update();
 }
 
@@ -78,13 +84,13 @@ void ButtonView::PaintPicture(QPainter& Painter, const QPixmap& Pixels) const
         Painter.drawPixmap(Place, Tinted);
     } else
         Painter.drawPixmap(Place, Pixels);
-    if (hasFocus())
+    if (ShowsFocus(*this))
         look::PaintFocusRing(Painter, rect(), look::PlateRadius);
 }
 
 void ButtonView::PaintWords(QPainter& Painter) const
 {
-    look::PaintPlate(Painter, rect(), {underMouse(), isDown(), hasFocus()});
+    look::PaintPlate(Painter, rect(), {underMouse(), isDown(), ShowsFocus(*this)});
     QFont Font = font();
     Font.setBold(true);
     Painter.setFont(Font);

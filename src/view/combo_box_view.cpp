@@ -3,6 +3,7 @@
 #include "toolkit/user.h"
 #include "view/act.h"
 #include "view/entry_popup.h"
+#include "view/keyboard_focus.h"
 #include "view/look.h"
 #include "view/qt_text.h"
 #include "view/tip.h"
@@ -41,6 +42,7 @@ ComboBoxView::ComboBoxView(ComboBox& Model, User& TheUser, QWidget* Parent)
     setInsertPolicy(NoInsert);
     setFocusPolicy(Qt::StrongFocus); // not by the wheel
     lineEdit()->setFrame(false);
+    lineEdit()->installEventFilter(this);
     connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& Text) { Typed(Text); });
 }
 
@@ -232,10 +234,12 @@ void ComboBoxView::ShowColours()
 void ComboBoxView::paintEvent(QPaintEvent*)
 {
     QPainter Painter(this);
-    look::PaintField(Painter, rect(),
-                     {palette().color(QPalette::Base), hasFocus(), false, Before.has_value()});
+    look::PaintField(
+        Painter, rect(),
+        {palette().color(QPalette::Base), ShowsFocus(*this), false, Before.has_value()});
     const QRect Arrow(width() - look::ArrowWidth, 0, look::ArrowWidth, height());
-    look::PaintArrow(Painter, Arrow, hasFocus() || underMouse() ? look::Focus : look::MutedInk);
+    look::PaintArrow(Painter, Arrow,
+                     ShowsFocus(*this) || underMouse() ? look::Focus : look::MutedInk);
 }
 
 void ComboBoxView::resizeEvent(QResizeEvent* Event)
@@ -292,6 +296,8 @@ void ComboBoxView::keyPressEvent(QKeyEvent* Event)
     case Qt::Key_Enter:
         if (IsOpen())
             Pick(ThePopup->Highlighted());
+        else
+            Event->ignore(); // the window's default button
         return;
     case Qt::Key_Escape:
         if (IsOpen())
@@ -310,6 +316,22 @@ void ComboBoxView::mousePressEvent(QMouseEvent* Event)
 {
     if (Event->button() == Qt::LeftButton)
         Toggle();
+}
+
+// A click into the text opens the list as one on the arrow does; what is typed then begins afresh.
+bool ComboBoxView::eventFilter(QObject* Target, QEvent* Event)
+{
+    const bool IsLeft = (Event->type() == QEvent::MouseButtonPress ||
+                         Event->type() == QEvent::MouseButtonRelease) &&
+                        static_cast<QMouseEvent*>(Event)->button() == Qt::LeftButton;
+    if (!IsLeft)
+        return QComboBox::eventFilter(Target, Event);
+    if (Event->type() == QEvent::MouseButtonPress) {
+        Toggle();
+        SelectsOnRelease = IsOpen();
+    } else if (SelectsOnRelease && !lineEdit()->hasSelectedText())
+        QMetaObject::invokeMethod(lineEdit(), &QLineEdit::selectAll, Qt::QueuedConnection);
+    return QComboBox::eventFilter(Target, Event);
 }
 
 void ComboBoxView::wheelEvent(QWheelEvent* Event)

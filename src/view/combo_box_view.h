@@ -41,6 +41,7 @@ class ComboBoxView : public QComboBox, public ControlView
     void mousePressEvent(QMouseEvent* Event) override;
     void mouseReleaseEvent(QMouseEvent*) override {}
     void wheelEvent(QWheelEvent* Event) override;
+    bool eventFilter(QObject* Target, QEvent* Event) override;
 
   private:
     bool IsOpen() const;
@@ -61,6 +62,7 @@ class ComboBoxView : public QComboBox, public ControlView
     User& TheUser;
     Offers TheOffers;
     EntryPopup* ThePopup = nullptr;
+    bool SelectsOnRelease = false;
 
     // The text that stood before a half-typed one: what shows is neither a pick's nor the
     // program's.

@@ -2,6 +2,7 @@
 
 #include "toolkit/user.h"
 #include "view/act.h"
+#include "view/keyboard_focus.h"
 #include "view/screen_window.h"
 
 #include <QApplication>
@@ -43,6 +44,8 @@ ScreenWindow& Desktop::Built(Screen& Which)
     std::unique_ptr<ScreenWindow>& Window = Windows[&Which];
     if (Window == nullptr) {
         Window = std::make_unique<ScreenWindow>(Which, TheUser, TheMenus);
+        if (KeysAreUsed)
+            LetFocusShow(*Window);
         Window->OnFocused = [this, Made = Window.get()] { Focused(*Made); };
     }
     return *Window;
@@ -51,8 +54,10 @@ ScreenWindow& Desktop::Built(Screen& Which)
 void Desktop::Shown(Screen& Which)
 {
     ScreenWindow& Window = Built(Which);
-    if (!Window.isVisible())
+    if (!Window.isVisible()) {
         Place(Window);
+        Window.FocusFirstInput();
+    }
     if (Window.isMinimized())
         Window.showNormal();
     else
@@ -106,6 +111,15 @@ void Desktop::Focused(ScreenWindow& Window)
         Act([&] { TheUser.Activate(Window.Model()); });
 }
 
+void Desktop::ShowFocus()
+{
+    KeysAreUsed = true;
+    for (const auto& [Which, Window] : Windows)
+        LetFocusShow(*Window);
+    if (QWidget* Now = QApplication::focusWidget())
+        Now->update();
+}
+
 // A press anywhere in a window makes its screen the active one, before the press does its work.
 bool Desktop::eventFilter(QObject* Target, QEvent* Event)
 {
@@ -114,6 +128,8 @@ bool Desktop::eventFilter(QObject* Target, QEvent* Event)
         if (Window != nullptr && TheForms.Active() != &Window->Model())
             Act([&] { TheUser.Activate(Window->Model()); });
     }
+    if (Event->type() == QEvent::KeyPress && !KeysAreUsed)
+        ShowFocus();
     return QObject::eventFilter(Target, Event);
 }
 

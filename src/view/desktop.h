@@ -35,11 +35,13 @@ class Desktop : public QObject, public FormsObserver
     void Place(ScreenWindow& Window) const;
     bool Awaits() const;
     void Focused(ScreenWindow& Window);
+    void ShowFocus();
 
     Forms& TheForms;
     User& TheUser;
     Menus TheMenus;
     std::map<const Screen*, std::unique_ptr<ScreenWindow>> Windows;
+    bool KeysAreUsed = false; // from then on every window shows where the focus is
     const ScreenWindow* LastShown = nullptr;
 
     // The window that the model has asked the desktop to focus. Until it is, the desktop may pass

@@ -1,5 +1,6 @@
 #include "view/menu_bar_view.h"
 
+#include "view/keyboard_focus.h"
 #include "view/look.h"
 #include "view/qt_text.h"
 #include "view/tip.h"
@@ -60,11 +61,12 @@ void MenuEntryView::paintEvent(QPaintEvent*)
     if (!Pixels.isNull())
         Painter.drawPixmap(
             QPointF(Gap + 2, (height() - Pixels.deviceIndependentSize().height()) / 2), Pixels);
-    Painter.setPen(isDown() || underMouse() || hasFocus() ? Mixed(Words, look::Ink, 0.6) : Words);
+    Painter.setPen(isDown() || underMouse() || ShowsFocus(*this) ? Mixed(Words, look::Ink, 0.6)
+                                                                 : Words);
     const QRect Box = WordsBox();
     Painter.drawText(Box, Qt::AlignLeft | Qt::AlignVCenter,
                      fontMetrics().elidedText(accessibleName(), Qt::ElideRight, Box.width()));
-    if (hasFocus())
+    if (ShowsFocus(*this))
         look::PaintFocusRing(Painter, QRectF(rect()).adjusted(2, 1, -2, -1), look::FieldRadius);
 }
 

@@ -2,6 +2,7 @@
 
 #include "toolkit/user.h"
 #include "view/act.h"
+#include "view/keyboard_focus.h"
 #include "view/look.h"
 #include "view/qt_text.h"
 
@@ -66,7 +67,7 @@ void PictureView::paintEvent(QPaintEvent*)
     }
     if (!IsClickable())
         return;
-    if (hasFocus()) {
+    if (ShowsFocus(*this)) {
         look::PaintFocusRing(Painter, rect(), look::FieldRadius);
     } else if (underMouse() && !Pixels.isNull()) {
         Painter.setRenderHint(QPainter::Antialiasing);

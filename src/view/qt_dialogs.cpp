@@ -52,6 +52,8 @@ void QtDialogs::MsgBox(const std::string& Text)
     Box.setIconPixmap(look::Notice(Box.devicePixelRatioF()));
     Box.layout()->setContentsMargins(Margins);
     Run(Box);
+    if (auto* Window = dynamic_cast<ScreenWindow*>(ActiveWindow()))
+        Window->FocusFirstWrong(); // what has been refused is there to be corrected
 }
 
 std::string QtDialogs::InputBox(const std::string& Prompt, const std::string& Title)

@@ -104,6 +104,15 @@ void ScreenArea::Arrange()
     }
 }
 
+void ScreenArea::FocusFirst(const std::function<bool(const Control&)>& IsAsked)
+{
+    for (const Control* Each : ReadingOrder(TheScreen))
+        if (const auto Known = Views.find(Each); Known != Views.end() && IsAsked(*Each)) {
+            Known->second->Widget().setFocus(Qt::OtherFocusReason);
+            return;
+        }
+}
+
 const QPixmap& ScreenArea::Background()
 {
     return Source.For(size(), devicePixelRatioF(), PictureSource::Fit::Whole);

@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QWidget>
 
+#include <functional>
 #include <unordered_map>
 
 namespace orvane {
@@ -22,6 +23,9 @@ class ScreenArea : public QWidget
 
     QColor PanelGround();
     const QPixmap& Background(); // null without a picture
+
+    // The first one, as the eye goes, that is as asked for.
+    void FocusFirst(const std::function<bool(const Control&)>& IsAsked);
 
     void ControlChanged(Control& Which, PropertyId What);
     void PictureChanged();

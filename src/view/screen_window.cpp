@@ -3,6 +3,7 @@
 #include "toolkit/user.h"
 #include "view/act.h"
 #include "view/control_view.h"
+#include "view/key_words.h"
 #include "view/qt_text.h"
 #include "view/screen_area.h"
 
@@ -67,6 +68,22 @@ void ScreenWindow::ShowSize()
     setFixedSize(Size.width(), Size.height() + Bar);
 }
 
+void ScreenWindow::FocusFirstInput()
+{
+    Area->FocusFirst([](const Control& Each) {
+        const auto* Box = dynamic_cast<const TextBox*>(&Each);
+        return Each.Kind() == ControlKind::ComboBox || (Box != nullptr && !Box->Locked);
+    });
+}
+
+void ScreenWindow::FocusFirstWrong()
+{
+    Area->FocusFirst([](const Control& Each) {
+        const auto* Box = dynamic_cast<const TextBox*>(&Each);
+        return Box != nullptr && Box->Marked && !Box->Locked;
+    });
+}
+
 bool ScreenWindow::event(QEvent* Event)
 {
     if (Event->type() == QEvent::WindowActivate && OnFocused)
@@ -83,10 +100,23 @@ void ScreenWindow::closeEvent(QCloseEvent* Event)
 void ScreenWindow::keyPressEvent(QKeyEvent* Event)
 {
     if (Event->key() != Qt::Key_Escape)
-        QWidget::keyPressEvent(Event);
+        PressButton(*Event);
     else if (TheScreen.LeadsBack() &&
              !Event->isAutoRepeat()) // holding the key down leaves one screen only
         Close();
+}
+
+void ScreenWindow::PressButton(QKeyEvent& Pressed)
+{
+    for (Control* Each : TheScreen.Controls()) {
+        auto* Which = dynamic_cast<Button*>(Each);
+        if (Which == nullptr || !Which->Visible || !IsKey(Pressed, Which->Key))
+            continue;
+        if (!Pressed.isAutoRepeat())
+            Act([&] { TheUser.Click(*Which); });
+        return;
+    }
+    QWidget::keyPressEvent(&Pressed);
 }
 
 void ScreenWindow::Close()

@@ -22,6 +22,9 @@ class ScreenWindow : public QWidget, public ScreenObserver
     Screen& Model() const { return TheScreen; }
     std::function<void()> OnFocused; // the desktop has made it the active window
 
+    void FocusFirstInput();
+    void FocusFirstWrong(); // of the open boxes that are marked, if there is one
+
     void ControlChanged(Control& Which, PropertyId What) override;
     void ScreenChanged(PropertyId What) override;
 
@@ -32,6 +35,7 @@ class ScreenWindow : public QWidget, public ScreenObserver
 
   private:
     void ShowSize();
+    void PressButton(QKeyEvent& Pressed);
     void Close();
 
     Screen& TheScreen;

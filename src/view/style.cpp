@@ -1,5 +1,6 @@
 #include "view/style.h"
 
+#include "view/keyboard_focus.h"
 #include "view/look.h"
 
 #include <QApplication>
@@ -31,7 +32,8 @@ void Style::polish(QPalette& Colours)
 void Style::drawPrimitive(PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter,
                           const QWidget* Widget) const
 {
-    const bool Focused = Option->state.testFlag(State_HasFocus);
+    const bool Focused =
+        Option->state.testFlag(State_HasFocus) && (Widget == nullptr || ShowsFocus(*Widget));
     switch (Element) {
     case PE_PanelButtonCommand:
         look::PaintPlate(*Painter, Option->rect,

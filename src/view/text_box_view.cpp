@@ -3,6 +3,7 @@
 #include "base/montant.h"
 #include "toolkit/user.h"
 #include "view/act.h"
+#include "view/keyboard_focus.h"
 #include "view/look.h"
 #include "view/qt_text.h"
 #include "view/tip.h"
@@ -167,7 +168,8 @@ void TextBoxView::ShowTip()
 void TextBoxView::paintEvent(QPaintEvent* Event)
 {
     QPainter Painter(this);
-    look::PaintField(Painter, rect(), {palette().color(QPalette::Base), hasFocus(), Box.Marked});
+    look::PaintField(Painter, rect(),
+                     {palette().color(QPalette::Base), ShowsFocus(*this), Box.Marked});
     Painter.end();
     QLineEdit::paintEvent(Event);
 }
@@ -177,6 +179,22 @@ void TextBoxView::resizeEvent(QResizeEvent* Event)
     QLineEdit::resizeEvent(Event);
     ShowFont();
     ShowTip();
+}
+
+// A click that goes into a number selects it, so that the next key replaces it.
+void TextBoxView::focusInEvent(QFocusEvent* Event)
+{
+    QLineEdit::focusInEvent(Event);
+    SelectsOnRelease =
+        Event->reason() == Qt::MouseFocusReason && !isReadOnly() && Box.Accepts != NumberKind::None;
+}
+
+void TextBoxView::mouseReleaseEvent(QMouseEvent* Event)
+{
+    QLineEdit::mouseReleaseEvent(Event);
+    if (SelectsOnRelease && !hasSelectedText())
+        selectAll();
+    SelectsOnRelease = false;
 }
 
 void TextBoxView::focusOutEvent(QFocusEvent* Event)

@@ -22,7 +22,9 @@ class TextBoxView : public QLineEdit, public ControlView
   protected:
     void paintEvent(QPaintEvent* Event) override;
     void resizeEvent(QResizeEvent* Event) override;
+    void focusInEvent(QFocusEvent* Event) override;
     void focusOutEvent(QFocusEvent* Event) override;
+    void mouseReleaseEvent(QMouseEvent* Event) override;
 
   private:
     void Typed(const QString& Text);
@@ -36,6 +38,7 @@ class TextBoxView : public QLineEdit, public ControlView
 
     TextBox& Box;
     User& TheUser;
+    bool SelectsOnRelease = false;
 };
 
 } // namespace orvane

@@ -13,6 +13,7 @@ class ComboBoxOnScreen : public Stage
     void SetUp() override
     {
         Deeds["arrow"] = [this](auto&) { Click(View(), {View().width() - 8, 12}); };
+        Deeds["text"] = [this](auto&) { Click(Field()); };
         Deeds["row"] = [this](auto& Row) { ClickRow(List(), Row.toInt()); };
         Deeds["elsewhere"] = [this](auto&) { Click(Window(), {400, 580}); };
         Deeds["wheel"] = [this](auto&) {
@@ -81,6 +82,9 @@ constexpr Row ComboBoxRows[] = {
     {"EnterWithoutHighlight", "ca<Return><Return>", "ca~#-1 () []"},
     {"MousePickKeepsTheKeyboard", "ep<row 1><Down>", "Écharpe#3 (2|3) []"},
     {"ArrowOpens", "<arrow>", "#-1 () [Cape/Épée courte/Grande épée/Écharpe]"},
+    {"AClickIntoTheTextOpensToo", "<text>", "#-1 () [Cape/Épée courte/Grande épée/Écharpe]"},
+    {"WhatIsTypedThenBeginsAfresh", "<choose 1><text>ca", "ca~#1 (1) [Cape]"},
+    {"ASecondClickCloses", "<text><text>", "#-1 () []"},
     {"ArrowCloses", "<arrow><arrow>", "#-1 () []"},
     {"ListOpensAtTheChoice", "<choose 1><F4>",
      "Épée courte#1 (1) [Cape/*Épée courte/Grande épée/Écharpe]"},

@@ -57,7 +57,10 @@ TEST_F(DialogsOverScreen, AMessageBearsTheProgramsTitleOneButtonAndPlainText)
     };
     Say(nullptr); // before there is any window
     Show();
+    Atelier().txt_Nombre.Text = "trois";
     Say(&Window());
+    EXPECT_EQ(Window().focusWidget(), &The<QWidget>("txt_Nombre"))
+        << "what is wrong, to be corrected";
     EXPECT_TRUE(QTest::qWaitForWindowActive(&Window())) << "the keyboard is back in the window";
 }
 

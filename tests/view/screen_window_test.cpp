@@ -1,4 +1,5 @@
 #include "stage.h"
+#include "view/keyboard_focus.h"
 #include "view/side_menu_view.h"
 
 #include <QHelpEvent>
@@ -34,6 +35,10 @@ class WindowOfScreen : public Stage
 constexpr Row WindowRows[] = {
     {"AButtonByTheMouse", "<click cmd_Ajouter>", "Ajouter"},
     {"AButtonByKeys", "<in cmd_Ajouter><Space><Return><Enter>", "Ajouter|Ajouter|Ajouter"},
+    {"AButtonByItsOwnKey", "<in txt_Nombre><Ctrl+Return><in cbo_Objet><Ctrl+Enter>",
+     "Ajouter|Ajouter"},
+    {"NoKeyForAHiddenButton", "<hide cmd_Ajouter><in txt_Nombre><Ctrl+Return>", ""},
+    {"ItOpensAtItsFirstInput", "<where>", "txt_Nombre"},
     {"AnEntryOfTheMenuByTheMouse", "<click Forge>", "Forge"},
     {"TheMenuByKeysThroughAllBars",
      "<in Couture><Up><Return><Down><Space><Down><Down><Enter><Up><where>",
@@ -96,15 +101,28 @@ TEST_F(WindowFollows, WordsForReaders)
     Show();
     Atelier().txt_Nom.Called = "Acheteur";
     const std::tuple<const char*, const char*, const char*> Words[] = {
-        {"txt_Nombre", "Nb d'objets", ""},  {"cbo_Objet", "Objet", ""},
-        {"txt_Nom", "Acheteur", ""},        {"cmd_Ajouter", "Ajouter", "Ajouter au panier"},
-        {"cmd_Retour", "Retour", "Retour"}, {"Ouvrir", "Voir le panier", ""},
+        {"txt_Nombre", "Nb d'objets", ""},
+        {"cbo_Objet", "Objet", ""},
+        {"txt_Nom", "Acheteur", ""},
+        {"cmd_Ajouter", "Ajouter", "Ajouter au panier (Ctrl+Entrée)"},
+        {"cmd_Retour", "Retour", "Retour"},
+        {"Ouvrir", "Voir le panier", ""},
         {"Couture", "Couture", "Coudre"},
     };
     for (const auto& [Name, Told, Tip] : Words) {
         EXPECT_EQ(The<QWidget>(Name).accessibleName(), Told) << Name;
         EXPECT_EQ(The<QWidget>(Name).toolTip(), Tip) << Name;
     }
+}
+
+TEST_F(WindowFollows, NoFocusIsShownBeforeAKeyIsUsed)
+{
+    Show();
+    Play("<click cmd_Ajouter><click txt_Nombre>");
+    EXPECT_FALSE(ShowsFocus(The<QWidget>("txt_Nombre")));
+    Play("<Tab>");
+    EXPECT_TRUE(ShowsFocus(The<QWidget>("txt_Nom")));
+    EXPECT_FALSE(ShowsFocus(The<QWidget>("txt_Nombre")));
 }
 
 TEST_F(WindowFollows, TipsWithoutTakingThemForMarkup)

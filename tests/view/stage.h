@@ -44,7 +44,8 @@ class frm_Atelier : public Screen
         cmd_Ajouter.OnClick = [this] { Log << "Ajouter"; };
         Place(lst_Noms, {490, 100, 120, 100});
         Place(lst_Prix, {620, 100, 120, 100});
-        PlaceButton(cmd_Ajouter, "Ajouter", "Ajouter au panier", {200, 520, 120, 40});
+        PlaceButton(cmd_Ajouter, "Ajouter", "Ajouter au panier", {200, 520, 120, 40},
+                    "Ctrl+Return");
         PlaceButton(cmd_Retour, "Retour", "", {600, 520, 120, 40});
         Place(img_Blason, {490, 300, 100, 100});
     }

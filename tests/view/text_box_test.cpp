@@ -72,6 +72,8 @@ class TextBoxOnScreen : public Stage
 constexpr Row TextRows[] = {
     {"EachKey", "<in txt_Nom>M. d", "M|M.|M. |M. d"},
     {"APointIsACommaInANumber", "<in txt_Nombre>12.5", "1|12|12,|12,5"},
+    {"AClickSelectsANumber", "<in txt_Nombre>1<click txt_Nom><click txt_Nombre>12", "1|12"},
+    {"AndNoName", "<in txt_Nom>a<in txt_Nombre><click txt_Nom>b", "a|ba"},
     {"TheKeypadsPointToo", "<in txt_Nombre>7<Num+.>2", "7|7,|7,2"},
     {"APastedNumber", "<copy  1 234.50 ><in txt_Nombre><Ctrl+V>", "1234,50"},
     {"APasteReplacesTheSelection", "<copy 2.5><in txt_Nombre>1<Ctrl+A><Ctrl+V>", "1|2,5"},

@@ -46,8 +46,8 @@ void frm_Archerie::Définir()
     txt_Icône.Visible = false;
 
     PlaceButton(cmd_AjouterPanier, "Ajouter au panier",
-                "Ajouter le carquois à la commande en cours", {16, 490, 200, 48});
-    PlaceButton(cmd_Retour, "Retour", "Revenir aux artisanats manuels", {524, 490, 140, 48});
+                "Ajouter le carquois à la commande en cours", {16, 490, 200, 48}, "Ctrl+Return");
+    PlaceButton(cmd_Retour, "Retour", "Revenir aux artisanats manuels", {524, 490, 140, 48}, "Esc");
 }
 
 } // namespace orvane

@@ -16,8 +16,8 @@ void PlacerBoutons(Button& AjouterPanier, Button& Retour)
 {
     constexpr int Y = 644;
     PlaceButton(AjouterPanier, "Ajouter au panier", "Ajouter l’objet à la commande en cours",
-                {RightX, Y, 168, 46});
-    PlaceButton(Retour, "Retour", "Revenir à l’accueil", {RightX + 180, Y, 116, 46});
+                {RightX, Y, 168, 46}, "Ctrl+Return");
+    PlaceButton(Retour, "Retour", "Revenir à l’accueil", {RightX + 180, Y, 116, 46}, "Esc");
 }
 
 } // namespace orvane::cadre

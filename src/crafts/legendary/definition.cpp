@@ -37,11 +37,12 @@ void frm_ArmesLégendaires::Définir()
     DéfinirCachés();
     constexpr int ButtonsY = 640;
     PlaceButton(cmd_AjouterPanier, "Ajouter au panier", "Ajouter l’arme à la commande en cours",
-                {LeftX, ButtonsY, 168, 46});
+                {LeftX, ButtonsY, 168, 46}, "Ctrl+Return");
     PlaceButton(cmd_Panier, "Voir le panier", "Ouvrir le panier",
-                {LeftX + 190, ButtonsY + 7, 32, 32});
+                {LeftX + 190, ButtonsY + 7, 32, 32}, "Ctrl+B");
     PlaceLabel(lbl_Panier, "Voir le panier", {LeftX + 230, ButtonsY + 11, 130, High});
-    PlaceButton(cmd_Retour, "Retour", "Revenir aux artisanats manuels", {880, ButtonsY, 116, 46});
+    PlaceButton(cmd_Retour, "Retour", "Revenir aux artisanats manuels", {880, ButtonsY, 116, 46},
+                "Esc");
 }
 
 void frm_ArmesLégendaires::DéfinirChoix()
