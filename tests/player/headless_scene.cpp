@@ -104,7 +104,8 @@ void HeadlessScene::Act(const scenario::Step& Which)
         Start();
     else if (Which.Verb == "activer")
         Running().Door.Activate(Running().Feuilles.Touch(Which.Target));
-    else if (Which.Verb != "photo" && Which.Verb != "ouvrir") // for eyes only
+    else if (Which.Verb != "photo" && Which.Verb != "ouvrir" &&
+             Which.Verb != "prendre") // for eyes only
         ProgramScene::Act(Which);
 }
 

@@ -8,7 +8,7 @@ namespace {
 
 const std::set<std::string> Verbs{// what a person does
                                   "clic", "menu", "choisir", "taper", "fermer", "activer", "ouvrir",
-                                  "parcourir", "photo", "démarrer", "relancer",
+                                  "parcourir", "photo", "prendre", "démarrer", "relancer",
                                   // a tool for developers, which no rule shows
                                   "montrer",
                                   // what happens to the folder meanwhile

@@ -95,9 +95,8 @@ void Boxes::Give(QDialog& Box, const scenario::AwaitedBox& Wanted) const
         throw Because(QStringLiteral("the box has no field to type in: %1").arg(WordsOf(Box)));
     if (!Wanted.Photo.empty())
         TheCamera.Photograph(QString::fromStdString(Wanted.Photo));
-    Hands::Click(*Box.findChild<QDialogButtonBox*>()->button(
-        Wanted.Kind != "boîte" && Answer.isEmpty() ? QDialogButtonBox::Cancel
-                                                   : QDialogButtonBox::Ok));
+    const bool Cancels = Wanted.Kind != "boîte" && Answer.isEmpty();
+    QTest::keyClick(&Box, Cancels ? Qt::Key_Escape : Qt::Key_Return);
 }
 
 } // namespace orvane::tour

@@ -61,7 +61,8 @@ Tour::Tour(WindowScene& Scene)
     : Scene(Scene),
       Look(StopsOf("apparence.txt")),
       Stops(StopsOf("visite.txt")),
-      Boxes(StopsOf("boîtes.txt"))
+      Boxes(StopsOf("boîtes.txt")),
+      Keys(StopsOf("clavier.txt"))
 {
 }
 
@@ -106,7 +107,8 @@ void Tour::Visit(const QString& Skin, const QString& Resolution)
             ChangeLook(Skin, Each);
         PlayAll(Scene, Stops);
         if (!SeenOnce)
-            PlayAll(Scene, Boxes);
+            for (const scenario::Script* Each : {&Boxes, &Keys})
+                PlayAll(Scene, *Each);
     } catch (const scenario::CannotGoOn& Given) {
         throw Because(QStringLiteral("%1, %2, after picture %3: %4")
                           .arg(Skin, Resolution, Scene.Photographer().Last(),

@@ -23,7 +23,7 @@ class Tour
     void ChangeLook(const QString& Skin, const QString& Resolution);
 
     WindowScene& Scene;
-    scenario::Script Look, Stops, Boxes;
+    scenario::Script Look, Stops, Boxes, Keys;
     QStringList AllSkins;
     QStringList AllResolutions;
     bool SeenOnce = false;

@@ -33,12 +33,15 @@ QString WindowScene::TurnTo(const std::string& Control)
 
 void WindowScene::Click(const std::string& Control)
 {
-    TheHands.Click(TurnTo(Control));
+    const QString Name = TurnTo(Control);
+    KeysAlone ? TheKeyboard.Click(Name) : TheHands.Click(Name);
 }
 
 void WindowScene::ClickItem(const std::string& Entry)
 {
-    TheHands.ClickItem(TurnTo("Bar_Menus"), QString::fromStdString(Entry));
+    const QString Name = TurnTo("Bar_Menus");
+    const QString Key = QString::fromStdString(Entry);
+    KeysAlone ? TheKeyboard.ClickItem(Name, Key) : TheHands.ClickItem(Name, Key);
 }
 
 std::vector<std::string> WindowScene::Entries(const std::string& List)
@@ -51,12 +54,16 @@ std::vector<std::string> WindowScene::Entries(const std::string& List)
 
 void WindowScene::Pick(const std::string& List, std::size_t Row)
 {
-    TheHands.Pick(TurnTo(List), static_cast<int>(Row));
+    const QString Name = TurnTo(List);
+    const int At = static_cast<int>(Row);
+    KeysAlone ? TheKeyboard.Pick(Name, At) : TheHands.Pick(Name, At);
 }
 
 void WindowScene::Type(const std::string& Box, const std::string& Text)
 {
-    TheHands.Type(TurnTo(Box), QString::fromStdString(Text));
+    const QString Name = TurnTo(Box);
+    const QString Given = QString::fromStdString(Text);
+    KeysAlone ? TheKeyboard.Type(Name, Given) : TheHands.Type(Name, Given);
 }
 
 void WindowScene::CloseByFrame()
@@ -84,6 +91,8 @@ void WindowScene::Act(const scenario::Step& Which)
         Running();
     else if (Which.Verb == "activer")
         Bring(Running().Feuilles.Touch(Which.Target));
+    else if (Which.Verb == "prendre")
+        KeysAlone = Which.Target == "clavier";
     else if (Which.Verb == "ouvrir")
         TheHands.Open(TurnTo(Which.Target));
     else if (Which.Verb == "photo") {

@@ -4,6 +4,7 @@
 #include "tour/boxes.h"
 #include "tour/camera.h"
 #include "tour/hands.h"
+#include "tour/keyboard.h"
 
 namespace orvane::tour {
 
@@ -53,6 +54,8 @@ class WindowScene : public scenario::ProgramScene
     Eyes TheEyes;
     Camera TheCamera;
     Hands TheHands{TheEyes};
+    Keyboard TheKeyboard{TheEyes};
+    bool KeysAlone = false; // the mouse is left alone
     Boxes TheBoxes{TheCamera};
 };
 
