@@ -64,7 +64,8 @@ void Walk(const QString& Program, const QDir& Pictures, const QStringList& Filte
     const FolderCopy Folder(Program.toStdString());
     Evening Whole(Folder.Path(), Pictures);
     Tour(Whole.Scene).Walk(Filter);
-    std::printf("%d pictures\n", Whole.Scene.Photographer().Count());
+    std::printf("%d pictures, %d focus rings seen\n", Whole.Scene.Photographer().Count(),
+                Whole.Scene.RingsSeen());
 }
 
 // Each in a run of its own, on the tables of a model folder. Whether all showed what they must.

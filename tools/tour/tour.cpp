@@ -77,8 +77,10 @@ void Tour::Walk(const QStringList& Filter)
                           .arg(Unknown.join(QStringLiteral(", ")),
                                (AllSkins + AllResolutions).join(QStringLiteral(", "))));
     for (const QString& Skin : Skins)
-        for (const QString& Resolution : Resolutions)
+        for (const QString& Resolution : Resolutions) {
+            Scene.LookAtRings(Resolution == Resolutions.front()); // the same at every size
             Visit(Skin, Resolution);
+        }
     Scene.Click("cmd_Quitter");
     if (Scene.Ends() == 0)
         throw scenario::CannotGoOn("the program doesn't quit");

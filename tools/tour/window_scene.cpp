@@ -1,6 +1,7 @@
 #include "tour/window_scene.h"
 
 #include "tour/names.h"
+#include "tour/rings.h"
 
 #include <QCoreApplication>
 #include <QWidget>
@@ -99,6 +100,8 @@ void WindowScene::Act(const scenario::Step& Which)
         Bring(ActiveScreen());
         TheHands.PutMouseAside();
         TheCamera.Photograph(QString::fromStdString(Which.Target));
+        if (WithRings)
+            Rings += CheckRings(TheEyes.Window());
     } else
         ProgramScene::Act(Which);
 }

@@ -24,6 +24,10 @@ class WindowScene : public scenario::ProgramScene
     void StartBy(std::function<Application&()> Start) { Starter = std::move(Start); }
 
     Camera& Photographer() { return TheCamera; }
+
+    // Whether each photo comes with a look at the focus rings; and how many were seen.
+    void LookAtRings(bool Wanted) { WithRings = Wanted; }
+    int RingsSeen() const { return Rings; }
     int Ends() const { return Quits; }
 
     // Something that went wrong without stopping anything; the deed in hand fails by it.
@@ -55,6 +59,8 @@ class WindowScene : public scenario::ProgramScene
     Camera TheCamera;
     Hands TheHands{TheEyes};
     Keyboard TheKeyboard{TheEyes};
+    bool WithRings = false;
+    int Rings = 0;
     bool KeysAlone = false; // the mouse is left alone
     Boxes TheBoxes{TheCamera};
 };
