@@ -1,7 +1,9 @@
 #include "view/label_view.h"
 
+#include "view/contrast.h"
 #include "view/look.h"
 #include "view/qt_text.h"
+#include "view/screen_area.h"
 #include "view/tip.h"
 
 #include <QPainter>
@@ -84,7 +86,8 @@ void LabelView::resizeEvent(QResizeEvent* Event)
 void LabelView::paintEvent(QPaintEvent*)
 {
     QPainter Painter(this);
-    Painter.setPen(look::InkOf(TheLabel.ForeColor));
+    const auto Grounds = static_cast<ScreenArea*>(parentWidget())->GroundsUnder(geometry());
+    Painter.setPen(Readable(look::InkOf(TheLabel.ForeColor), Grounds));
     int Flags = static_cast<int>(ToQt(TheLabel.Align));
     QString Caption = text();
     if (Wraps()) {

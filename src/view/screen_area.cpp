@@ -10,11 +10,26 @@
 #include <QEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace orvane {
 
 namespace {
 
 const auto ArrangeEvent = static_cast<QEvent::Type>(QEvent::User + 1);
+
+QImage Shrunk(const QPixmap& Picture, QSize Size)
+{
+    return Picture.scaled(Size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).toImage();
+}
+
+QColor Over(const QColor& Ground, const QColor& Veil)
+{
+    const float Share = Veil.alphaF();
+    const auto Part = [&](float Below, float Above) { return Below + (Above - Below) * Share; };
+    return QColor::fromRgbF(Part(Ground.redF(), Veil.redF()), Part(Ground.greenF(), Veil.greenF()),
+                            Part(Ground.blueF(), Veil.blueF()));
+}
 
 bool IsPanel(const Control& Which)
 {
@@ -126,6 +141,32 @@ QColor ScreenArea::PanelGround()
         ThePanelGround = Picture.isNull() ? look::Panel : look::Veil(Picture);
     }
     return ThePanelGround;
+}
+
+std::vector<QColor> ScreenArea::GroundsUnder(const QRect& Place)
+{
+    constexpr int Coarseness = 8; // pixels between two samples
+    const QPixmap& Picture = Background();
+    if (SmallOf != Picture.cacheKey()) {
+        SmallOf = Picture.cacheKey();
+        Small = Picture.isNull() ? QImage() : Shrunk(Picture, size() / Coarseness);
+    }
+    const QColor Veil = PanelGround();
+    const auto Veils = std::ranges::count_if(TheScreen.Controls(), [&](const Control* Each) {
+        return Each->Kind() == ControlKind::Shape && Each->Visible &&
+               PixelBox(*Each).contains(Place.center());
+    });
+    std::vector<QColor> Result;
+    for (int Y = Place.top(); Y <= Place.bottom(); Y += Coarseness)
+        for (int X = Place.left(); X <= Place.right(); X += Coarseness) {
+            QColor There = Small.valid(X / Coarseness, Y / Coarseness)
+                               ? Small.pixelColor(X / Coarseness, Y / Coarseness)
+                               : look::Ground;
+            for (auto i = Veils; i > 0; --i)
+                There = Over(There, Veil);
+            Result.push_back(There);
+        }
+    return Result;
 }
 
 bool ScreenArea::event(QEvent* Event)

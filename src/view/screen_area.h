@@ -4,10 +4,12 @@
 #include "view/picture_source.h"
 
 #include <QColor>
+#include <QImage>
 #include <QWidget>
 
 #include <functional>
 #include <unordered_map>
+#include <vector>
 
 namespace orvane {
 
@@ -23,6 +25,9 @@ class ScreenArea : public QWidget
 
     QColor PanelGround();
     const QPixmap& Background(); // null without a picture
+
+    // What lies behind a place, as a few colours out of it: the background, panels on it counted.
+    std::vector<QColor> GroundsUnder(const QRect& Place);
 
     // The first one, as the eye goes, that is as asked for.
     void FocusFirst(const std::function<bool(const Control&)>& IsAsked);
@@ -44,6 +49,8 @@ class ScreenArea : public QWidget
     PictureSource Source;
     QColor ThePanelGround;
     qint64 PanelGroundOf = -1; // the background that it was found for
+    QImage Small;              // the background for GroundsUnder, made when it is first asked for
+    qint64 SmallOf = -1;
     bool ArrangementIsOld = false;
     std::unordered_map<const Control*, ControlView*> Views; // of what has been visible
 };

@@ -1,6 +1,7 @@
 #include "tour/rings.h"
 
 #include "tour/names.h"
+#include "view/contrast.h"
 #include "view/keyboard_focus.h"
 
 #include <QApplication>
@@ -8,31 +9,15 @@
 #include <QPixmap>
 #include <QPointer>
 
-#include <algorithm>
 #include <cmath>
 
 namespace orvane::tour {
 
 namespace {
 
-constexpr double LeastContrast = 3;
+constexpr double LeastRing = 3;
 constexpr double LeastShare = 0.8; // of the outline
 constexpr int Edge = 5;            // pixels in from the outline in which a ring lies
-
-double Luminance(const QColor& Colour)
-{
-    const auto Linear = [](double Part) {
-        return Part <= 0.03928 ? Part / 12.92 : std::pow((Part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * Linear(Colour.redF()) + 0.7152 * Linear(Colour.greenF()) +
-           0.0722 * Linear(Colour.blueF());
-}
-
-double Contrast(const QColor& One, const QColor& Other)
-{
-    const auto [Dark, Light] = std::minmax({Luminance(One), Luminance(Other)});
-    return (Light + 0.05) / (Dark + 0.05);
-}
 
 QImage Grabbed(const QWidget& Target)
 {
@@ -54,7 +39,7 @@ double ShareSeen(const QImage& Before, const QImage& After)
     for (int Y = 0; Y < Size.height(); ++Y)
         for (int X = 0; X < Size.width(); ++X)
             if (IsOnEdge(X, Y, Size) && Before.pixel(X, Y) != After.pixel(X, Y) &&
-                Contrast(Before.pixelColor(X, Y), After.pixelColor(X, Y)) >= LeastContrast)
+                Contrast(Before.pixelColor(X, Y), After.pixelColor(X, Y)) >= LeastRing)
                 ++Seen;
     return Seen / (2.0 * (Size.width() + Size.height()));
 }
