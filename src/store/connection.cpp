@@ -57,6 +57,17 @@ std::string DistinctKey(const std::vector<Value>& Row)
     return Key;
 }
 
+// Ends a statement's use by any way: one that waits for a lock would hold its others.
+struct InUse
+{
+    explicit InUse(SQLite::Statement& Which) : Which(Which) {}
+    ~InUse() { Which.tryReset(); }
+    InUse(const InUse&) = delete;
+    InUse& operator=(const InUse&) = delete;
+
+    SQLite::Statement& Which;
+};
+
 struct Prepared
 {
     Prepared(SQLite::Database& Base, Translation Given)
@@ -88,6 +99,19 @@ struct Connection::Inside
         RegisterFunctions(Base);
         Base.exec(
             "PRAGMA schema_version"); // reads the header: a file that is no database fails here
+    }
+
+    // Runs Action, with its failures about the file that they concern.
+    template <class Function>
+    auto Do(Function Action)
+    {
+        try {
+            return Action();
+        } catch (const SQLite::Exception& Error) {
+            throw Schema.FailureOf(Error);
+        } catch (const Failure& Given) {
+            throw Given.In(DisplayName(File));
+        }
     }
 
     // Ends reading, if it goes on: nothing may be attached or written inside it.
@@ -146,15 +170,7 @@ struct Connection::Inside
 Connection::Connection(std::filesystem::path File, std::function<void()> BeforeWrite,
                        std::shared_ptr<RunLinks> Links)
 {
-    std::error_code Error;
-    const bool Exists = std::filesystem::exists(File, Error);
-    if (Error == std::errc::permission_denied) // a folder on the way: nobody knows
-        throw Failure(FailureKind::DatabaseUnreadable, DisplayName(File), File.string());
-    if (!Exists)
-        throw Failure(FailureKind::DatabaseMissing, DisplayName(File), File.string());
-    if (!std::filesystem::is_regular_file(File, Error) ||
-        std::filesystem::file_size(File, Error) == 0)
-        throw Failure(FailureKind::NotADatabase, DisplayName(File), File.string());
+    RequireFile(File);
     const auto Path = File;
     Translated(Path, [&] {
         In = std::make_unique<Inside>(std::move(File), std::move(BeforeWrite), std::move(Links));
@@ -170,7 +186,7 @@ const std::filesystem::path& Connection::File() const
 
 RowSet Connection::Select(std::string_view Sql)
 {
-    return Translated(In->File, [&] {
+    return In->Do([&] {
         const std::vector<Token> Query = Tokenize(Sql);
         std::vector<Value> Parameters;
         In->Work.Renew();
@@ -182,7 +198,7 @@ RowSet Connection::Select(std::string_view Sql)
         }
         RowSet Result{Ready.Columns, {}, Ready.Query.Table, {}, {}, LookedFor(Query)};
         SQLite::Statement& Statement = Ready.Statement;
-        Statement.tryReset(); // a former failure isn't this query's
+        const InUse Use(Statement);
         for (std::size_t i = 0; i < Parameters.size(); ++i)
             BindValue(Statement, static_cast<int>(i) + 1, Parameters[i]);
         std::unordered_set<std::string> Seen;
@@ -192,10 +208,8 @@ RowSet Connection::Select(std::string_view Sql)
             Row.reserve(static_cast<std::size_t>(Count));
             for (int i = 0; i < Count; ++i)
                 Row.push_back(ValueAt(Statement, i));
-            if (!In->Work.Spend(static_cast<std::int64_t>(BytesOf(Row)))) {
-                Statement.tryReset();
+            if (!In->Work.Spend(static_cast<std::int64_t>(BytesOf(Row))))
                 throw Failure(FailureKind::Store, DisplayName(In->File), "too many rows");
-            }
             const bool LikeTheLast = !Result.Rows.empty() && Row == Result.Rows.back();
             if (Ready.Query.Distinct && (LikeTheLast || !Seen.insert(DistinctKey(Row)).second))
                 continue;
@@ -203,7 +217,6 @@ RowSet Connection::Select(std::string_view Sql)
             if (!Result.Table.empty())
                 Result.Keys.push_back(Statement.getColumn(Count).getInt64());
         }
-        Statement.tryReset();
         Result.Source = Ready.Query.Source;
         return Result;
     });
@@ -211,7 +224,7 @@ RowSet Connection::Select(std::string_view Sql)
 
 void Connection::Delete(std::string_view Sql)
 {
-    Translated(In->File, [&] {
+    In->Do([&] {
         const std::vector<Token> Query = Tokenize(Sql);
         std::vector<Value> Parameters;
         ShapeOf(Query, Parameters);
@@ -223,7 +236,7 @@ void Connection::Delete(std::string_view Sql)
 
 void Connection::Insert(const std::string& Table, const Assignments& Row)
 {
-    Translated(In->File, [&] {
+    In->Do([&] {
         std::string Names;
         std::string Marks;
         std::vector<Value> Values;
@@ -241,7 +254,7 @@ void Connection::Insert(const std::string& Table, const Assignments& Row)
 
 Assignments Connection::Change(const std::string& Table, std::int64_t Key, const Assignments& Row)
 {
-    return Translated(In->File, [&] {
+    return In->Do([&] {
         Assignments Stored = In->Schema.Converted(Table, Row);
         std::string Changes;
         std::vector<Value> Values;
@@ -263,12 +276,12 @@ Assignments Connection::Change(const std::string& Table, std::int64_t Key, const
 
 std::string Connection::LinkConnect(const std::string& Name)
 {
-    return Translated(In->File, [&] { return In->Schema.LinkConnect(Name); });
+    return In->Do([&] { return In->Schema.LinkConnect(Name); });
 }
 
 void Connection::SetLinkConnect(const std::string& Name, const std::string& Connect)
 {
-    Translated(In->File, [&] {
+    In->Do([&] {
         In->Schema.LinkConnect(Name); // fails for an unknown name
         In->Write([&] {
             In->Run("UPDATE LinkedTables SET Connect = ? WHERE fold_case(Nom) = ?",
@@ -286,16 +299,15 @@ void Connection::UseLinkConnect(const std::string& Name, const std::string& Conn
 void Connection::RefreshLink(const std::string& Name)
 {
     const auto File = In->File;
-    Translated(File, [&] {
-        In = std::make_unique<Inside>(File, In->BeforeWrite,
-                                      In->Links); // views and attached files go
-        In->Schema.Find(Name);
+    Translated(File, [&] { // views and attached files go
+        In = std::make_unique<Inside>(File, In->BeforeWrite, In->Links);
     });
+    In->Do([&] { In->Schema.Find(Name); });
 }
 
 void Connection::EndReading()
 {
-    Translated(In->File, [&] { In->EndReading(); });
+    In->Do([&] { In->EndReading(); });
 }
 
 void Connection::Rest()

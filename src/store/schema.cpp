@@ -25,7 +25,7 @@ std::filesystem::path Full(const std::filesystem::path& File)
 
 Schema::Schema(SQLite::Database& Base, const std::filesystem::path& File, const RunLinks& Links)
     : Base(Base),
-      Folder(Full(File).parent_path()),
+      File(Full(File)),
       Links(Links)
 {
 }
@@ -79,6 +79,30 @@ std::vector<std::filesystem::path> Schema::LinkedFiles() const
     return Files;
 }
 
+Failure Schema::FailureOf(const SQLite::Exception& Error)
+{
+    const Failure Given = orvane::FailureOf(Error, File);
+    switch (Given.Kind()) {
+    case FailureKind::DatabaseIncomplete: // a column: its table and its name
+        for (const auto& [Table, Path] : Linked)
+            if (FoldedCase(Given.Subject()).starts_with(Table + "."))
+                return orvane::FailureOf(Error, Path);
+        break;
+    case FailureKind::DatabaseLocked:
+    case FailureKind::DatabaseUnreadable:
+    case FailureKind::NotADatabase:
+        try {
+            CheckLinkedFiles();
+        } catch (const Failure& OfLinked) {
+            return OfLinked;
+        }
+        break;
+    default:
+        break;
+    }
+    return Given;
+}
+
 Source Schema::Load(const std::string& Name)
 {
     const auto Table = FirstRow(TableNamed("main"), Name);
@@ -122,17 +146,16 @@ std::string Schema::MakeView(const std::string& Name)
         Base.exec("CREATE TEMP VIEW IF NOT EXISTS " + QuotedName(Link[0]) + " AS SELECT rowid AS " +
                   QuotedName(PlacePrefix) + ", * FROM " + Linked + "." + QuotedName(Table[0]));
     });
+    Linked[FoldedCase(Name)] = Path;
     return Link[0];
 }
 
 std::string Schema::Attach(const std::filesystem::path& Path)
 {
-    const std::filesystem::path Below = Full(Path).lexically_relative(Folder);
+    const std::filesystem::path Below = Full(Path).lexically_relative(File.parent_path());
     if (Below.empty() || *Below.begin() == "..")
-        throw Failure(FailureKind::Store, DisplayName(Path), "a link out of " + Folder.string());
-    std::error_code Error;
-    if (!std::filesystem::exists(Path, Error)) // attaching would make it
-        throw Failure(FailureKind::DatabaseMissing, DisplayName(Path), Path.string());
+        throw Failure(FailureKind::Store, DisplayName(Path), "a link out of the folder");
+    RequireFile(Path);
     if (const auto Known = Attached.find(Path); Known != Attached.end())
         return Known->second;
     const std::string Alias = "link" + std::to_string(Attached.size());
@@ -140,6 +163,17 @@ std::string Schema::Attach(const std::filesystem::path& Path)
     Statement.bind(1, Path.string());
     Statement.exec();
     return Attached.emplace(Path, Alias).first->second;
+}
+
+void Schema::CheckLinkedFiles()
+{
+    for (const auto& [Path, Alias] : Attached)
+        Translated(Path, [&] {
+            const std::string Result =
+                Base.execAndGet("PRAGMA " + Alias + ".quick_check(1)").getString();
+            if (Result != "ok")
+                throw Failure(FailureKind::DatabaseUnreadable, DisplayName(Path), Result);
+        });
 }
 
 std::vector<std::string> Schema::FirstRow(const std::string& Sql, const std::string& Name)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/failure.h"
 #include "store/link.h"
 #include "store/source.h"
 #include "store/value.h"
@@ -12,7 +13,8 @@
 
 namespace SQLite {
 class Database;
-}
+class Exception;
+} // namespace SQLite
 
 namespace orvane {
 
@@ -39,6 +41,10 @@ class Schema
     // The files that linked tables have been attached from.
     std::vector<std::filesystem::path> LinkedFiles() const;
 
+    // What an error means that came while the file was read or written. SQLite doesn't tell which
+    // file it is about: it may be a linked one.
+    Failure FailureOf(const SQLite::Exception& Error);
+
   private:
     Source Load(const std::string& Name);
 
@@ -49,6 +55,9 @@ class Schema
     // (FailureKind::Store) when it lies outside the folder of the file that links it.
     std::string Attach(const std::filesystem::path& Path);
 
+    // Fails when a linked file is locked or damaged, read by itself.
+    void CheckLinkedFiles();
+
     // The first row of a query with a name, folded, as its parameter; of one of the store's own
     // tables, which a file may lack.
     std::vector<std::string> FirstRow(const std::string& Sql, const std::string& Name);
@@ -56,10 +65,11 @@ class Schema
                                    const std::string& Name);
 
     SQLite::Database& Base;
-    std::filesystem::path Folder;
+    std::filesystem::path File;
     const RunLinks& Links;
     std::map<std::string, Source> Sources;                 // by folded name
     std::map<std::filesystem::path, std::string> Attached; // file and its name in SQL
+    std::map<std::string, std::filesystem::path> Linked;   // folded table and its file
 };
 
 } // namespace orvane

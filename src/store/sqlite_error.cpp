@@ -33,6 +33,19 @@ std::string DisplayName(const std::filesystem::path& File)
     return {Name.begin(), Name.end()};
 }
 
+void RequireFile(const std::filesystem::path& File)
+{
+    std::error_code Error;
+    const bool Exists = std::filesystem::exists(File, Error);
+    if (Error == std::errc::permission_denied) // a folder on the way: nobody knows
+        throw Failure(FailureKind::DatabaseUnreadable, DisplayName(File), File.string());
+    if (!Exists)
+        throw Failure(FailureKind::DatabaseMissing, DisplayName(File), File.string());
+    if (!std::filesystem::is_regular_file(File, Error) ||
+        std::filesystem::file_size(File, Error) == 0)
+        throw Failure(FailureKind::NotADatabase, DisplayName(File), File.string());
+}
+
 Failure FailureOf(const SQLite::Exception& Error, const std::filesystem::path& File)
 {
     for (const auto& [Code, Kind] : Kinds)

@@ -123,10 +123,47 @@ TEST_F(SourceTest, AnUnknownLinkOrOneToADamagedFileFails)
     EXPECT_FAILS(DatabaseIncomplete, Base.RefreshLink("Absent"));
     Folder.Write("commun.mdb", std::string(4096, 'x'));
     EXPECT_FAILS(NotADatabase, Base.RefreshLink("Liée"));
-    Folder.Write("commun.mdb", "");
+    for (const char* Content : {"", "du texte"}) {
+        Folder.Write("commun.mdb", Content);
+        EXPECT_FAILS(NotADatabase, Base.RefreshLink("Liée"));
+    }
+    std::filesystem::remove(Folder / "commun.mdb");
+    std::filesystem::create_directory(Folder / "commun.mdb");
+    EXPECT_FAILS(NotADatabase, Base.RefreshLink("Liée"));
+    std::filesystem::remove(Folder / "commun.mdb");
+    Raw("commun.mdb", "CREATE TABLE Autre (Num INTEGER)");
     EXPECT_EQ(SentenceOf([&] { Base.RefreshLink("Liée"); }),
               "La base de données est incomplète\u00A0: il manque «\u00A0Liste\u00A0» dans "
               "«\u00A0commun.mdb\u00A0».");
+}
+
+TEST_F(SourceTest, TheFileThatIsWrongIsNamedWhenItIsTheLinkedOne)
+{
+    const auto Told = [&] { return SentenceOf([&] { Linked(); }); };
+    const auto About = [](FailureKind Kind, const char* File) {
+        return Failure(Kind, File).Sentence();
+    };
+    Raw("commun.mdb", "WITH RECURSIVE n(i) AS (SELECT 3 UNION ALL SELECT i + 1 FROM n LIMIT 2000) "
+                      "INSERT INTO Liste SELECT i, 'ligne ' || i FROM n");
+    EXPECT_EQ(Told(), "");
+    for (const char* Name : {"commun.mdb", "a.mdb"}) {
+        SQLite::Database Other((Folder / Name).string(), SQLite::OPEN_READWRITE);
+        Other.exec("BEGIN EXCLUSIVE");
+        EXPECT_EQ(Told(), About(FailureKind::DatabaseLocked, Name));
+    }
+    EXPECT_EQ(Told(), "") << "free again";
+    for (const char* Name : {"commun.mdb", "a.mdb"}) { // but for the first page
+        const std::filesystem::path Whole = Folder / "entier.mdb";
+        std::filesystem::copy_file(Folder / Name, Whole);
+        const auto Size = std::filesystem::file_size(Whole);
+        std::filesystem::resize_file(Folder / Name, 4096);
+        std::filesystem::resize_file(Folder / Name, Size);
+        EXPECT_EQ(Told(), About(FailureKind::DatabaseUnreadable, Name));
+        std::filesystem::rename(Whole, Folder / Name);
+    }
+    Raw("commun.mdb", "ALTER TABLE Liste RENAME COLUMN Nom TO Mot");
+    EXPECT_EQ(Told(),
+              Failure(FailureKind::DatabaseIncomplete, "Liée.Nom", {}, "commun.mdb").Sentence());
 }
 
 TEST_F(SourceTest, ALinkLeadsNowhereOutsideTheFolder)
