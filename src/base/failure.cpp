@@ -26,6 +26,8 @@ constexpr std::array Phrases{
     Phrase{FailureKind::DatabaseUnreadable, "La base de données « ",
            " » ne peut pas être lue.\nLe fichier est endommagé ou inaccessible."},
     Phrase{FailureKind::NotADatabase, "Le fichier « ", " » n’est pas une base de données."},
+    Phrase{FailureKind::OutsideFolder, "La base de données « ",
+           " » est hors du dossier du programme : elle n’est pas ouverte."},
     Phrase{FailureKind::DatabaseReadOnly, "La base de données « ",
            " » est en lecture seule : rien n’a été enregistré."},
     Phrase{FailureKind::DatabaseNewer, "La base de données « ",

@@ -9,6 +9,7 @@ enum class FailureKind {
     DatabaseMissing,
     DatabaseUnreadable,
     NotADatabase,
+    OutsideFolder, // a database that a link reaches for
     DatabaseReadOnly,
     DatabaseNewer, // made by a later version of the program: read, never written to
     DatabaseLocked,

@@ -1,5 +1,6 @@
 #include "store/schema.h"
 
+#include "base/below.h"
 #include "base/text.h"
 #include "store/sqlite_error.h"
 #include "store/translation.h"
@@ -137,7 +138,7 @@ std::string Schema::MakeView(const std::string& Name)
         throw Failure(FailureKind::DatabaseIncomplete, Name);
     const std::string Connect = LinkConnect(Name);
     const std::filesystem::path Path =
-        Connect.starts_with(ConnectPrefix) ? Connect.substr(ConnectPrefix.size()) : Connect;
+        Full(Connect.starts_with(ConnectPrefix) ? Connect.substr(ConnectPrefix.size()) : Connect);
     Translated(Path, [&] {
         const std::string Linked = Attach(Path);
         const auto Table = FirstRow(TableNamed(Linked), Link[1]);
@@ -152,9 +153,8 @@ std::string Schema::MakeView(const std::string& Name)
 
 std::string Schema::Attach(const std::filesystem::path& Path)
 {
-    const std::filesystem::path Below = Full(Path).lexically_relative(File.parent_path());
-    if (Below.empty() || *Below.begin() == "..")
-        throw Failure(FailureKind::Store, DisplayName(Path), "a link out of the folder");
+    if (!StaysBelow(File.parent_path(), Path))
+        throw Failure(FailureKind::OutsideFolder, DisplayName(Path), Path.string());
     RequireFile(Path);
     if (const auto Known = Attached.find(Path); Known != Attached.end())
         return Known->second;

@@ -52,7 +52,7 @@ class Schema
     std::string MakeView(const std::string& Name);
 
     // The name in SQL of a linked file, which is attached when it isn't yet. Failure
-    // (FailureKind::Store) when it lies outside the folder of the file that links it.
+    // (FailureKind::OutsideFolder) unless it stays below the folder of the file that links it.
     std::string Attach(const std::filesystem::path& Path);
 
     // Fails when a linked file is locked or damaged, read by itself.

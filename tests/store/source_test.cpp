@@ -171,12 +171,15 @@ TEST_F(SourceTest, ALinkLeadsNowhereOutsideTheFolder)
     const TempFolder Elsewhere;
     std::filesystem::copy_file(Folder / "autre.mdb", Elsewhere / "autre.mdb");
     const Database Base = TheStore.Open(File);
+    std::filesystem::create_directory(Folder / "Skins");
+    std::filesystem::create_symlink(Elsewhere.Path(), Folder / "Skins/dehors");
     for (const std::filesystem::path& Path :
-         {Elsewhere / "autre.mdb", Folder / ".." / Elsewhere.Path().filename() / "autre.mdb",
+         {Folder / "Skins/dehors/autre.mdb", Elsewhere / "autre.mdb",
+          Folder / ".." / Elsewhere.Path().filename() / "autre.mdb",
           std::filesystem::path("/absente/autre.mdb")}) {
         Base.SetLinkConnect("Liée", ";DATABASE=" + Path.string());
         EXPECT_EQ(SentenceOf([&] { Base.RefreshLink("Liée"); }),
-                  Failure(FailureKind::Store, "autre.mdb").Sentence())
+                  Failure(FailureKind::OutsideFolder, "autre.mdb").Sentence())
             << Path;
     }
 }
