@@ -3,12 +3,33 @@
 #include "base/typography.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace orvane {
 
+namespace {
+
+// Nothing for no files; many are counted rather than named.
+std::string AboutPictures(const std::vector<std::string>& Files)
+{
+    constexpr std::size_t Named = 12;
+    std::string Lines;
+    for (std::size_t i = 0; i < std::min(Files.size(), Named); ++i)
+        Lines += "\n" + Files[i];
+    if (Files.size() > Named)
+        Lines += "\n… et " + std::to_string(Files.size() - Named) + " de plus";
+    return Lines.empty() ? Lines
+                         : Typeset("Des images sont introuvables ou illisibles ; le programme "
+                                   "fonctionne sans elles :") +
+                               Lines;
+}
+
+} // namespace
+
 Application::Application(std::filesystem::path Folder, Dialogs& TheDialogs)
-    : TheDialogs(TheDialogs),
-      Door(Feuilles, TheDialogs, [this] { EmptySlots(); }),
+    : Images(Folder),
+      TheDialogs(TheDialogs),
+      Door(Feuilles, TheDialogs, [this] { EndEvent(); }),
       Folder(std::move(Folder))
 {
 }
@@ -30,13 +51,8 @@ void Application::Notice(const std::string& Text, const std::string& Matter)
 
 void Application::TellNotices()
 {
-    std::string Pictures;
-    for (const std::string& File : Images.TakeMissing())
-        Pictures += "\n" + std::filesystem::path(File).lexically_relative(Folder).string();
-    if (!Pictures.empty())
-        Notice(Typeset("Des images sont introuvables ou illisibles ; le programme fonctionne sans "
-                       "elles :") +
-               Pictures);
+    if (const std::string Pictures = AboutPictures(Images.TakeMissing()); !Pictures.empty())
+        Notice(Pictures);
     std::string Text;
     for (const Told& Each : Notices)
         Text += (Text.empty() ? "" : "\n\n") + Each.Text;
@@ -49,6 +65,14 @@ void Application::EmptySlots()
 {
     Globals.BaseDonnées.Empty();
     Globals.BaseDonnées2.Empty();
+}
+
+void Application::EndEvent()
+{
+    EmptySlots();
+    const std::string Pictures = AboutPictures(Images.TakeMissing());
+    if (!Pictures.empty() && !std::exchange(PicturesTold, true))
+        MsgBox(Pictures + "\n\n" + "Les suivantes ne seront pas annoncées.");
 }
 
 } // namespace orvane

@@ -31,10 +31,9 @@ class Application
     // Of several about one matter the last counts.
     void Notice(const std::string& Text, const std::string& Matter = {});
 
-    // Tells the notices and the pictures that were missing, in one box if there is anything.
+    // Tells the notices and the pictures that couldn't be had, in one box if there is anything.
     void TellNotices();
 
-    // Empties the shared slots: runs at the end of each event.
     void EmptySlots();
 
     Store Bases;
@@ -46,7 +45,13 @@ class Application
     std::function<void()> OnQuit = [] {}; // ends the process
 
   private:
+    // What runs at the end of each event: empties the shared slots, and tells of pictures that only
+    // the event asked for; once in a run, for an incomplete folder would stop a person at each
+    // pick.
+    void EndEvent();
+
     std::filesystem::path Folder;
+    bool PicturesTold = false;
     struct Told
     {
         std::string Matter;

@@ -18,9 +18,10 @@ bool BeginsWith(const fs::path& File, const fs::path& Folder)
 bool StaysBelow(const fs::path& Folder, const fs::path& File)
 {
     auto [Part, Rest] = std::ranges::mismatch(File, Folder);
-    if (Rest != Folder.end() || Part == File.end() ||
-        std::ranges::find(Part, File.end(), "..") != File.end())
+    if (Rest != Folder.end() || std::ranges::find(Part, File.end(), "..") != File.end())
         return false;
+    if (Part == File.end())
+        return true;
     std::error_code Error;
     const fs::path Entry = Folder / *Part;
     fs::path Walked = Entry;

@@ -49,7 +49,6 @@ constexpr std::array Phrases{
     Phrase{FailureKind::OutOfRange, "« ", " » n’est pas un nombre de -32768 à 32767."},
     Phrase{FailureKind::WrongText, "« ", " » n’est pas un nombre."},
     Phrase{FailureKind::Overflow, "Un montant dépasse ce qui peut être calculé (« ", " »)."},
-    Phrase{FailureKind::NoPicture, "L’image « ", " » est introuvable ou illisible."},
     Phrase{FailureKind::Program, "Erreur interne du programme : « ", " »."},
 };
 

@@ -25,7 +25,6 @@ enum class FailureKind {
     OutOfRange,    // a number that is too great for a level or a count
     WrongText,     // a box that holds no number where a calculation needs one
     Overflow,
-    NoPicture,
     Program, // the program's own fault, such as an unknown control
     Told,    // none of the above: Subject is the whole sentence
 };

@@ -13,9 +13,9 @@ frm_Configuration::frm_Configuration(Application& App)
     : Feuille(App, ScreenName, "Configuration - Définition des marges et du niveau d'artisanat")
 {
     const std::string Listes = App.Chemin("/Interface/Listes");
-    imglst_CouleurCraft.Fill(Listes, "CouleurCraft", 7, 24);
-    imglst_CraftPetit.Fill(Listes, "CraftPetit", 11, 16);
-    imglst_CraftGrand.Fill(Listes, "CraftGrand", 11, 32);
+    imglst_CouleurCraft.Fill(App.Images, Listes, "CouleurCraft", 7, 24);
+    imglst_CraftPetit.Fill(App.Images, Listes, "CraftPetit", 11, 16);
+    imglst_CraftGrand.Fill(App.Images, Listes, "CraftGrand", 11, 32);
     Définir();
     pct_Logo.Picture = App.Images.LoadOr(App.Chemin("/Interface/Logo.png"));
     cmd_Validation.OnClick = [this] { cmd_Validation_Click(); };
@@ -45,7 +45,6 @@ void frm_Configuration::cmd_Validation_Click()
 {
     if (!ToutEstValable())
         return;
-    App.Images.TakeMissing(); // what objects lacked until now is no news of the look
     const Ouverture Base(App, Globals.CheminConfig);
     EnregistrerRéglages();
     EnregistrerChoix("DernièreSkin", cbo_Skin, "txt_Skin");

@@ -1,8 +1,8 @@
 #include "store/connection.h"
 
+#include "base/file_stamp.h"
 #include "base/text.h"
 #include "store/binding.h"
-#include "store/file_stamp.h"
 #include "store/file_version.h"
 #include "store/functions.h"
 #include "store/guard.h"

@@ -82,7 +82,7 @@ std::vector<std::filesystem::path> Schema::LinkedFiles() const
 
 Failure Schema::FailureOf(const SQLite::Exception& Error)
 {
-    const Failure Given = orvane::FailureOf(Error, File);
+    Failure Given = orvane::FailureOf(Error, File);
     switch (Given.Kind()) {
     case FailureKind::DatabaseIncomplete: // a column: its table and its name
         for (const auto& [Table, Path] : Linked)
@@ -167,12 +167,12 @@ std::string Schema::Attach(const std::filesystem::path& Path)
 
 void Schema::CheckLinkedFiles()
 {
-    for (const auto& [Path, Alias] : Attached)
-        Translated(Path, [&] {
+    for (const auto& Each : Attached)
+        Translated(Each.first, [&] {
             const std::string Result =
-                Base.execAndGet("PRAGMA " + Alias + ".quick_check(1)").getString();
+                Base.execAndGet("PRAGMA " + Each.second + ".quick_check(1)").getString();
             if (Result != "ok")
-                throw Failure(FailureKind::DatabaseUnreadable, DisplayName(Path), Result);
+                throw Failure(FailureKind::DatabaseUnreadable, DisplayName(Each.first), Result);
         });
 }
 

@@ -1,11 +1,9 @@
 #include "toolkit/picture.h"
 
+#include "base/below.h"
 #include "base/failure.h"
 #include "base/text.h"
-
-#include <algorithm>
-#include <array>
-#include <fstream>
+#include "toolkit/picture_file.h"
 
 namespace orvane {
 
@@ -33,27 +31,13 @@ fs::path FindIgnoringCase(const fs::path& File)
 
 } // namespace
 
-bool IsPictureFile(const fs::path& File)
-{
-    using namespace std::string_view_literals;
-    std::error_code Error;
-    if (!fs::is_regular_file(File, Error))
-        return false;
-    std::array<char, 4> Start{};
-    std::ifstream(File, std::ios::binary).read(Start.data(), Start.size());
-    return std::ranges::any_of(
-        std::array{"\x89PNG"sv, "GIF8"sv, "\xFF\xD8\xFF"sv, "\0\0\1\0"sv, "BM"sv},
-        [&](std::string_view Known) {
-            return std::string_view(Start.data(), Start.size()).starts_with(Known);
-        });
-}
-
-void ImageList::Fill(const fs::path& Folder, const std::string& Stem, int Count, int Size)
+void ImageList::Fill(PictureFiles& Files, const fs::path& Folder, const std::string& Stem,
+                     int Count, int Size)
 {
     TheSize = Size;
     Pictures.clear();
     for (int i = 1; i <= Count; ++i)
-        Pictures.push_back({Folder / (Stem + std::to_string(i) + ".png")});
+        Pictures.push_back(Files.LoadOr(Folder / (Stem + std::to_string(i) + ".png")));
 }
 
 const Picture& ImageList::Picture(int Index) const
@@ -63,32 +47,67 @@ const Picture& ImageList::Picture(int Index) const
     return Pictures[static_cast<std::size_t>(Index - 1)];
 }
 
-Picture PictureFiles::Load(const fs::path& File)
-{
-    const fs::path Found = FindIgnoringCase(File);
-    if (!IsPictureFile(Found))
-        throw Failure(FailureKind::NoPicture, File.string());
-    return {Found};
-}
-
 Picture PictureFiles::LoadOr(const fs::path& File, const Picture& Otherwise)
 {
-    try {
-        return {Load(File).File, Otherwise.File};
-    } catch (const Failure& Missing) {
-        MissingFiles.insert(Missing.Subject());
-        return Otherwise;
-    }
+    Picture Found{{}, Otherwise.File, {}};
+    const auto Wrong = Fault(File, Found);
+    if (!Wrong)
+        return Found;
+    Missing.insert(File.lexically_relative(Folder).string().append(*Wrong));
+    return Otherwise;
 }
 
 std::vector<std::string> PictureFiles::TakeMissing()
 {
     std::vector<std::string> News;
-    for (const std::string& File : MissingFiles)
-        if (ToldFiles.insert(File).second)
+    for (const std::string& File : Missing)
+        if (Told.insert(File).second)
             News.push_back(File);
-    MissingFiles.clear();
+    Missing.clear();
     return News;
+}
+
+std::optional<std::string_view> PictureFiles::Fault(const fs::path& File, Picture& Found)
+{
+    constexpr std::string_view IsMissing;
+    constexpr std::string_view IsUnreadable = " (illisible)";
+    constexpr std::string_view IsOutside = " (hors de son dossier)";
+    if (!IsInside(File))
+        return IsOutside;
+    Found.File = File;
+    auto Stamp = OwnStampOf(File);
+    if (!Stamp) {
+        Found.File = FindIgnoringCase(File);
+        if (Found.File.empty())
+            return IsMissing;
+        Stamp = OwnStampOf(Found.File);
+        if (!IsInside(Found.File))
+            return IsOutside;
+    }
+    if (Stamp && Stamp->Is == FileStamp::Kind::Link) {
+        if (!StaysBelow(Folder, Found.File))
+            return IsOutside;
+        std::error_code Error;
+        Found.File = fs::canonical(Found.File, Error);
+        Stamp = OwnStampOf(Found.File);
+    }
+    if (!Stamp)
+        return IsMissing;
+    if (Stamp->Is != FileStamp::Kind::Regular || !IsWholePicture(Found.File, Stamp->Size))
+        return IsUnreadable;
+    Found.Stamp = *Stamp;
+    return std::nullopt;
+}
+
+bool PictureFiles::IsInside(const fs::path& File)
+{
+    const fs::path Parent = File.parent_path();
+    if (Parent == LastInside)
+        return true;
+    const bool Stays = StaysBelow(Folder, Parent);
+    if (Stays)
+        LastInside = Parent;
+    return Stays;
 }
 
 } // namespace orvane

@@ -1,7 +1,8 @@
 #include "view/picture_source.h"
 
-#include "view/qt_text.h"
+#include "toolkit/picture_file.h"
 
+#include <QBuffer>
 #include <QImageReader>
 
 #include <tuple>
@@ -12,14 +13,31 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// The reader of a picture's bytes: the toolkit would take a path for text, which it needn't be.
+class Decoder
+{
+  public:
+    explicit Decoder(const fs::path& File) : Content(PictureContent(File))
+    {
+        Buffer.setData(
+            QByteArray::fromRawData(Content.data(), static_cast<qsizetype>(Content.size())));
+        Buffer.open(QIODevice::ReadOnly);
+        Reader.setDevice(&Buffer);
+        Reader.setAutoTransform(true);
+    }
+
+    QImage Read() { return Reader.read(); }
+    bool GoesOn() { return Reader.jumpToNextImage(); }
+
+  private:
+    std::string Content;
+    QBuffer Buffer;
+    QImageReader Reader;
+};
+
 QImage Read(const fs::path& File)
 {
-    if (!IsPictureFile(File))
-        return {};
-    QImageReader Reader(ToQt(File.string()));
-    Reader.setDecideFormatFromContent(true);
-    Reader.setAutoTransform(true);
-    return Reader.read();
+    return Decoder(File).Read();
 }
 
 // The sharper of the two files and how many of its pixels go into one of the screen's definition.
@@ -72,6 +90,17 @@ QPixmap PictureSource::Scaled(QSize Box, double Density, Fit How) const
     QPixmap Result = QPixmap::fromImage(std::move(Source));
     Result.setDevicePixelRatio(Density);
     return Result;
+}
+
+QIcon IconOf(const Picture& Given)
+{
+    QIcon Icon;
+    Decoder Sizes(Given.File);
+    do {
+        if (const QImage Each = Sizes.Read(); !Each.isNull())
+            Icon.addPixmap(QPixmap::fromImage(Each));
+    } while (Sizes.GoesOn());
+    return Icon;
 }
 
 } // namespace orvane

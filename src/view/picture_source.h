@@ -2,6 +2,7 @@
 
 #include "toolkit/picture.h"
 
+#include <QIcon>
 #include <QImage>
 #include <QPixmap>
 #include <QSize>
@@ -30,5 +31,8 @@ class PictureSource
     QSize MadeFor;
     double MadeDensity = 0;
 };
+
+// All sizes that the picture's file holds; null when it can't be decoded.
+QIcon IconOf(const Picture& Given);
 
 } // namespace orvane

@@ -14,10 +14,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// As much of a picture as the core looks at: its beginning and its end.
 void Touch(const fs::path& File)
 {
+    using namespace std::string_view_literals;
     fs::create_directories(File.parent_path());
-    std::ofstream(File) << "GIF8, its beginning";
+    std::ofstream(File, std::ios::binary) << "GIF8\0;"sv;
 }
 
 // Two resolutions, but frm_Configuration and frm_Panier have one layout for both.
@@ -56,6 +58,10 @@ void MakeModelFolder(const fs::path& Tables, const fs::path& Folder)
         Touch(Folder / "Interface/Icônes" / (Royaume + ".ico"));
     }
     Touch(Folder / "Interface/Logo.png");
+    for (const auto& [Stem, Count] :
+         {std::pair{"CouleurCraft", 7}, {"CraftPetit", 11}, {"CraftGrand", 11}})
+        for (int i = 1; i <= Count; ++i)
+            Touch(Folder / "Interface/Listes" / (Stem + std::to_string(i) + ".png"));
     for (const std::string Skin : {"Parchemin", "Forge nocturne"})
         MakeSkin(Folder / "Skins" / Skin);
 }

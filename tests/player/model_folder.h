@@ -7,7 +7,7 @@
 namespace orvane {
 
 // A program's folder made from small tables whose figures are easy to work out by hand, with
-// pictures that only have to be there and layouts that move nothing.
+// pictures of a beginning and an end, and layouts that move nothing.
 void MakeModelFolder(const std::filesystem::path& Tables, const std::filesystem::path& Folder);
 
 // A copy to play in; whatever a run never changes is shared with the model.

@@ -77,10 +77,13 @@ class Catalogue : public testing::TestWithParam<const char*>
     Catalogue() : App(Dossier.Path(), Reçues)
     {
         tools::MakeDatabases(ORVANE_DATA, Dossier.Path(), false);
+        for (const char* Pictures : {"Interface", "Objets"})
+            std::filesystem::create_directory_symlink(
+                std::filesystem::path(ORVANE_FOLDER) / Pictures, Dossier / Pictures);
         EnregistrerFeuilles(App);
         Démarrer(App);
         Cliquer("frm_Accueil", (std::string("img_") + GetParam()).c_str());
-        Reçues.Messages.clear(); // the pictures aren't there
+        Reçues.Messages.clear(); // the skins' pictures aren't there
     }
 
     template <class Type>
@@ -145,7 +148,7 @@ class Catalogue : public testing::TestWithParam<const char*>
         return Degree == "en dyr" || Degree == "en arcania";
     }
 
-    // What the crafter now sees has a price to go by.
+    // What the crafter now sees has a price to go by, and the pictures that it names.
     void Vérifier(const Way& Along, const std::string& Object)
     {
         ++Vus;
