@@ -40,9 +40,8 @@ void PictureView::FollowAll()
 
 void PictureView::FollowPicture()
 {
-    const bool Reachable = IsClickable() && !TheModel.Picture().IsEmpty();
-    setFocusPolicy(Reachable ? Qt::StrongFocus : Qt::NoFocus);
-    setCursor(Reachable ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    setFocusPolicy(IsClickable() ? Qt::StrongFocus : Qt::NoFocus);
+    setCursor(IsClickable() ? Qt::PointingHandCursor : Qt::ArrowCursor);
     Source.Set(TheModel.Picture);
 }
 
@@ -69,7 +68,7 @@ void PictureView::paintEvent(QPaintEvent*)
         return;
     if (ShowsFocus(*this)) {
         look::PaintFocusRing(Painter, rect(), look::FieldRadius);
-    } else if (underMouse() && !Pixels.isNull()) {
+    } else if (underMouse() || Pixels.isNull()) { // a picture that is missing leaves its frame
         Painter.setRenderHint(QPainter::Antialiasing);
         Painter.setPen(QPen(look::PanelBorder, 1));
         Painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), look::FieldRadius,

@@ -34,9 +34,10 @@ class Evening : public testing::Test
 
     void TestBody() override
     {
-        const TempFolder Folder;
-        CopyModelFolder(Model(), Folder.Path());
-        HeadlessScene Scene(Folder.Path());
+        const TempFolder Parent;
+        const fs::path Folder = Parent / "\xE9t\xE9"; // of an old system: no UTF-8
+        CopyModelFolder(Model(), Folder);
+        HeadlessScene Scene(Folder);
         scenario::Stage Stage(Scene, TheViews, [](const auto& At, auto& Wanted, auto& Seen) {
             ADD_FAILURE_AT(At.File.c_str(), At.Line)
                 << "expected " << Wanted << "\nseen     " << Seen;

@@ -70,6 +70,32 @@ TEST_F(PicturesOnScreen, FillTheirBoxOrKeepTheirProportions)
     EXPECT_EQ(Source.For({40, 40}, 1, KeepingProportions).size(), QSize(40, 20));
 }
 
+TEST_F(PicturesOnScreen, AreDecodedAfreshWhenTheirFileWasReplaced)
+{
+    Show();
+    PictureFiles Files(FromQt(Folder.path()));
+    const auto Load = [&] { Model("cmd_Ajouter").Picture = Files.LoadOr(File("plate.png").File); };
+    Load();
+    EXPECT_EQ(Pixel(The<QWidget>("cmd_Ajouter"), {10, 10}), QColor(Qt::red));
+    Make("plate.png", {40, 20}, Qt::blue);
+    Load();
+    EXPECT_EQ(Pixel(The<QWidget>("cmd_Ajouter"), {10, 10}), QColor(Qt::blue));
+}
+
+// As on an old system: its bytes are no text of this one.
+TEST_F(PicturesOnScreen, AreReadFromAFolderOfAnyName)
+{
+    const std::filesystem::path Old = std::filesystem::path(FromQt(Folder.path())) / "\xE9t\xE9";
+    std::filesystem::create_directory(Old);
+    std::filesystem::copy(File("plate.png").File, Old / "plate.png");
+    std::filesystem::copy(File("dense.png").File, Old / "blason.png");
+    PictureSource Source;
+    Source.Set({Old / "plate.png"});
+    EXPECT_FALSE(Source.For({40, 20}, 1, PictureSource::Fit::Whole).isNull());
+    EXPECT_EQ(IconOf({Old / "blason.png"}).availableSizes(), QList<QSize>{QSize(20, 20)});
+    EXPECT_TRUE(IconOf({Old / "absent.png"}).isNull());
+}
+
 TEST_F(PicturesOnScreen, FillAButtonAndStandInTheMiddleOfAnImage)
 {
     Show();
@@ -114,7 +140,9 @@ TEST_F(PicturesOnScreen, AreReachedByKeyboardWhenTheyListen)
     EXPECT_EQ(View.focusPolicy(), Qt::NoFocus);
     Model("img_Blason").OnClick = [this] { Log() << "clic"; };
     Model("img_Blason").Picture = File("dense.png");
+    Model("img_Blason").Picture = Picture{}; // missing: its frame can still be clicked
     EXPECT_TRUE(View.focusPolicy() & Qt::TabFocus);
+    EXPECT_NE(Pixel(View, {0, 50}), Pixel(View, {5, 50}));
     Play("<in img_Blason><Return><click img_Blason>");
     EXPECT_EQ(Seen(), "clic|clic");
 }
