@@ -63,6 +63,8 @@ void frm_Accueil::Load()
     }
     ChargerConfigRoyaume(Globals.RoyaumeCourant);
     RemplirCommandes(App);
+    for (const std::string& Royaume : Royaumes()) // a start that fails has written no link
+        App.Bases.Open(App.Chemin("/" + RoyaumeFile(Royaume)));
     for (const std::string& Royaume : Royaumes())
         RelierAlchimie(App, Royaume);
 }

@@ -196,7 +196,8 @@ void RelierAlchimie(Application& App, const std::string& Royaume)
             ? std::string()
             : Connect.substr(ConnectPrefix.size(),
                              Connect.size() - ConnectPrefix.size() - Fin.size());
-    if (Dossier != App.Chemin(""))
+    if (Dossier != App.Chemin("")) {
+        App.Bases.Open(App.Chemin(Fin)); // fails before anything is written
         try {
             Base.SetLinkConnect(Table, ConnectOf(App.Chemin(Fin)));
         } catch (const Failure& Given) {
@@ -204,6 +205,7 @@ void RelierAlchimie(Application& App, const std::string& Royaume)
                 throw;
             Base.UseLinkConnect(Table, ConnectOf(App.Chemin(Fin)));
         }
+    }
     Base.RefreshLink(Table);
 }
 
