@@ -6,7 +6,7 @@
 
 namespace orvane::tour {
 
-// A program folder to play with: databases are copied, everything else is linked. Gone at the end.
+// A program folder to play with. Links would not do: pictures lie in the folder itself.
 class FolderCopy
 {
   public:
