@@ -7,11 +7,11 @@
 #include "view/dialogs/menus.h"
 #include "view/french.h"
 #include "view/look.h"
+#include "view/picture_source.h"
 #include "view/qt_dialogs.h"
 #include "view/style.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QTimer>
 
 #include <algorithm>
@@ -93,7 +93,7 @@ int main(int Count, char** Arguments)
         return EXIT_FAILURE;
     QTimer::singleShot(0, &Toolkit, [&] { // the first picture doesn't wait for it
         const Picture Icon = App.Images.LoadOr(App.Chemin("/Interface/Orvane.png"));
-        QApplication::setWindowIcon(QIcon(QString::fromStdString(Icon.File.string())));
+        QApplication::setWindowIcon(IconOf(Icon));
     });
     return QApplication::exec();
 }

@@ -4,11 +4,11 @@
 #include "view/act.h"
 #include "view/control_view.h"
 #include "view/key_words.h"
+#include "view/picture_source.h"
 #include "view/qt_text.h"
 #include "view/screen_area.h"
 
 #include <QCloseEvent>
-#include <QIcon>
 #include <QKeyEvent>
 
 namespace orvane {
@@ -46,7 +46,7 @@ void ScreenWindow::ScreenChanged(PropertyId What)
         setWindowTitle(ToQt(TheScreen.Caption));
         break;
     case PropertyId::Icon:
-        setWindowIcon(QIcon(ToQt(TheScreen.Icon().File.string())));
+        setWindowIcon(IconOf(TheScreen.Icon));
         break;
     case PropertyId::Picture:
         Area->PictureChanged();
