@@ -15,6 +15,10 @@ enum class ColumnType {
     Decimal,   // DECIMAL(19,4): settings and amounts, exact to the ten-thousandth
     Text,      // TEXT
     Reference, // INTEGER, the Num of a row of Target
+    // In columns that the schema doesn't tell:
+    Numeric, // NUMERIC: a number, exact, with any count of decimals
+    Double,  // DOUBLE
+    Blob,    // BLOB
 };
 
 struct ColumnDefinition
@@ -69,6 +73,9 @@ const DatabaseDefinition& RoyaumeDefinition();
 
 // The fixed tables of a skin's layout database: RésolutionCommune and Temp.
 const DatabaseDefinition& SkinDefinition();
+
+// How a column of that type is declared in SQL.
+std::string DeclaredType(ColumnType Type);
 
 // The columns of <screen>_Commun, <screen>_<resolution> and Temp.
 TableDefinition LayoutTable(const std::string& Name);

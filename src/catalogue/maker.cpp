@@ -99,7 +99,7 @@ void DatabaseMaker::AddTable(const TableDefinition& Table)
         In->Base.exec("CREATE TABLE " + QuotedName(Table.Name) + " (" + Columns + ")");
         for (const ColumnDefinition& Column : Table.Columns)
             if (IsSearched(Column))
-                In->Base.exec("CREATE INDEX " + QuotedName(Table.Name + "_" + Column.Name) +
+                In->Base.exec("CREATE INDEX " + QuotedName(Table.Name + "." + Column.Name) +
                               " ON " + QuotedName(Table.Name) + " (" + QuotedName(Column.Name) +
                               (Column.Type == ColumnType::Text ? " COLLATE NOCASE)" : ")"));
     });

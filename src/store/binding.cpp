@@ -12,6 +12,8 @@ void BindValue(SQLite::Statement& Statement, int At, const Value& Given)
         Statement.bind(At, *Number);
     else if (const auto* Text = std::get_if<std::string>(&Given.Raw()))
         Statement.bind(At, *Text);
+    else if (const auto* Bytes = std::get_if<Blob>(&Given.Raw()))
+        Statement.bind(At, Bytes->Content.data(), static_cast<int>(Bytes->Content.size()));
     else
         Statement.bind(At);
 }

@@ -34,7 +34,7 @@ Value ValueAt(SQLite::Statement& Statement, int At)
         return Cell.getInt64();
     if (Cell.isFloat())
         return Cell.getDouble();
-    return Cell.getString();
+    return Cell.isBlob() ? Value(Blob{Cell.getString()}) : Value(Cell.getString());
 }
 
 std::size_t BytesOf(const std::vector<Value>& Row)
@@ -43,6 +43,8 @@ std::size_t BytesOf(const std::vector<Value>& Row)
     for (const Value& Cell : Row)
         if (const auto* Text = std::get_if<std::string>(&Cell.Raw()))
             Bytes += Text->size();
+        else if (const auto* Binary = std::get_if<Blob>(&Cell.Raw()))
+            Bytes += Binary->Content.size();
     return Bytes;
 }
 

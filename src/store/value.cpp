@@ -10,21 +10,7 @@ namespace orvane {
 namespace {
 
 constexpr int MoneyDecimals = 4;
-constexpr std::size_t DigitsOfDouble = 15;
-
-// A decimal as SQLite holds it best: whole, a double that gives the same digits back, or, past a
-// double's 15 digits, the text with its comma, which no affinity turns into a number.
-Value StoredDecimal(std::int64_t Count)
-{
-    const std::string Text = TextOfScaled(Count, MoneyDecimals);
-    if (Text.find(',') == std::string::npos)
-        return *ScaledFromText(Text, 0);
-    const auto Digits = static_cast<std::size_t>(
-        std::ranges::count_if(Text, [](char Sign) { return Sign >= '0' && Sign <= '9'; }));
-    if (Digits > DigitsOfDouble)
-        return Text;
-    return *DoubleFromText(Text);
-}
+constexpr std::ptrdiff_t DigitsOfDouble = 15;
 
 template <class T>
 T OrRefused(std::optional<T> Number, const std::string& Text)
@@ -32,6 +18,17 @@ T OrRefused(std::optional<T> Number, const std::string& Text)
     if (!Number)
         throw Failure(FailureKind::RefusedNumber, Text);
     return *Number;
+}
+
+std::string HexOf(const std::string& Bytes)
+{
+    constexpr std::string_view Digits = "0123456789abcdef";
+    std::string Result;
+    for (const char Each : Bytes) {
+        Result += Digits[static_cast<unsigned char>(Each) >> 4];
+        Result += Digits[static_cast<unsigned char>(Each) & 15];
+    }
+    return Result;
 }
 
 } // namespace
@@ -44,7 +41,20 @@ std::string Value::ToText() const
         return TextOfDouble(*Number);
     if (const auto* Text = std::get_if<std::string>(&Content))
         return *Text;
+    if (const auto* Bytes = std::get_if<Blob>(&Content))
+        return HexOf(Bytes->Content);
     return {};
+}
+
+Value ExactNumber(const std::string& Text)
+{
+    if (Text.find(',') == std::string::npos) {
+        const auto Whole = ScaledFromText(Text, 0);
+        return Whole ? Value(*Whole) : Value(Text + ",0");
+    }
+    const auto Digits =
+        std::ranges::count_if(Text, [](char Sign) { return Sign >= '0' && Sign <= '9'; });
+    return Digits > DigitsOfDouble ? Value(Text) : Value(*DoubleFromText(Text));
 }
 
 ColumnKind::ColumnKind(std::string_view DeclaredType)
@@ -64,7 +74,8 @@ Value ColumnKind::Convert(const Value& Given) const
     case Family::Whole:
         return OrRefused(ScaledFromText(Text, 0), Text);
     case Family::Decimal:
-        return StoredDecimal(OrRefused(ScaledFromText(Text, MoneyDecimals), Text));
+        return ExactNumber(
+            TextOfScaled(OrRefused(ScaledFromText(Text, MoneyDecimals), Text), MoneyDecimals));
     default:
         return Text;
     }

@@ -7,8 +7,16 @@
 
 namespace orvane {
 
-// What one cell holds: nothing, a whole number, a double or a text. A decimal that a double can't
-// hold exactly comes as its text with a comma.
+// Bytes that aren't a text.
+struct Blob
+{
+    std::string Content;
+
+    friend bool operator==(const Blob&, const Blob&) = default;
+};
+
+// What one cell holds: nothing, a whole number, a double, a text or bytes. A decimal that a double
+// can't hold exactly comes as its text with a comma.
 class Value
 {
   public:
@@ -16,13 +24,14 @@ class Value
     Value(std::int64_t Number) : Content(Number) {}
     Value(double Number) : Content(Number) {}
     Value(std::string Text) : Content(std::move(Text)) {}
+    Value(Blob Bytes) : Content(std::move(Bytes)) {}
 
     bool IsNull() const { return std::holds_alternative<std::monostate>(Content); }
 
-    // Numbers with a decimal comma; the empty text for a null.
+    // Numbers with a decimal comma; the empty text for a null; two hexadecimal digits for a byte.
     std::string ToText() const;
 
-    const std::variant<std::monostate, std::int64_t, double, std::string>& Raw() const
+    const std::variant<std::monostate, std::int64_t, double, std::string, Blob>& Raw() const
     {
         return Content;
     }
@@ -30,8 +39,13 @@ class Value
     friend bool operator==(const Value&, const Value&) = default;
 
   private:
-    std::variant<std::monostate, std::int64_t, double, std::string> Content;
+    std::variant<std::monostate, std::int64_t, double, std::string, Blob> Content;
 };
+
+// A number text without needless zeros as SQLite holds it best: whole, a double that gives the same
+// digits back, or, past a double's 15 digits, the text with a comma, which no affinity turns into a
+// number.
+Value ExactNumber(const std::string& Text);
 
 // How a column holds its values, read from its declared SQL type.
 class ColumnKind
