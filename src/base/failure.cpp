@@ -49,6 +49,11 @@ constexpr std::array Phrases{
     Phrase{FailureKind::OutOfRange, "« ", " » n’est pas un nombre de -32768 à 32767."},
     Phrase{FailureKind::WrongText, "« ", " » n’est pas un nombre."},
     Phrase{FailureKind::Overflow, "Un montant dépasse ce qui peut être calculé (« ", " »)."},
+    Phrase{FailureKind::FileUnreadable, "Le fichier « ", " » est introuvable ou illisible."},
+    Phrase{FailureKind::NotJet, "Le fichier « ", " » n’est pas une base de données Jet."},
+    Phrase{FailureKind::JetDamaged, "Le fichier « ", " » est endommagé : il n’a pas été converti."},
+    Phrase{FailureKind::JetProtected, "Le fichier « ",
+           " » est protégé par un mot de passe : il n’a pas été converti."},
     Phrase{FailureKind::Program, "Erreur interne du programme : « ", " »."},
 };
 

@@ -25,8 +25,12 @@ enum class FailureKind {
     OutOfRange,    // a number that is too great for a level or a count
     WrongText,     // a box that holds no number where a calculation needs one
     Overflow,
-    Program, // the program's own fault, such as an unknown control
-    Told,    // none of the above: Subject is the whole sentence
+    FileUnreadable, // a file to import that isn't there, or can't be read
+    NotJet,         // a file to import that isn't of the kind
+    JetDamaged,     // one that can't be read whole
+    JetProtected,   // one with a password
+    Program,        // the program's own fault, such as an unknown control
+    Told,           // none of the above: Subject is the whole sentence
 };
 
 // Whatever stops an event. Subject names what it is about: an object, a column, or a file, which is
@@ -42,6 +46,7 @@ class Failure : public std::exception
 
     FailureKind Kind() const { return TheKind; }
     const std::string& Subject() const { return TheSubject; }
+    const std::string& Cause() const { return TheCause; }
 
     // The French sentence for the crafter.
     std::string Sentence() const;

@@ -74,9 +74,6 @@ const DatabaseDefinition& RoyaumeDefinition();
 // The fixed tables of a skin's layout database: RésolutionCommune and Temp.
 const DatabaseDefinition& SkinDefinition();
 
-// How a column of that type is declared in SQL.
-std::string DeclaredType(ColumnType Type);
-
 // The columns of <screen>_Commun, <screen>_<resolution> and Temp.
 TableDefinition LayoutTable(const std::string& Name);
 

@@ -14,6 +14,12 @@ const char* DeclaredType(ColumnType Type)
         return "INTEGER";
     case ColumnType::Decimal:
         return "DECIMAL(19,4)";
+    case ColumnType::Numeric:
+        return "NUMERIC";
+    case ColumnType::Double:
+        return "DOUBLE";
+    case ColumnType::Blob:
+        return "BLOB";
     case ColumnType::Text:
         break;
     }
