@@ -3,6 +3,7 @@
 #include "base/typography.h"
 #include "command_line/command_line.h"
 #include "home/feuilles.h"
+#include "makers/jet.h"
 #include "view/desktop.h"
 #include "view/dialogs/menus.h"
 #include "view/french.h"
@@ -42,6 +43,28 @@ bool HasNoDisplay(const std::vector<std::string>& Given)
            std::ranges::find(Given, "-display") == Given.end();
 }
 
+// Databases of the older kind are converted before anything reads them, if the crafter says so.
+void OfferConversion(const std::vector<std::filesystem::path>& Files, Dialogs& Boxes)
+{
+    std::string Names;
+    for (const auto& Each : Files)
+        Names += "\n" + Each.filename().string();
+    if (!Boxes.Confirm(
+            Typeset("Ces bases sont au format Jet. Faut-il les convertir ? Les originaux "
+                    "restent à côté, sous « NOM.jet.mdb ».\n") +
+            Names))
+        return;
+    std::string Refused;
+    for (const auto& Each : Files)
+        try {
+            ImporterJet(Each);
+        } catch (const Failure& Given) {
+            Refused += (Refused.empty() ? "" : "\n") + Given.Sentence();
+        }
+    if (!Refused.empty())
+        Boxes.MsgBox(Refused);
+}
+
 // Runs start-up behind one boundary: what stops it is told in one box.
 bool Started(Application& App, std::future<void>& Loading, Dialogs& Boxes)
 {
@@ -79,13 +102,18 @@ int main(int Count, char** Arguments)
     App.OnQuit = [] { std::_Exit(EXIT_SUCCESS); };
     EnregistrerFeuilles(App);
     UseFrench();
-    // The core loads while the toolkit sets itself up; from then on there is one thread.
-    std::future<void> Loading = std::async(std::launch::async, [&App] { Charger(App); });
+    // The core loads while the toolkit sets itself up; from then on there is one thread. Files to
+    // be converted first leave it for later.
+    const auto Convertible = FichiersJet(Asked.Folder);
+    std::future<void> Loading = std::async(
+        Convertible.empty() ? std::launch::async : std::launch::deferred, [&App] { Charger(App); });
 
     QApplication Toolkit(Count, Arguments);
     QApplication::setApplicationName(QString::fromStdString(ProgramTitle));
     QApplication::setStyle(new Style);
     InstallFrench(Toolkit);
+    if (!Convertible.empty())
+        OfferConversion(Convertible, Boxes);
     Loading.wait();
     Boxes.StandAbove(App.Feuilles);
     Desktop Windows(App.Feuilles, App.Door, ProgramMenus(App));

@@ -2,6 +2,7 @@
 
 #include "app/version.h"
 #include "base/text.h"
+#include "makers/jet.h"
 
 #include <algorithm>
 
@@ -24,6 +25,12 @@ int TellVersion(const Given&, std::ostream& Out)
     return 0;
 }
 
+int Import(const Given& What, std::ostream&)
+{
+    ImporterJet(What.Operands[0]);
+    return 0;
+}
+
 } // namespace
 
 std::span<const Option> Options()
@@ -31,6 +38,10 @@ std::span<const Option> Options()
     static const std::vector<Option> Table{
         {"--help", {}, "montre cette aide", TellHelp},
         {"--version", {}, "montre la version du programme", TellVersion},
+        {"--importer",
+         {"FICHIER"},
+         "convertit une base Jet à sa place ; l’original reste à côté, sous NOM.jet.mdb",
+         Import},
         {"--dossier", {"DOSSIER"}, "prend les bases, les images et les habillages de ce dossier"},
     };
     return Table;

@@ -53,9 +53,9 @@ std::string BytesOf(const fs::path& File)
 Failure AboutFile(const Failure& Given, const fs::path& File)
 {
     using enum FailureKind;
-    constexpr std::array Told{FileUnreadable,   NotJet,   JetDamaged, JetProtected,
-                              DatabaseReadOnly, DiskFull, Store,      Program};
-    const bool IsTold = std::ranges::find(Told, Given.Kind()) != Told.end();
+    constexpr std::array OfFiles{FileUnreadable,   NotJet,   JetDamaged, JetProtected,
+                                 DatabaseReadOnly, DiskFull, Store,      Program};
+    const bool IsTold = std::ranges::find(OfFiles, Given.Kind()) != OfFiles.end();
     return {IsTold ? Given.Kind() : WriteFailed, DisplayName(File), Given.Cause()};
 }
 

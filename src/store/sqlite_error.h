@@ -14,8 +14,8 @@ Failure FailureOf(const SQLite::Exception& Error, const std::filesystem::path& F
 // The file's name as a message shows it.
 std::string DisplayName(const std::filesystem::path& File);
 
-// Failure (DatabaseMissing, DatabaseUnreadable, NotADatabase) for what SQLite would make, wait for or
-// take for an empty database: no file at all, a folder or a pipe, an empty file.
+// Failure (DatabaseMissing, DatabaseUnreadable, NotADatabase) for what SQLite would make, wait for
+// or take for an empty database: no file at all, a folder or a pipe, an empty file.
 void RequireFile(const std::filesystem::path& File);
 
 // Runs Action, with errors of SQLite turned into Failures, and all of them about File.

@@ -19,6 +19,9 @@ class Dialogs
     // A text and one OK button.
     virtual void MsgBox(const std::string& Text) = 0;
 
+    // Whether the answer is yes. Who can't ask takes no.
+    virtual bool Confirm(const std::string&) { return false; }
+
     // The text typed; empty when cancelled.
     virtual std::string InputBox(const std::string& Prompt, const std::string& Title) = 0;
 

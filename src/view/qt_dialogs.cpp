@@ -56,6 +56,17 @@ void QtDialogs::MsgBox(const std::string& Text)
         Window->FocusFirstWrong(); // what has been refused is there to be corrected
 }
 
+bool QtDialogs::Confirm(const std::string& Question)
+{
+    QMessageBox Box(QMessageBox::NoIcon, ToQt(ProgramTitle), ToQt(Question),
+                    QMessageBox::Yes | QMessageBox::No, ActiveWindow());
+    Box.setTextFormat(Qt::PlainText);
+    Box.setIconPixmap(look::Notice(Box.devicePixelRatioF()));
+    Box.setDefaultButton(QMessageBox::Yes);
+    Box.layout()->setContentsMargins(Margins);
+    return Run(Box) == QMessageBox::Yes;
+}
+
 std::string QtDialogs::InputBox(const std::string& Prompt, const std::string& Title)
 {
     constexpr int LeastWidth = 380;

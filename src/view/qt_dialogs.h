@@ -14,6 +14,7 @@ class QtDialogs : public Dialogs
     void StandAbove(const Forms& NewForms) { TheForms = &NewForms; }
 
     void MsgBox(const std::string& Text) override;
+    bool Confirm(const std::string& Question) override;
     std::string InputBox(const std::string& Prompt, const std::string& Title) override;
     std::optional<Colour> ShowColor() override;
 

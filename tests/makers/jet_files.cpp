@@ -150,7 +150,7 @@ ListedTables TablesOf(const fs::path& File)
     const SQLite::Database Base(File.string());
     ListedTables Result;
     SQLite::Statement Names(Base, "SELECT name FROM sqlite_schema WHERE type = 'table' AND name "
-                                  "NOT IN ('SavedQueries', 'LinkedTables')");
+                                  "NOT IN ('SavedQueries', 'LinkedTables', 'sqlite_sequence')");
     while (Names.executeStep()) {
         const std::string Name = Names.getColumn(0).getString();
         Listed& Table = Result[Name];

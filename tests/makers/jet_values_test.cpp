@@ -1,3 +1,4 @@
+#include "catalogue/declaration.h"
 #include "makers/jet_schema.h"
 #include "makers/jet_text.h"
 #include "makers/jet_values.h"
@@ -79,7 +80,7 @@ std::string TypesOf(const JetTable& Table)
     std::string Result;
     const DatabaseDefinition Definition = DefinitionOf({{Table}, {}}, ".");
     for (const ColumnDefinition& Each : Definition.Tables[0].Columns)
-        Result += DeclaredType(Each.Type) + "|";
+        Result += std::string(DeclaredType(Each.Type)) + "|";
     return Result;
 }
 
@@ -95,7 +96,8 @@ TEST(JetSchema, AColumnTakesOurTypeOnlyWhenThatChangesNothing)
                            Columns,
                            {{Whole(2), 1.5, 3.0, Value("12,5"), Whole(1)},
                             {Whole(1), {}, {}, Value("-3"), Value(0.25)}}};
-    EXPECT_EQ(TypesOf(Fitting), "INTEGER PRIMARY KEY|TEXT|INTEGER|DECIMAL(19,4)|DECIMAL(19,4)|");
+    EXPECT_EQ(TypesOf(Fitting),
+              "INTEGER PRIMARY KEY AUTOINCREMENT|TEXT|INTEGER|DECIMAL(19,4)|DECIMAL(19,4)|");
     JetTable Other = Fitting;
     Other.Rows.push_back({Whole(2), {}, 2.5, Value("12,50"), Value(0.000001)});
     EXPECT_EQ(TypesOf(Other), "INTEGER|TEXT|DOUBLE|TEXT|NUMERIC|");
