@@ -70,6 +70,17 @@ struct InUse
     SQLite::Statement& Which;
 };
 
+// A flag that is set for the length of a block.
+struct Switched
+{
+    explicit Switched(bool& Flag) : Flag(Flag) { Flag = true; }
+    ~Switched() { Flag = false; }
+    Switched(const Switched&) = delete;
+    Switched& operator=(const Switched&) = delete;
+
+    bool& Flag;
+};
+
 struct Prepared
 {
     Prepared(SQLite::Database& Base, Translation Given)
@@ -137,15 +148,18 @@ struct Connection::Inside
         return *Statements.emplace(Shape, std::move(Made)).first->second;
     }
 
-    // Runs a write as one durable transaction.
+    // Runs a write as one durable transaction, or as a part of the one that goes on.
     void Write(const std::function<void()>& Action)
     {
+        Work.Renew();
+        if (Writing)
+            return Action();
         BeforeWrite();
         EndReading();
-        Work.Renew();
         SQLite::Transaction Transaction(Base, SQLite::TransactionBehavior::IMMEDIATE);
         if (Base.execAndGet("PRAGMA user_version").getInt() > FileVersion)
             throw Failure(FailureKind::DatabaseNewer, DisplayName(File));
+        const Switched Now(Writing);
         Action();
         Transaction.commit();
     }
@@ -167,6 +181,7 @@ struct Connection::Inside
     std::unordered_map<std::string, std::unique_ptr<Prepared>> Statements;
     std::map<std::filesystem::path, std::optional<FileStamp>> Stamps;
     bool Reading = false;
+    bool Writing = false; // in a transaction that writes
 };
 
 Connection::Connection(std::filesystem::path File, std::function<void()> BeforeWrite,
@@ -194,7 +209,7 @@ RowSet Connection::Select(std::string_view Sql)
         In->Work.Renew();
         const std::string Shape = ShapeOf(Query, Parameters);
         Prepared& Ready = In->Prepare(Query, Shape);
-        if (!In->Reading) {
+        if (!In->Reading && !In->Writing) {
             In->Base.exec("BEGIN");
             In->Reading = true;
         }
@@ -236,9 +251,19 @@ void Connection::Delete(std::string_view Sql)
     });
 }
 
-void Connection::Insert(const std::string& Table, const Assignments& Row)
+void Connection::Transaction(const std::function<void()>& Action)
 {
-    In->Do([&] {
+    In->Do([&] { In->Write(Action); });
+}
+
+bool Connection::HasTable(const std::string& Name)
+{
+    return In->Do([&] { return In->Schema.HasTable(Name); });
+}
+
+std::int64_t Connection::Insert(const std::string& Table, const Assignments& Row)
+{
+    return In->Do([&] {
         std::string Names;
         std::string Marks;
         std::vector<Value> Values;
@@ -251,6 +276,7 @@ void Connection::Insert(const std::string& Table, const Assignments& Row)
             In->Run("INSERT INTO " + QuotedName(Table) + " (" + Names + ") VALUES (" + Marks + ")",
                     Values);
         });
+        return In->Base.getLastInsertRowid();
     });
 }
 

@@ -44,9 +44,15 @@ class Connection
     RowSet Select(std::string_view Sql);
     void Delete(std::string_view Sql);
 
-    // Values are converted to the columns' kinds; Change tells what it stored. A refused value
-    // leaves the row as it was.
-    void Insert(const std::string& Table, const Assignments& Row);
+    // Runs Action with all that it writes here as one durable write: whole, or, when it fails or
+    // the process ends, not at all. A query in it sees what it has written.
+    void Transaction(const std::function<void()>& Action);
+
+    bool HasTable(const std::string& Name);
+
+    // Values are converted to the columns' kinds; Insert tells the row's key, Change what it
+    // stored. A refused value leaves the row as it was.
+    std::int64_t Insert(const std::string& Table, const Assignments& Row);
     Assignments Change(const std::string& Table, std::int64_t Key, const Assignments& Row);
 
     // ";DATABASE=" and the full path of the file that a linked table comes from.

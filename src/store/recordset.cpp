@@ -93,15 +93,17 @@ void Recordset::Set(std::string_view Name, std::int64_t Number)
     Put(Name, Value(Number));
 }
 
-void Recordset::Update()
+std::int64_t Recordset::Update()
 {
     const Mode Done = std::exchange(TheMode, Mode::Reading);
     const Assignments Row = std::exchange(Pending, {});
     if (Done == Mode::Adding)
-        Base->Insert(Rows.Table, Row);
-    else if (Done == Mode::Editing)
-        for (const auto& [Name, Stored] : Base->Change(Rows.Table, Rows.Keys[At], Row))
-            Rows.Rows[At][ColumnAt(Name)] = Stored;
+        return Base->Insert(Rows.Table, Row);
+    if (Done == Mode::Reading)
+        throw Failure(FailureKind::Program, Rows.Source, "no change has begun");
+    for (const auto& [Name, Stored] : Base->Change(Rows.Table, Rows.Keys[At], Row))
+        Rows.Rows[At][ColumnAt(Name)] = Stored;
+    return Rows.Keys[At];
 }
 
 const Value& Recordset::Cell(std::string_view Name) const

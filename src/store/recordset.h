@@ -35,14 +35,14 @@ class Recordset
     double Number(std::string_view Name) const;
     std::int16_t Whole(std::string_view Name) const;
 
-    // Changing: Edit or AddNew, then Set for each column, then Update, which stores the row at
-    // once. Moving away before Update drops the change. A refused value leaves the stored row as it
-    // was.
+    // Changing: Edit or AddNew, then Set for each column, then Update, which stores the row at once
+    // (in a transaction, with it) and tells its key. Moving away before Update drops the change. A
+    // refused value leaves the stored row as it was.
     void Edit();
     void AddNew();
     void Set(std::string_view Name, std::string Text);
     void Set(std::string_view Name, std::int64_t Number);
-    void Update();
+    std::int64_t Update();
 
   private:
     enum class Mode { Reading, Editing, Adding };

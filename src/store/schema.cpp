@@ -31,6 +31,11 @@ Schema::Schema(SQLite::Database& Base, const std::filesystem::path& File, const 
 {
 }
 
+bool Schema::HasTable(const std::string& Name)
+{
+    return !FirstRow(TableNamed("main"), Name).empty();
+}
+
 bool Schema::Knows(const std::string& Name) const
 {
     return Sources.contains(FoldedCase(Name));
@@ -190,10 +195,10 @@ std::vector<std::string> Schema::FirstRow(const std::string& Sql, const std::str
 std::vector<std::string> Schema::Entry(const std::string& Table, const std::string& Columns,
                                        const std::string& Name)
 {
-    return FirstRow(TableNamed("main"), Table).empty()
-               ? std::vector<std::string>{}
-               : FirstRow("SELECT " + Columns + " FROM " + Table + " WHERE fold_case(Nom) = ?",
-                          Name);
+    return HasTable(Table)
+               ? FirstRow("SELECT " + Columns + " FROM " + Table + " WHERE fold_case(Nom) = ?",
+                          Name)
+               : std::vector<std::string>{};
 }
 
 } // namespace orvane

@@ -26,6 +26,9 @@ class Schema
   public:
     Schema(SQLite::Database& Base, const std::filesystem::path& File, const RunLinks& Links);
 
+    // Whether the file itself has a table of that name.
+    bool HasTable(const std::string& Name);
+
     // Whether Find has been asked for this name already.
     bool Knows(const std::string& Name) const;
 

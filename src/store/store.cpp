@@ -34,6 +34,16 @@ void Database::Execute(std::string_view Sql) const
     Base->Delete(Sql);
 }
 
+void Database::Transaction(const std::function<void()>& Action) const
+{
+    Base->Transaction(Action);
+}
+
+bool Database::HasTable(const std::string& Name) const
+{
+    return Base->HasTable(Name);
+}
+
 std::string Database::LinkConnect(const std::string& Table) const
 {
     return Base->LinkConnect(Table);

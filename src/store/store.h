@@ -3,6 +3,7 @@
 #include "store/recordset.h"
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -24,6 +25,13 @@ class Database
 
     // DELETE * FROM table WHERE condition.
     void Execute(std::string_view Sql) const;
+
+    // Runs Action with all rows that it changes in this file as one durable write: all of them, or,
+    // when it fails or the process ends, none. Sets that were changed in a write that failed show
+    // what isn't stored. Linked tables are not to be met here for the first time.
+    void Transaction(const std::function<void()>& Action) const;
+
+    bool HasTable(const std::string& Name) const;
 
     // Where a linked table comes from: ";DATABASE=" and the full path of the file.
     std::string LinkConnect(const std::string& Table) const;

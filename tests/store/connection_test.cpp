@@ -122,6 +122,37 @@ TEST_F(ConnectionTest, ANestedHandleWritesWhileItsCallerReads)
     EXPECT_EQ(Walk(Outer, All, "Nom"), "Or") << "a new set shows what is stored";
 }
 
+TEST_F(ConnectionTest, ATransactionStoresAllOrNothing)
+{
+    const Database Base = TheStore.Open(File);
+    Recordset Rows = Base.OpenRecordset(All);
+    const auto Change = [&] {
+        Put(Rows, "Nom", "Or");
+        Base.Execute("DELETE * FROM T WHERE Nom = \"Bois\"");
+        Recordset Added = TheStore.Open(File).OpenRecordset(All); // a nested handle
+        Added.AddNew();
+        Added.Set("Nom", "Cuir");
+        EXPECT_EQ(Added.Update(), 2);
+        EXPECT_EQ(Walk(Base, All, "Nom"), "Or|Cuir");
+    };
+    EXPECT_FAILS(Told, Base.Transaction([&] {
+        Change();
+        throw Failure(FailureKind::Told, "Non.");
+    }));
+    EXPECT_EQ(Walk(Base, All, "Nom"), "Fer|Bois");
+    {
+        SQLite::Database Other(File.string(), SQLite::OPEN_READWRITE);
+        Other.exec("BEGIN");
+        Other.execAndGet("SELECT count(*) FROM T"); // it reads: nothing can be stored
+        EXPECT_FAILS(DatabaseLocked, Base.Transaction(Change));
+    }
+    EXPECT_EQ(Walk(Base, All, "Nom"), "Fer|Bois");
+    Base.Transaction(Change);
+    EXPECT_EQ(RawCell("Métiers.mdb", "SELECT group_concat(Nom) FROM T"), "Or,Cuir");
+    EXPECT_TRUE(Base.HasTable("t"));
+    EXPECT_FALSE(Base.HasTable("Absente"));
+}
+
 TEST_F(ConnectionTest, OneEventReadsOneStateOfTheFileUntilItCloses)
 {
     auto Base = std::make_unique<Database>(TheStore.Open(File));
