@@ -22,6 +22,20 @@ __extension__ typedef __int128 Wide;
                                              TextOfScaled(Right.TenThousandths(), Decimals));
 }
 
+// Rounded, ties to even. Nothing when it doesn't fit.
+std::optional<std::int64_t> Quotient(Wide Dividend, Wide Divisor)
+{
+    Wide Result = Dividend / Divisor;
+    const Wide Rest = Dividend % Divisor;
+    const Wide Twice = 2 * (Rest < 0 ? -Rest : Rest);
+    if (Twice > Divisor || (Twice == Divisor && Result % 2 != 0))
+        Result += Dividend < 0 ? -1 : 1;
+    if (Result < std::numeric_limits<std::int64_t>::min() ||
+        Result > std::numeric_limits<std::int64_t>::max())
+        return {};
+    return static_cast<std::int64_t>(Result);
+}
+
 } // namespace
 
 Montant Montant::FromWhole(std::int64_t Value)
@@ -52,12 +66,20 @@ double Montant::ToDouble() const
     return *DoubleFromText(TextOfScaled(Count, Decimals));
 }
 
-Montant operator+(Montant Left, Montant Right)
+std::optional<Montant> SumIfFits(Montant Left, Montant Right)
 {
     std::int64_t Count = 0;
     if (__builtin_add_overflow(Left.Count, Right.Count, &Count))
-        ThrowOverflow(Left, '+', Right);
+        return {};
     return Montant(Count);
+}
+
+Montant operator+(Montant Left, Montant Right)
+{
+    const auto Sum = SumIfFits(Left, Right);
+    if (!Sum)
+        ThrowOverflow(Left, '+', Right);
+    return *Sum;
 }
 
 Montant operator-(Montant Left, Montant Right)
@@ -78,16 +100,16 @@ Montant operator*(std::int16_t Factor, Montant Amount)
 
 Montant operator*(Montant Left, Montant Right)
 {
-    const Wide Product = Wide{Left.Count} * Right.Count;
-    Wide Quotient = Product / Unit;
-    const Wide Rest = Product % Unit;
-    const Wide Twice = 2 * (Rest < 0 ? -Rest : Rest);
-    if (Twice > Unit || (Twice == Unit && Quotient % 2 != 0))
-        Quotient += Product < 0 ? -1 : 1;
-    if (Quotient < std::numeric_limits<std::int64_t>::min() ||
-        Quotient > std::numeric_limits<std::int64_t>::max())
+    const auto Count = Quotient(Wide{Left.Count} * Right.Count, Unit);
+    if (!Count)
         ThrowOverflow(Left, '*', Right);
-    return Montant(static_cast<std::int64_t>(Quotient));
+    return Montant(*Count);
+}
+
+std::optional<Montant> Proportion(Montant Amount, Montant Part, Montant Whole)
+{
+    const auto Count = Quotient(Wide{Amount.Count} * Part.Count, Whole.Count);
+    return Count ? std::optional(Montant(*Count)) : std::nullopt;
 }
 
 } // namespace orvane

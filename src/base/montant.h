@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -29,16 +30,28 @@ class Montant
     // The nearest double.
     double ToDouble() const;
 
+    friend std::optional<Montant> SumIfFits(Montant Left, Montant Right); // nothing when it doesn't
     friend Montant operator+(Montant Left, Montant Right);
     friend Montant operator-(Montant Left, Montant Right);
     friend Montant operator*(std::int16_t Factor, Montant Amount); // exact
     friend Montant operator*(Montant Left, Montant Right);         // four decimals, ties to even
-    friend constexpr auto operator<=>(Montant, Montant) = default;
+    friend constexpr bool operator==(Montant, Montant) = default;
+    friend constexpr std::strong_ordering operator<=>(Montant Left, Montant Right)
+    {
+        return Left.Count <=> Right.Count;
+    }
+
+    // Amount × Part / Whole, rounded once, ties to even; nothing when it doesn't fit. Whole is
+    // above 0.
+    friend std::optional<Montant> Proportion(Montant Amount, Montant Part, Montant Whole);
 
   private:
     explicit constexpr Montant(std::int64_t Count) : Count(Count) {}
 
     std::int64_t Count = 0;
 };
+
+std::optional<Montant> SumIfFits(Montant Left, Montant Right);
+std::optional<Montant> Proportion(Montant Amount, Montant Part, Montant Whole);
 
 } // namespace orvane

@@ -63,6 +63,18 @@ TEST(Montant, NothingWrapsAroundAndBothEndsAreReached)
     EXPECT_EQ(Montant::FromWhole(-922337203685477), Of("-922337203685477"));
 }
 
+TEST(Montant, AProportionIsRoundedOnceTiesToEven)
+{
+    const std::array<const char*, 4> Rows[] = {
+        {"10", "1", "3", "3,3333"},         {"20", "1", "3", "6,6667"},
+        {"0,0005", "1", "2", "0,0002"},     {"0,0007", "1", "2", "0,0004"},
+        {"-0,0007", "1", "2", "-0,0004"},   {"900000000000000", "3", "4", "675000000000000"},
+        {"900000000000000", "1", "0,5", ""}};
+    for (const auto& [Amount, Part, Whole, Result] : Rows)
+        EXPECT_EQ(Proportion(Of(Amount).value(), Of(Part).value(), Of(Whole).value()), Of(Result))
+            << Amount;
+}
+
 TEST(Montant, FromADoublePutsTiesWherePencilAndPaperDo)
 {
     const std::pair<double, const char*> Rows[] = {
