@@ -48,9 +48,23 @@ const DatabaseDefinition& PanierDefinition()
                                                   {"PrixCoûtant", Decimal, {}},
                                                   {"PrixVente", Decimal, {}},
                                                   {"Royaume", Text, {}},
-                                                  {"Acheteur", Text, {}}}}},
+                                                  {"Acheteur", Text, {}}}},
+                                                MatériauxDuPanier()},
                                                {},
                                                {}};
+    return Definition;
+}
+
+const TableDefinition& MatériauxDuPanier()
+{
+    static const TableDefinition Definition{"PanierMatériaux",
+                                            {{"Num", Counter, {}},
+                                             To("Ligne", "PanierGlobal"),
+                                             {"Matériau", Text, {}},
+                                             {"Quantité", Decimal, {}},
+                                             {"Prix", Decimal, {}},
+                                             {"Possédé", Decimal, {}},
+                                             {"Coché", Text, {}}}};
     return Definition;
 }
 

@@ -68,6 +68,10 @@ std::string SkinFile(const std::string& Skin);
 
 const DatabaseDefinition& ConfigDefinition();
 const DatabaseDefinition& PanierDefinition();
+
+// Of Panier.mdb: what one buys for each line of PanierGlobal. A file of before lacks it until a
+// line is added. Possédé is what the crafter has of a material, Coché "O" when it has been bought.
+const TableDefinition& MatériauxDuPanier();
 const DatabaseDefinition& AlchimieDefinition();
 const DatabaseDefinition& RoyaumeDefinition();
 

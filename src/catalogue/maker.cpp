@@ -11,20 +11,11 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <algorithm>
-#include <array>
 #include <map>
 
 namespace orvane {
 
 namespace {
-
-// Columns that queries look names up in.
-bool IsSearched(const ColumnDefinition& Column)
-{
-    constexpr std::array Names{"Nom", "NomControl", "Acheteur", "Bonus"};
-    return Column.Type == ColumnType::Reference ||
-           std::ranges::find(Names, Column.Name) != Names.end();
-}
 
 std::filesystem::path Unfinished(std::filesystem::path File)
 {
@@ -91,18 +82,7 @@ DatabaseMaker::~DatabaseMaker() = default;
 
 void DatabaseMaker::AddTable(const TableDefinition& Table)
 {
-    Translated(In->File, [&] {
-        std::string Columns;
-        for (const ColumnDefinition& Column : Table.Columns)
-            Columns += (Columns.empty() ? "" : ", ") + QuotedName(Column.Name) + " " +
-                       DeclaredType(Column.Type);
-        In->Base.exec("CREATE TABLE " + QuotedName(Table.Name) + " (" + Columns + ")");
-        for (const ColumnDefinition& Column : Table.Columns)
-            if (IsSearched(Column))
-                In->Base.exec("CREATE INDEX " + QuotedName(Table.Name + "." + Column.Name) +
-                              " ON " + QuotedName(Table.Name) + " (" + QuotedName(Column.Name) +
-                              (Column.Type == ColumnType::Text ? " COLLATE NOCASE)" : ")"));
-    });
+    Translated(In->File, [&] { In->Base.exec(MakingOf(Table)); });
 }
 
 void DatabaseMaker::Insert(const TableDefinition& Table, const std::vector<std::string>& Columns,

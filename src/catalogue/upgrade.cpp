@@ -4,6 +4,7 @@
 #include "store/file_version.h"
 #include "store/guard.h"
 #include "store/sql_text.h"
+#include "store/sqlite_error.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <algorithm>
@@ -82,6 +83,20 @@ try {
     Transaction.commit();
 } catch (const SQLite::Exception&) {
     // the older form is read and written as before
+}
+
+void EnsureTable(const std::filesystem::path& File, const TableDefinition& Table)
+{
+    Translated(File, [&] {
+        SQLite::Database Base(File.string(), SQLite::OPEN_READWRITE, BusyMilliseconds);
+        Distrust(Base);
+        SQLite::Transaction Transaction(Base, SQLite::TransactionBehavior::IMMEDIATE);
+        if (Base.execAndGet("PRAGMA user_version").getInt() > FileVersion)
+            throw Failure(FailureKind::DatabaseNewer, DisplayName(File));
+        if (!Base.tableExists(Table.Name))
+            Base.exec(MakingOf(Table));
+        Transaction.commit();
+    });
 }
 
 } // namespace orvane

@@ -12,4 +12,8 @@ namespace orvane {
 // file that can't be written to now, or is no database, stays as it is for another time.
 void BringUpToDate(const std::filesystem::path& File, const DatabaseDefinition& Definition);
 
+// Makes a table that the file lacks, empty; one that is there stays. Nobody may have the file open
+// to read. Failure when the file can't be written to now, or is of a later version.
+void EnsureTable(const std::filesystem::path& File, const TableDefinition& Table);
+
 } // namespace orvane

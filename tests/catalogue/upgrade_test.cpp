@@ -61,4 +61,17 @@ TEST_F(UpgradeTest, AFileThatCannotBeRebuiltNowIsLeftAsItIs)
     EXPECT_FALSE(std::filesystem::exists(Folder / "absent.mdb"));
 }
 
+TEST_F(UpgradeTest, ATableThatIsMissingIsMadeOnceAndNothingElse)
+{
+    const TableDefinition& Wanted = MatériauxDuPanier();
+    EnsureTable(File, Wanted);
+    Raw("Panier.mdb", "INSERT INTO PanierMatériaux (Ligne) VALUES (7)");
+    EnsureTable(File, Wanted);
+    EXPECT_EQ(RawCell("Panier.mdb", "SELECT Num || '-' || Ligne FROM PanierMatériaux"), "1-7");
+    EXPECT_EQ(RawCell("Panier.mdb", "SELECT count(*) FROM PanierGlobal"), "2");
+    EXPECT_EQ(RawCell("Panier.mdb", "PRAGMA user_version"), "0");
+    Raw("Panier.mdb", "DROP TABLE PanierMatériaux; PRAGMA user_version = 99");
+    EXPECT_FAILS(DatabaseNewer, EnsureTable(File, Wanted));
+}
+
 } // namespace orvane
