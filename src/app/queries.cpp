@@ -33,12 +33,6 @@ Recordset OuvrirEnregistrements2(Variables& Globals, const std::string& Requête
     return Globals.Enregistrements2.Take();
 }
 
-void Supprimer(Variables& Globals, const std::string& Requête)
-{
-    Globals.TexteSQL = Requête;
-    Globals.BaseDonnées->Execute(Globals.TexteSQL);
-}
-
 void AjouterÀLaListe(Recordset Lignes, ListControl& Liste, std::string_view Colonne)
 {
     for (; !Lignes.Eof(); Lignes.MoveNext())

@@ -35,9 +35,6 @@ Recordset PremierEnregistrement(Variables& Globals, const std::string& Requête)
 // The rows of a query in BaseDonnées2.
 Recordset OuvrirEnregistrements2(Variables& Globals, const std::string& Requête);
 
-// "DELETE * FROM table WHERE condition", in BaseDonnées.
-void Supprimer(Variables& Globals, const std::string& Requête);
-
 // Adds Colonne of each row to the list, behind what it holds; a query without rows adds nothing.
 // Rows without a value are passed over.
 void AjouterÀLaListe(Recordset Lignes, ListControl& Liste, std::string_view Colonne);

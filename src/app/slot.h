@@ -27,6 +27,8 @@ class Slot
         return &*Content;
     }
 
+    Type& operator*() { return *operator->(); }
+
     // What it holds, which leaves it empty.
     Type Take() { return *std::exchange(Content, std::nullopt); }
 

@@ -1,12 +1,9 @@
 #include "basket/frm_panier.h"
 
 #include "app/queries.h"
-#include "base/failure.h"
-#include "base/notation.h"
 #include "base/text.h"
-#include "base/typography.h"
 #include "basket/orders.h"
-#include "toolkit/calculation.h"
+#include "basket/totals.h"
 
 namespace orvane {
 
@@ -69,44 +66,22 @@ void frm_Panier::RemplirListes()
 
 void frm_Panier::TotalCoûtant()
 {
-    Totaliser("PrixCoûtant", txt_TotalPanierCoûtant);
+    Totaliser(&LigneDePanier::PrixCoûtant, txt_TotalPanierCoûtant);
 }
 
 void frm_Panier::TotalVente()
 {
-    Totaliser("PrixVente", txt_TotalPanierVente);
+    Totaliser(&LigneDePanier::PrixVente, txt_TotalPanierVente);
 }
 
-// Over all orders and realms. A row without a price counts nothing; one whose price can't be
-// counted leaves no total, and the box tells which.
-void frm_Panier::Totaliser(const std::string& Colonne, TextBox& Total)
+// Over all orders and realms. What can't be counted leaves no total, and the box tells which row.
+void frm_Panier::Totaliser(std::string LigneDePanier::*Prix, TextBox& Où)
 {
-    TotalPanier = {};
-    std::size_t LigneComptée = 0;
     const Ouverture Base(App, Globals.CheminPanier);
-    const bool Juste = Calculate({}, [&] {
-        for (Recordset Lignes = OuvrirEnregistrements("SELECT " + Colonne + " FROM PanierGlobal");
-             !Lignes.Eof(); Lignes.MoveNext(), ++LigneComptée) {
-            const std::string Prix = Lignes.IsNull(Colonne) ? "0" : Lignes.Text(Colonne);
-            const auto Lu = Montant::FromText(Prix);
-            if (!Lu)
-                throw Failure(FailureKind::WrongText, Prix);
-            TotalPanier = TotalPanier + *Lu;
-        }
-    });
-    Total.Text = Juste ? T(TotalPanier) : "";
-    Total.Marked = !Juste;
-    Total.Tip = Juste ? "" : Faute(LigneComptée);
-}
-
-// What is to be done about a row of the table, from 0.
-std::string frm_Panier::Faute(std::size_t Ligne)
-{
-    Recordset Lignes = OuvrirEnregistrements("SELECT * FROM PanierGlobal");
-    Lignes.MoveTo(Ligne);
-    return Typeset("Le prix de « " + Lignes.TextOrEmpty("Nom") + " » (commande « " +
-                   Lignes.TextOrEmpty("Acheteur") + " », " + Lignes.TextOrEmpty("Royaume") +
-                   ") ne peut pas être compté.");
+    const Total Compté = orvane::Totaliser(LireLignes(*Globals.BaseDonnées, {}), Prix);
+    Où.Text = Compté.Texte;
+    Où.Marked = !Compté.Faute.empty();
+    Où.Tip = Compté.Faute;
 }
 
 std::array<ListBox*, 5> frm_Panier::Listes()
@@ -163,7 +138,7 @@ void frm_Panier::cmd_SupprimerObjet_Click()
         return;
     {
         const Ouverture Base(App, Globals.CheminPanier);
-        Supprimer(Globals, "DELETE * FROM PanierGlobal WHERE Num=" + lst_Num.Text);
+        SupprimerLigne(*Globals.BaseDonnées, lst_Num.Text);
     }
     ViderListes();
     RemplirListes();
@@ -175,8 +150,7 @@ void frm_Panier::cmd_SupprimerCommande_Click()
 {
     {
         const Ouverture Base(App, Globals.CheminPanier);
-        Supprimer(Globals,
-                  "DELETE * FROM PanierGlobal WHERE Acheteur=" + Quoted(cbo_Commandes.Text));
+        SupprimerCommande(*Globals.BaseDonnées, cbo_Commandes.Text);
     }
     ViderListes();
     RemplirCommandes(App);

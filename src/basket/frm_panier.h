@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/feuille.h"
-#include "base/montant.h"
+#include "basket/order_lines.h"
 
 #include <array>
 
@@ -48,16 +48,13 @@ class frm_Panier : public Feuille
     void Définir();
     std::array<ListBox*, 5> Listes();
     void MettreAuPas(const ListBox& Choisie);
-    void Totaliser(const std::string& Colonne, TextBox& Total);
-    std::string Faute(std::size_t Ligne);
+    void Totaliser(std::string LigneDePanier::*Prix, TextBox& Où);
     void NommerLignes(const std::string& Acheteur);
 
     void cbo_Commandes_Click();
     void cmd_Enregistrer_Click();
     void cmd_SupprimerObjet_Click();
     void cmd_SupprimerCommande_Click();
-
-    Montant TotalPanier;
 };
 
 } // namespace orvane

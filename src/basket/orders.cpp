@@ -1,8 +1,11 @@
 #include "basket/orders.h"
 
 #include "app/queries.h"
+#include "base/failure.h"
 #include "base/typography.h"
 #include "basket/frm_panier.h"
+#include "catalogue/upgrade.h"
+#include "toolkit/calculation.h"
 
 #include <algorithm>
 
@@ -19,14 +22,59 @@ bool AUneSaisieFausse(const Screen& Feuille)
     });
 }
 
-std::string ÀFaireDAbord(const TextBox& Prix)
+std::string ÀFaireDAbord(const Screen& Atelier, const TextBox* Attendue)
 {
-    if (AUneSaisieFausse(Prix.Owner()))
+    if (AUneSaisieFausse(Atelier))
         return "corrigez d’abord les nombres saisis.";
-    if (Prix.WaitsFor != nullptr)
-        return "corrigez d’abord « " + std::string(Prix.WaitsFor->Called) +
+    if (Attendue != nullptr)
+        return "corrigez d’abord « " + std::string(Attendue->Called) +
                " », que cet écran ne montre pas en ce moment.";
     return "refaites d’abord le dernier choix.";
+}
+
+void Refuser(Application& App, const Screen& Atelier, const TextBox* Attendue)
+{
+    App.MsgBox(
+        Typeset("Les prix affichés ne sont pas à jour : " + ÀFaireDAbord(Atelier, Attendue)));
+}
+
+// A line of which a material is beyond what can be counted is stored all the same, without any.
+Achats MatériauxDe(const LigneCommande& Ligne)
+{
+    try {
+        return Ligne.Matériaux();
+    } catch (const Failure& Given) {
+        if (Given.Kind() != FailureKind::Overflow)
+            throw;
+        return {};
+    }
+}
+
+// Before the basket is open, as the table is made by itself.
+void PréparerMatériaux(Application& App)
+{
+    const std::string& Chemin = App.Globals.CheminPanier;
+    const auto EstPrêt = [&] {
+        const Ouverture Base(App, App.Globals.BaseDonnées2, Chemin);
+        return App.Globals.BaseDonnées2->HasTable(MatériauxDuPanier().Name);
+    };
+    if (!EstPrêt())
+        EnsureTable(Chemin, MatériauxDuPanier());
+}
+
+void Enregistrer(Application& App, const LigneCommande& Ligne, const Achats& Matériaux)
+{
+    PréparerMatériaux(App);
+    const Ouverture Base(App, App.Globals.BaseDonnées2, App.Globals.CheminPanier);
+    AjouterLigne(*App.Globals.BaseDonnées2,
+                 {{},
+                  Ligne.Nom,
+                  Ligne.Nb.Text,
+                  Ligne.PrixCoûtant.Text,
+                  Ligne.PrixVente.Text,
+                  App.Globals.RoyaumeCourant,
+                  App.Feuilles.Get<frm_Panier>().cbo_Commandes.Text},
+                 Matériaux);
 }
 
 } // namespace
@@ -62,24 +110,15 @@ void AjouterAuPanier(Application& App, bool EstChoisi, const LigneCommande& Lign
         App.MsgBox(SansChoix);
         return;
     }
-    if (Ligne.PrixCoûtant.Stale || Ligne.PrixVente.Stale) {
-        App.MsgBox(
-            Typeset("Les prix affichés ne sont pas à jour : " +
-                    ÀFaireDAbord(Ligne.PrixVente.Stale ? Ligne.PrixVente : Ligne.PrixCoûtant)));
-        return;
+    const Screen& Atelier = Ligne.PrixVente.Owner();
+    for (const TextBox* Prix : {&Ligne.PrixVente, &Ligne.PrixCoûtant})
+        if (Prix->Stale)
+            return Refuser(App, Atelier, Prix->WaitsFor);
+    try {
+        Enregistrer(App, Ligne, MatériauxDe(Ligne));
+    } catch (const UnusableText& Given) {
+        Refuser(App, Atelier, Given.Input);
     }
-    Variables& Globals = App.Globals;
-    const Ouverture Base(App, Globals.BaseDonnées2, Globals.CheminPanier);
-    // no row is needed to add one
-    Recordset Panier = OuvrirEnregistrements2(Globals, "SELECT * FROM PanierGlobal WHERE Num=0");
-    Panier.AddNew();
-    Panier.Set("Nom", Ligne.Nom);
-    Panier.Set("Nb", Ligne.Nb.Text);
-    Panier.Set("PrixCoûtant", Ligne.PrixCoûtant.Text);
-    Panier.Set("PrixVente", Ligne.PrixVente.Text);
-    Panier.Set("Royaume", Globals.RoyaumeCourant);
-    Panier.Set("Acheteur", App.Feuilles.Get<frm_Panier>().cbo_Commandes.Text);
-    Panier.Update();
 }
 
 } // namespace orvane

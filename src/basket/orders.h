@@ -1,7 +1,9 @@
 #pragma once
 
 #include "app/application.h"
+#include "basket/order_lines.h"
 
+#include <functional>
 #include <string>
 
 // What the other subsystems need of the basket.
@@ -15,19 +17,20 @@ void OuvrirPanier(Application& App);
 // Refills the list of orders; the order in hand is then NouvelleCommande.
 void RemplirCommandes(Application& App);
 
-// An object line: its label, and the boxes whose texts go into the row as they stand, decimal comma
-// included. Prices stand for the whole line.
+// An object line: its label, the boxes whose texts go into the row as they stand, decimal comma
+// included, and what one buys for it. Prices stand for the whole line.
 struct LigneCommande
 {
     std::string Nom;
     const TextBox& Nb;
     const TextBox& PrixCoûtant;
     const TextBox& PrixVente;
+    std::function<Achats()> Matériaux; // may fail as a calculation does
 };
 
 // What "Ajouter au panier" does on every craft screen: a row under the order in hand and the
-// current realm. Without a choice, or with prices that are stale, a message instead. The basket
-// screen isn't refreshed.
+// current realm, with its materials. Without a choice, or with figures that are wrong or stale, a
+// message instead. The basket screen isn't refreshed.
 void AjouterAuPanier(Application& App, bool EstChoisi, const LigneCommande& Ligne,
                      const char* SansChoix = "Aucun objet sélectionné.");
 

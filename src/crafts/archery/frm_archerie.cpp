@@ -5,6 +5,7 @@
 #include "basket/orders.h"
 #include "crafts/common/lecture.h"
 #include "crafts/common/object_pictures.h"
+#include "crafts/common/purchases.h"
 #include "crafts/common/recalculating_input.h"
 #include "crafts/common/sale.h"
 #include "settings/level_indicator.h"
@@ -92,7 +93,8 @@ void frm_Archerie::cmd_AjouterPanier_Click()
 {
     AjouterAuPanier(App, cbo_Objet.Text != "",
                     {"Carquois de " + cbo_Type.Text + " - " + cbo_Objet.Text, txt_NbObjet,
-                     txt_PrixCoûtant, txt_PrixVente},
+                     txt_PrixCoûtant, txt_PrixVente,
+                     [this] { return AchatsPour(Lots({&txt_NbObjet}), {{&Matériaux}}); }},
                     "Aucun carquois sélectionné.");
 }
 

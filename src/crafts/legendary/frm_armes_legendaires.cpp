@@ -4,6 +4,7 @@
 #include "app/trades.h"
 #include "basket/orders.h"
 #include "crafts/common/object_pictures.h"
+#include "crafts/common/purchases.h"
 #include "crafts/common/recalculating_input.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 #include "settings/frm_configuration.h"
@@ -120,9 +121,19 @@ void frm_ArmesLégendaires::EffacerArme()
 
 void frm_ArmesLégendaires::cmd_AjouterPanier_Click()
 {
-    AjouterAuPanier(
-        App, cbo_Arme.Text != "" && cbo_Type.Text != "",
-        {cbo_Arme.Text + " " + cbo_Type.Text, txt_NbObjet, txt_PrixCoûtantTotal, txt_PrixVente});
+    AjouterAuPanier(App, cbo_Arme.Text != "" && cbo_Type.Text != "",
+                    {cbo_Arme.Text + " " + cbo_Type.Text, txt_NbObjet, txt_PrixCoûtantTotal,
+                     txt_PrixVente, [this] { return Achetés(); }});
+}
+
+Achats frm_ArmesLégendaires::Achetés()
+{
+    return AchatsPour(Lots({&txt_NbObjet, &txt_NbEssais}),
+                      {{&Arme.Matériaux, &txt_QtéArme},
+                       {&Gemme.Matériaux, &txt_QtéGemme, &txt_Gemme, &txt_PrixGemme},
+                       {&Teinture.Matériaux, &txt_QtéTeinture, &txt_Teinture, &txt_PrixTeinture},
+                       {nullptr, &txt_QtéMatériau, &txt_Matériau, &txt_PrixMatériau},
+                       {nullptr, &txt_QtéSpécial, &txt_Spécial, &txt_PrixSpécial}});
 }
 
 } // namespace orvane

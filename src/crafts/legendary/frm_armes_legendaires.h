@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/feuille.h"
+#include "basket/order_lines.h"
 #include "crafts/common/nomenclature.h"
 
 #include <cstdint>
@@ -184,6 +185,7 @@ class frm_ArmesLégendaires : public Feuille
     void CalculerTotaux();
 
     void cmd_AjouterPanier_Click();
+    Achats Achetés();
 
     std::string CheminArtisanat;  // realm database of this activation
     std::string CheminTeintures;  // alchemy database

@@ -146,21 +146,4 @@ void frm_ArtisanatsMagiques::Bar_Menus_ItemClick(const SideMenu::Item& Entrée)
         OuvrirPanier(App);
 }
 
-void frm_ArtisanatsMagiques::cmd_AjouterPanier_Click()
-{
-    if (lbl_Artisanat.Caption == "Alchimie") {
-        const bool Teinture = cbo_Produit.Text == "Teintures";
-        const std::string Détail = Teinture ? cbo_ProduitDétaillé.Text + " : " : std::string();
-        AjouterAuPanier(App, cbo_Objet.Text != "",
-                        {Détail + cbo_Objet.Text, txt_NbObjetAlchimie, txt_PrixCoûtantAlchimie,
-                         txt_PrixVenteAlchimie});
-    } else {
-        AjouterAuPanier(
-            App, cbo_DegréGemmes.Text != "",
-            {cbo_TypeGemmes.Text + " " + cbo_SousTypeGemmes.Text + " " + cbo_DegréGemmes.Text,
-             txt_ArcanesNbObjet, txt_ArcanesPrixCoûtantTotal, txt_ArcanesPrixVenteTotal},
-            "Aucune gemme sélectionnée.");
-    }
-}
-
 } // namespace orvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/feuille.h"
+#include "basket/order_lines.h"
 #include "crafts/common/alchemy_object.h"
 #include "crafts/common/nomenclature.h"
 
@@ -239,7 +240,10 @@ class frm_ArtisanatsMagiques : public Feuille
     // without good prices, as they share the bills.
     void LireChoix(const std::function<void()>& Lire, void (frm_ArtisanatsMagiques::*Calculer)());
 
+    // Basket
     void cmd_AjouterPanier_Click();
+    std::int64_t LotsDeGemmes();
+    Achats Achetés(std::int64_t Lots);
 
     std::int16_t NiveauAlchimie = 0; // the crafter's levels
     std::int16_t NiveauArcanes = 0;

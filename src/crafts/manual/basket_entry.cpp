@@ -1,4 +1,5 @@
 #include "basket/orders.h"
+#include "crafts/common/purchases.h"
 #include "crafts/manual/frm_artisanats_manuels.h"
 
 namespace orvane {
@@ -10,7 +11,14 @@ void frm_ArtisanatsManuels::cmd_AjouterPanier_Click()
     const std::string Type = cbo_TypeDégats.Visible ? cbo_TypeDégats.Text + " " : std::string();
     AjouterAuPanier(App, cbo_Degré.Text != "",
                     {cbo_Objet.Text + " " + Type + cbo_Degré.Text, txt_NbObjet,
-                     txt_PrixCoûtantTotal, txt_PrixVente});
+                     txt_PrixCoûtantTotal, txt_PrixVente, [this] { return Achetés(); }});
+}
+
+Achats frm_ArtisanatsManuels::Achetés()
+{
+    return AchatsPour(
+        Lots({&txt_NbObjet, &txt_NbEssais}),
+        {{&Matériaux}, {&MatériauxSup, &txt_NbObjetSup, &txt_ObjetSup, &txt_ObjetSUpPrixCoûtant}});
 }
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/feuille.h"
+#include "basket/order_lines.h"
 #include "crafts/common/alchemy_object.h"
 #include "crafts/common/nomenclature.h"
 
@@ -156,6 +157,7 @@ class frm_ArtisanatsManuels : public Feuille
     void txt_MatSup_Change(LigneMatériau& Ligne);
 
     void cmd_AjouterPanier_Click();
+    Achats Achetés();
 
     std::int16_t NiveauCraft = 0;    // the crafter's level in the trade in hand
     std::int16_t NiveauAlchimie = 0; // and in alchemy

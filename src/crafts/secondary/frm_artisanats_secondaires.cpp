@@ -4,6 +4,7 @@
 #include "basket/orders.h"
 #include "crafts/common/material_codes.h"
 #include "crafts/common/object_pictures.h"
+#include "crafts/common/purchases.h"
 #include "crafts/common/recalculating_input.h"
 
 namespace orvane {
@@ -73,7 +74,8 @@ void frm_ArtisanatsSecondaires::cmd_AjouterPanier_Click()
 {
     AjouterAuPanier(App, cbo_ObjetSecondaire.Text != "",
                     {cbo_ObjetSecondaire.Text, txt_SellerieNbObjets, txt_SelleriePrixCoûtant,
-                     txt_SelleriePrixVente});
+                     txt_SelleriePrixVente,
+                     [this] { return AchatsPour(Lots({&txt_SellerieNbObjets}), {{&Matériaux}}); }});
 }
 
 } // namespace orvane
