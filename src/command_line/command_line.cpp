@@ -15,11 +15,6 @@ constexpr int Done = 0;
 constexpr int Failed = 1;
 constexpr int NotUnderstood = 2;
 
-struct Misunderstanding
-{
-    std::string Sentence;
-};
-
 // What was asked for: a command or none, with all that was said beside it.
 struct Request
 {
@@ -113,10 +108,10 @@ std::filesystem::path ChosenFolder(const Given& What)
     return std::filesystem::absolute(Named);
 }
 
-int Run(const Request& Asked, std::ostream& Out)
+int Run(const Request& Asked, std::ostream& Out, std::ostream& Remarks)
 {
     UseFrench();
-    const int Status = Asked.Asked->Run(Asked.What, Out);
+    const int Status = Asked.Asked->Run(Asked.What, Out, Remarks);
     if (!Out.flush())
         throw Failure(FailureKind::Told, "La réponse n’a pas pu être écrite jusqu’au bout.");
     return Status;
@@ -133,7 +128,7 @@ CommandLine RunCommandLine(const std::vector<std::string>& Arguments,
         Asked.What.Folder = ChosenFolder(Asked.What);
         if (Asked.Asked == nullptr)
             return {Asked.What.Folder, {}};
-        return {Asked.What.Folder, Run(Asked, Out)};
+        return {Asked.What.Folder, Run(Asked, Out, Errors)};
     } catch (const Misunderstanding& Unclear) {
         Errors << Typeset(Unclear.Sentence + " « orvane --help » montre les options.") << "\n";
         return {ProgramFolder, NotUnderstood};

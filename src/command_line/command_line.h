@@ -17,8 +17,9 @@ struct CommandLine
 };
 
 // Runs what Arguments ask for (without the program's name). Arguments with a single dash, and the
-// word behind each, are the toolkit's and pass. Status 0: done; 1: it failed, with one French
-// sentence on Errors; 2: it can't be understood, likewise.
+// word behind each, are the toolkit's and pass. Status 0: done, with what is to be known
+// beside the answer on Errors; 1: it failed, with one French sentence on Errors; 2: it can't be
+// understood, likewise.
 CommandLine RunCommandLine(const std::vector<std::string>& Arguments,
                            const std::filesystem::path& ProgramFolder, std::ostream& Out,
                            std::ostream& Errors);

@@ -2,6 +2,7 @@
 
 #include "app/version.h"
 #include "base/text.h"
+#include "command_line/purchases.h"
 #include "makers/jet.h"
 
 #include <algorithm>
@@ -10,7 +11,7 @@ namespace orvane {
 
 namespace {
 
-int TellHelp(const Given&, std::ostream& Out)
+int TellHelp(const Given&, std::ostream& Out, std::ostream&)
 {
     Out << "orvane [--dossier DOSSIER] [OPTION]\n"
            "Sans option, le programme ouvre ses fenêtres.\n\n";
@@ -19,13 +20,13 @@ int TellHelp(const Given&, std::ostream& Out)
     return 0;
 }
 
-int TellVersion(const Given&, std::ostream& Out)
+int TellVersion(const Given&, std::ostream& Out, std::ostream&)
 {
     Out << "orvane " << VersionMajeure << "." << VersionMineure << "\n";
     return 0;
 }
 
-int Import(const Given& What, std::ostream&)
+int Import(const Given& What, std::ostream&, std::ostream&)
 {
     ImporterJet(What.Operands[0]);
     return 0;
@@ -38,6 +39,12 @@ std::span<const Option> Options()
     static const std::vector<Option> Table{
         {"--help", {}, "montre cette aide", TellHelp},
         {"--version", {}, "montre la version du programme", TellVersion},
+        {"--liste",
+         {"COMMANDE"},
+         "écrit ce qu’il faut acheter pour une commande, en CSV",
+         ListPurchases,
+         {"--royaume"}},
+        {"--royaume", {"ROYAUME"}, "ne prend que ce royaume"},
         {"--importer",
          {"FICHIER"},
          "convertit une base Jet à sa place ; l’original reste à côté, sous NOM.jet.mdb",

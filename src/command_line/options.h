@@ -20,9 +20,15 @@ struct Given
     bool Has(const std::string& Word) const { return Words.contains(Word); }
 };
 
-// Does what an option asks for, says what it has to say on Out, and returns the exit status.
-// Failure: the caller tells it, status 1.
-using Command = int (*)(const Given&, std::ostream& Out);
+// Words that don't make sense together, or an operand that nothing is called: status 2.
+struct Misunderstanding
+{
+    std::string Sentence;
+};
+
+// Does what an option asks for, says what it has to say on Out, what is to be known beside it on
+// Remarks, and returns the exit status. Failure: the caller tells it, status 1. Misunderstanding.
+using Command = int (*)(const Given&, std::ostream& Out, std::ostream& Remarks);
 
 // A row of the table of options: a command, or a word that goes with others.
 struct Option

@@ -42,6 +42,8 @@ TEST(CommandLine, WhatCannotBeUnderstoodIsToldInOneSentence)
                                                   {"--dossier"},
                                                   {"--dossier", "--help"},
                                                   {"--help", "--version"},
+                                                  {"--royaume", "Valdren"},
+                                                  {"--liste", "Zoé", "--royaume"},
                                                   {"--dossier", "/", "--dossier", "/"}}) {
         const Answer Told = Ask(Wrong);
         EXPECT_EQ(Told.Line.Status, 2) << Wrong[0];
@@ -61,7 +63,8 @@ TEST(CommandLine, HelpTellsEveryOption)
 {
     const Answer Told = Ask({"--help"});
     EXPECT_EQ(Told.Line.Status, 0);
-    for (const char* Each : {"--help", "--version", "--dossier DOSSIER"})
+    for (const char* Each :
+         {"--help", "--version", "--dossier DOSSIER", "--liste COMMANDE [--royaume ROYAUME]"})
         EXPECT_NE(Told.Out.find(Each), std::string::npos) << Each;
     EXPECT_EQ(Ask({"--version"}).Out.substr(0, 7), "orvane ");
 }

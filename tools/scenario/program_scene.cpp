@@ -1,6 +1,7 @@
 #include "scenario/program_scene.h"
 
 #include "scenario/lines.h"
+#include "scenario/outputs.h"
 
 namespace orvane::scenario {
 
@@ -20,6 +21,10 @@ std::string ProgramScene::Look(const std::string& What)
         return Screens();
     if (What == "fins")
         return std::to_string(Quits);
+    if (What.starts_with("orvane "))
+        return Answer(What, Path());
+    if (What.starts_with("copie "))
+        return Copied(What, Running());
     if (What.find(".mdb/") != std::string::npos)
         return Folder.Stored(What);
     if (What.starts_with("lignes "))

@@ -18,7 +18,8 @@ class ProgramScene : public Scene
 
     // Beside the controls: "écrans", the visible screens from the lowest to the highest; "fins",
     // how often the program was asked to end; rows of a table; "lignes (lst_Objet, lst_Nb)", lists
-    // that stand side by side.
+    // that stand side by side; what a command line answers, "orvane --version"; "copie achats" and
+    // "copie acheteur" of the order in hand.
     std::string Look(const std::string& What) override;
 
     void Act(const Step& Which) override;
