@@ -1,6 +1,7 @@
 #include "view/desktop.h"
 
 #include "toolkit/user.h"
+#include "view/accessibility.h"
 #include "view/act.h"
 #include "view/keyboard_focus.h"
 #include "view/screen_window.h"
@@ -24,6 +25,7 @@ Desktop::Desktop(Forms& TheForms, User& TheUser, Menus TheMenus)
       TheMenus(std::move(TheMenus))
 {
     QApplication::setQuitOnLastWindowClosed(false);
+    InstallInterfaces();
     qApp->installEventFilter(this);
     TheForms.Observe(this);
 }

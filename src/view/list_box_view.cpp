@@ -8,7 +8,8 @@
 #include "view/look.h"
 #include "view/qt_text.h"
 
-#include <QCoreApplication>
+#include <QAccessible>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
 
@@ -94,6 +95,8 @@ void ListBoxView::FollowItems()
     verticalScrollBar()->setValue(Row);
     ShowChoice();
     ArrangeColumns(*this);
+    if (TheBox.ListIndex < 0) // whatever row had the keyboard is gone
+        TellChoice();
 }
 
 void ListBoxView::ShowChoice()
@@ -112,6 +115,33 @@ void ListBoxView::ShowColours()
     setPalette(Colours);
 }
 
+void ListBoxView::LeaveKeyboardTo(ListBoxView& NewFirst)
+{
+    First = &NewFirst;
+    setFocusPolicy(First == this ? Qt::StrongFocus : Qt::NoFocus);
+    if (hasFocus())
+        First->setFocus();
+}
+
+void ListBoxView::initStyleOption(QStyleOptionFrame* Option) const
+{
+    QListView::initStyleOption(Option);
+    Option->state.setFlag(QStyle::State_HasFocus, First->hasFocus());
+}
+
+void ListBoxView::initViewItemOption(QStyleOptionViewItem* Option) const
+{
+    QListView::initViewItemOption(Option);
+    Option->state.setFlag(QStyle::State_Active, First->hasFocus());
+}
+
+std::vector<QWidget*> ListBoxView::TabStops()
+{
+    if (ColumnsOf(*this).front() != this)
+        return {};
+    return {this};
+}
+
 void ListBoxView::Pick(int Entry)
 {
     if (Entry < 0 || Entry >= TheBox.ListCount())
@@ -125,6 +155,55 @@ void ListBoxView::paintEvent(QPaintEvent* Event)
 {
     FollowItems();
     QListView::paintEvent(Event);
+}
+
+// QListView would tell screen readers of the change too, but by the place among its own entries,
+// which are cells of a table here: both pass it over.
+// NOLINTBEGIN(bugprone-parent-virtual-call)
+void ListBoxView::currentChanged(const QModelIndex& Current, const QModelIndex& Previous)
+{
+    QAbstractItemView::currentChanged(Current, Previous);
+    if (TheBox.ListIndex >= 0)
+        TellChoice();
+}
+
+void ListBoxView::selectionChanged(const QItemSelection& Now, const QItemSelection& Before)
+{
+    QAbstractItemView::selectionChanged(Now, Before);
+}
+// NOLINTEND(bugprone-parent-virtual-call)
+
+// The chosen row, or the table when there is none, by the list that has the keyboard.
+void ListBoxView::TellChoice()
+{
+    if (!QAccessible::isActive() || QApplication::focusWidget() != this)
+        return;
+    QAccessibleEvent Told(QAccessible::queryAccessibleInterface(this)->focusChild(),
+                          QAccessible::Focus);
+    QAccessible::updateAccessibility(&Told);
+}
+
+void ListBoxView::focusInEvent(QFocusEvent* Event)
+{
+    QListView::focusInEvent(Event);
+    ShowFocus();
+    if (TheBox.ListIndex >= 0) // behind what the toolkit tells of the list itself
+        QMetaObject::invokeMethod(this, &ListBoxView::TellChoice, Qt::QueuedConnection);
+}
+
+void ListBoxView::focusOutEvent(QFocusEvent* Event)
+{
+    QListView::focusOutEvent(Event);
+    ShowFocus();
+}
+
+// All columns show that one of them has the keyboard.
+void ListBoxView::ShowFocus()
+{
+    for (ListBoxView* Each : ColumnsOf(*this)) {
+        Each->update();
+        Each->viewport()->update();
+    }
 }
 
 void ListBoxView::keyPressEvent(QKeyEvent* Event)
@@ -181,6 +260,7 @@ void ListBoxView::keyboardSearch(const QString& Letters)
 void ListBoxView::mousePressEvent(QMouseEvent* Event)
 {
     FollowItems();
+    First->setFocus(Qt::MouseFocusReason);
     if (Event->button() == Qt::LeftButton)
         Pick(indexAt(Event->position().toPoint()).row());
 }

@@ -5,7 +5,6 @@
 #include <QScrollBar>
 
 #include <algorithm>
-#include <vector>
 
 namespace orvane {
 
@@ -13,43 +12,47 @@ namespace {
 
 bool AreColumns(const ListBox& One, const ListBox& Other)
 {
-    return One.Top() == Other.Top() && One.Height() == Other.Height() &&
-           One.ListCount() == Other.ListCount();
+    return One.Visible && Other.Visible && One.Top() == Other.Top() &&
+           One.Height() == Other.Height() && One.ListCount() == Other.ListCount();
 }
 
-std::vector<ListBoxView*> ListsOf(const QWidget& Window)
+ListColumns ListsOf(const QWidget& Window)
 {
-    std::vector<ListBoxView*> Result;
+    ListColumns Result;
     for (QListView* Each : Window.findChildren<QListView*>(Qt::FindDirectChildrenOnly))
         if (auto* List = dynamic_cast<ListBoxView*>(Each))
             Result.push_back(List);
     return Result;
 }
 
-bool HasColumnAtRight(const ListBoxView& One, const std::vector<ListBoxView*>& Lists)
-{
-    return std::ranges::any_of(Lists, [&](const ListBoxView* Other) {
-        return Other->Box().Visible && Other->Box().Left() > One.Box().Left() &&
-               AreColumns(One.Box(), Other->Box());
-    });
-}
-
 } // namespace
+
+ListColumns ColumnsOf(ListBoxView& One)
+{
+    ListColumns Result = ListsOf(*One.parentWidget());
+    std::erase_if(Result, [&](const ListBoxView* Each) {
+        return Each != &One && !AreColumns(One.Box(), Each->Box());
+    });
+    std::ranges::stable_sort(Result, {}, [](const auto* Each) { return Each->Box().Left(); });
+    return Result;
+}
 
 void ScrollColumns(ListBoxView& From, int Row)
 {
-    for (ListBoxView* Each : ListsOf(*From.parentWidget()))
-        if (Each != &From && AreColumns(From.Box(), Each->Box()))
-            Each->verticalScrollBar()->setValue(Row);
+    for (ListBoxView* Each : ColumnsOf(From))
+        Each->verticalScrollBar()->setValue(Row);
 }
 
-// The lists that have just stopped being columns of the changed one need their bars again.
+// All lists of the window: those that have just stopped being columns of the changed one need their
+// bars and the keyboard again.
 void ArrangeColumns(ListBoxView& Changed)
 {
-    const std::vector<ListBoxView*> Lists = ListsOf(*Changed.parentWidget());
-    for (ListBoxView* Each : Lists)
-        Each->setVerticalScrollBarPolicy(HasColumnAtRight(*Each, Lists) ? Qt::ScrollBarAlwaysOff
-                                                                        : Qt::ScrollBarAsNeeded);
+    for (ListBoxView* Each : ListsOf(*Changed.parentWidget())) {
+        const ListColumns Columns = ColumnsOf(*Each);
+        Each->setVerticalScrollBarPolicy(Each == Columns.back() ? Qt::ScrollBarAsNeeded
+                                                                : Qt::ScrollBarAlwaysOff);
+        Each->LeaveKeyboardTo(*Columns.front());
+    }
 }
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 #include "stage.h"
 #include "view/list_box_view.h"
 
+#include <QAccessible>
 #include <QScrollBar>
 
 namespace orvane {
@@ -14,6 +15,10 @@ class ListBoxOnScreen : public Stage
         Deeds["below"] = [this](auto&) { Click(*View().viewport(), {10, View().height() - 8}); };
         Deeds["choose"] = [this](const QString& Entry) { Names().ListIndex = Entry.toInt(); };
         Deeds["add"] = [this](const QString& Entry) { Names().AddItem(FromQt(Entry)); };
+        Deeds["price"] = [this](auto& Row) {
+            ClickRow(The<QListView>("lst_Prix"), Row.toInt());
+            Log() << Focused().objectName();
+        };
         Deeds["scroll"] = [this](const QString& Row) { PriceBar().setValue(Row.toInt()); };
         Deeds["fill"] = [this](const QString& Count) {
             Names().Clear();
@@ -52,6 +57,7 @@ constexpr Row PickRows[] = {
     {"ALetterFromTheChosenEntry", "<fill 3><add Écharpe><choose 0>o", "0|1"},
     {"TheProgramsChoice", "<fill 3><choose 2>", "2"},
     {"TheProgramsChoiceOfNone", "<fill 3><choose 2><choose -1>", "2|-1"},
+    {"AColumnLeavesTheKeyboardToTheFirst", "<fill 3><price 1><Down>", "lst_Noms|0"},
     {"RefilledAfterAPick", "<fill 3><row 2><fill 2>", "2"},
 };
 EACH_ROW(ListBoxOnScreen, PickRows);
@@ -74,6 +80,77 @@ constexpr Row ColumnRows[] = {
     {"WithoutItsNeighbour", "<fill 50><hide lst_Prix>", "bar - 0"},
 };
 EACH_ROW(ListColumns, ColumnRows);
+
+class ListsForReaders : public ListBoxOnScreen
+{
+  protected:
+    QList<QAccessibleInterface*> Tables()
+    {
+        QList<QAccessibleInterface*> Result;
+        auto& Area = Checked(QAccessible::queryAccessibleInterface(View().parent()), "area");
+        for (int i = 0; i < Area.childCount(); ++i)
+            if (Area.child(i)->role() == QAccessible::Table) {
+                EXPECT_EQ(Area.indexOfChild(Area.child(i)), i);
+                Result << Area.child(i);
+            }
+        return Result;
+    }
+    QAccessibleInterface& Table() { return *Tables().at(0); }
+
+    // Its cells, line by line, each found again at its place.
+    std::string Seen() override
+    {
+        QAccessibleInterface& Whole = Table();
+        const QAccessibleTableInterface& Rows = *Whole.tableInterface();
+        EXPECT_EQ(Whole.childCount(), (Rows.rowCount() + 1) * Rows.columnCount());
+        QStringList Result;
+        for (int i = 0; i < Whole.childCount(); ++i) {
+            QAccessibleInterface& Cell = *Whole.child(i);
+            auto& Place = *Cell.tableCellInterface();
+            EXPECT_EQ(Whole.indexOfChild(&Cell), i);
+            EXPECT_EQ(Rows.cellAt(Place.rowIndex(), Place.columnIndex()), &Cell);
+            if (Place.columnIndex() == 0)
+                Result << "";
+            Result.last() += Cell.text(QAccessible::Name) + ";";
+            if (Place.rowIndex() < 0) {
+                EXPECT_EQ(Cell.role(), QAccessible::ColumnHeader);
+                continue;
+            }
+            EXPECT_EQ(Place.columnHeaderCells().at(0), Whole.child(Place.columnIndex()));
+            const QPoint Middle = Cell.rect().center();
+            EXPECT_EQ(Whole.childAt(Middle.x(), Middle.y()), &Cell);
+        }
+        return FromQt(Result.join('|'));
+    }
+};
+
+TEST_F(ListsForReaders, AreOneTableWithARowForEachEntry)
+{
+    Names().Called = "Objet fabriqué";
+    Atelier().lst_Prix.Called = "Prix";
+    Play("<fill 2><choose 1>");
+    ASSERT_EQ(Tables().size(), 1);
+    EXPECT_EQ(Seen(), "Objet fabriqué;Prix;|Objet 0;0;|Objet 1;10;");
+    EXPECT_EQ(Table().text(QAccessible::Name), "Objet fabriqué");
+    EXPECT_EQ(Table().tableInterface()->rowDescription(0), "Objet 0, Prix 0");
+
+    const QAccessibleInterface* Chosen = Table().focusChild();
+    ASSERT_NE(Chosen, nullptr);
+    EXPECT_EQ(Chosen->text(QAccessible::Name), "Objet 1");
+    EXPECT_EQ(Chosen->text(QAccessible::Description), "Prix 10");
+    EXPECT_TRUE(Chosen->state().focused && Chosen->state().selected);
+    EXPECT_EQ(Table().tableInterface()->selectedRows(), QList<int>{1});
+    EXPECT_EQ(Table().tableInterface()->selectedCellCount(), 2);
+
+    EXPECT_TRUE(Table().tableInterface()->selectRow(0));
+    EXPECT_EQ(ListBoxOnScreen::Seen(), "1|0");
+    Play("<fill 1>");
+    EXPECT_EQ(Seen(), "Objet fabriqué;Prix;|Objet 0;0;");
+    EXPECT_EQ(Table().focusChild(), &Table()) << "no row is chosen";
+    Play("<add une de plus>");
+    EXPECT_EQ(Tables().size(), 2) << "lists of different lengths are none's columns";
+    EXPECT_EQ(Seen(), "Objet fabriqué;|Objet 0;|une de plus;");
+}
 
 using ListBoxHandlers = ListBoxOnScreen;
 
