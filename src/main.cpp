@@ -7,9 +7,9 @@
 #include "view/desktop.h"
 #include "view/dialogs/menus.h"
 #include "view/french.h"
-#include "view/look.h"
 #include "view/picture_source.h"
 #include "view/qt_dialogs.h"
+#include "view/qt_text.h"
 #include "view/style.h"
 
 #include <QApplication>
@@ -117,6 +117,10 @@ int main(int Count, char** Arguments)
     Loading.wait();
     Boxes.StandAbove(App.Feuilles);
     Desktop Windows(App.Feuilles, App.Door, ProgramMenus(App));
+    App.OnAdded = [&](Screen& From, const std::string& Commande) {
+        Windows.Answer(From.Find("cmd_AjouterPanier"),
+                       ToQt(Typeset("Ajouté à la commande « ") + Commande + Typeset(" »")));
+    };
     if (!Started(App, Loading, Boxes))
         return EXIT_FAILURE;
     QTimer::singleShot(0, &Toolkit, [&] { // the first picture doesn't wait for it

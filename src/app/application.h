@@ -44,6 +44,10 @@ class Application
     User Door;
     std::function<void()> OnQuit = [] {}; // ends the process
 
+    // A line has gone into that order from that screen: whoever keeps the windows answers it.
+    std::function<void(Screen& From, const std::string& Commande)> OnAdded =
+        [](Screen&, const std::string&) {};
+
   private:
     // What runs at the end of each event: empties the shared slots, and tells of pictures that only
     // the event asked for; once in a run, for an incomplete folder would stop a person at each

@@ -15,6 +15,7 @@ void PoserBannière(Application& App, Image& Bannière)
 {
     Bannière.Picture =
         App.Images.LoadOr(App.Chemin("/Interface/Bannière" + App.Globals.RoyaumeCourant + ".gif"));
+    Bannière.Tip = "Royaume de " + App.Globals.RoyaumeCourant;
 }
 
 void PoserIcône(Application& App, Screen& Which)

@@ -41,6 +41,7 @@ void frm_Panier::Définir()
     lbl_Total.Bold = true;
     Place(txt_TotalPanierCoûtant, {596, 475, 134, 24}, "Total, prix coûtant");
     Place(txt_TotalPanierVente, {734, 475, 134, 24}, "Total, prix de vente");
+    txt_TotalPanierVente.IsAnswer = true;
 
     PlaceButton(cmd_SupprimerObjet, "Supprimer l’objet", "Retirer la ligne choisie de la commande",
                 {16, 532, 200, 48}, "Del");

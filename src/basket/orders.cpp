@@ -38,6 +38,11 @@ void Refuser(Application& App, const Screen& Atelier, const TextBox* Attendue)
         Typeset("Les prix affichés ne sont pas à jour : " + ÀFaireDAbord(Atelier, Attendue)));
 }
 
+const std::string& CommandeEnMain(Application& App)
+{
+    return App.Feuilles.Get<frm_Panier>().cbo_Commandes.Text;
+}
+
 // A line of which a material is beyond what can be counted is stored all the same, without any.
 Achats MatériauxDe(const LigneCommande& Ligne)
 {
@@ -73,7 +78,7 @@ void Enregistrer(Application& App, const LigneCommande& Ligne, const Achats& Mat
                   Ligne.PrixCoûtant.Text,
                   Ligne.PrixVente.Text,
                   App.Globals.RoyaumeCourant,
-                  App.Feuilles.Get<frm_Panier>().cbo_Commandes.Text},
+                  CommandeEnMain(App)},
                  Matériaux);
 }
 
@@ -103,6 +108,13 @@ void RemplirCommandes(Application& App)
     Commandes.Text = NouvelleCommande;
 }
 
+void DireLaCommande(Application& App, Button& Ajouter)
+{
+    Ajouter.TipNow = [&App, Words = std::string(Ajouter.Tip)] {
+        return Words + Typeset(" : « ") + CommandeEnMain(App) + Typeset(" »");
+    };
+}
+
 void AjouterAuPanier(Application& App, bool EstChoisi, const LigneCommande& Ligne,
                      const char* SansChoix)
 {
@@ -110,12 +122,13 @@ void AjouterAuPanier(Application& App, bool EstChoisi, const LigneCommande& Lign
         App.MsgBox(SansChoix);
         return;
     }
-    const Screen& Atelier = Ligne.PrixVente.Owner();
+    Screen& Atelier = Ligne.PrixVente.Owner();
     for (const TextBox* Prix : {&Ligne.PrixVente, &Ligne.PrixCoûtant})
         if (Prix->Stale)
             return Refuser(App, Atelier, Prix->WaitsFor);
     try {
         Enregistrer(App, Ligne, MatériauxDe(Ligne));
+        App.OnAdded(Atelier, CommandeEnMain(App));
     } catch (const UnusableText& Given) {
         Refuser(App, Atelier, Given.Input);
     }

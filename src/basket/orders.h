@@ -17,6 +17,9 @@ void OuvrirPanier(Application& App);
 // Refills the list of orders; the order in hand is then NouvelleCommande.
 void RemplirCommandes(Application& App);
 
+// The tip of a button that adds to the order in hand names it.
+void DireLaCommande(Application& App, Button& Ajouter);
+
 // An object line: its label, the boxes whose texts go into the row as they stand, decimal comma
 // included, and what one buys for it. Prices stand for the whole line.
 struct LigneCommande

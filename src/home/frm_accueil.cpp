@@ -112,8 +112,10 @@ bool frm_Accueil::ChargerConfigRoyaume(const std::string& Royaume)
             Lignes.MoveNext();
         }
     }
-    for (const auto& [Case, Texte] : Lus)
+    for (const auto& [Case, Texte] : Lus) {
         Case->Text = Texte;
+        Case->Stored = Texte;
+    }
     return Complet;
 }
 
@@ -161,6 +163,7 @@ std::string frm_Accueil::RestaurerChoix(const std::string& Liste, const std::str
                            " choisi à la place."));
     }
     Box.Text = Choix;
+    Box.Stored = Choix;
     return Choix;
 }
 

@@ -99,6 +99,9 @@ void frm_Configuration::EnregistrerRéglages()
             Lignes.Set("Marges2" + Royaume, Artisanat.Essai->Text);
         Lignes.Update();
         Lignes.MoveNext();
+        for (TextBox* Case : {Artisanat.Niveau, Artisanat.Marge, Artisanat.Essai})
+            if (Case != nullptr)
+                Case->Stored = std::string(Case->Text);
     }
 }
 
@@ -116,6 +119,7 @@ void frm_Configuration::EnregistrerChoix(const std::string& Table, ComboBox& Lis
     Ligne.Edit();
     Ligne.Set("Nom", Liste.Text);
     Ligne.Update();
+    Liste.Stored = std::string(Liste.Text);
     TextBox& Courant = EnVigueur(Case);
     if (Courant.Text != Liste.Text)
         Courant.Text = Liste.Text;

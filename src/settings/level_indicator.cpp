@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace orvane {
 
@@ -14,13 +15,19 @@ namespace {
 struct Bande
 {
     int JusquÀ; // greatest difference of the band
-    int Index;  // in imglst_CouleurCraft
+    const char* Sens;
 };
 
+// In the order of imglst_CouleurCraft.
 constexpr std::array Bandes{
-    Bande{-31, 1}, Bande{-10, 2}, Bande{0, 3}, Bande{10, 4}, Bande{30, 5}, Bande{50, 6},
+    Bande{-31, "Plus de 30 niveaux de moins que vous"},
+    Bande{-10, "10 à 30 niveaux de moins que vous"},
+    Bande{0, "Votre niveau, ou jusqu’à 9 de moins"},
+    Bande{10, "1 à 10 niveaux de plus que vous"},
+    Bande{30, "11 à 30 niveaux de plus que vous"},
+    Bande{50, "31 à 50 niveaux de plus que vous"},
+    Bande{std::numeric_limits<int>::max(), "Plus de 50 niveaux de plus que vous"},
 };
-constexpr int AuDelà = 7;
 
 } // namespace
 
@@ -35,8 +42,9 @@ void ChangerCouleurCraft(Application& App, const std::string& NiveauObjet, std::
     const int Écart = *Niveau - NiveauCraft; // wider than a level
     const auto Bande = std::ranges::find_if(
         Bandes, [&](const auto& Candidate) { return Écart <= Candidate.JusquÀ; });
-    const int Index = Bande == Bandes.end() ? AuDelà : Bande->Index;
+    const auto Index = static_cast<int>(Bande - Bandes.begin()) + 1;
     Indicateur.Picture = App.Feuilles.Get<frm_Configuration>().imglst_CouleurCraft.Picture(Index);
+    Indicateur.Tip = Bande->Sens;
 }
 
 } // namespace orvane

@@ -49,6 +49,10 @@ class PictureControl : public Control
 
     Property<orvane::Picture> Picture{AsOwner(), PropertyId::Picture};
     std::function<void()> OnClick;
+
+    // What there is to see in it, as another control says; a picture with neither this nor a tip
+    // is an ornament.
+    const TextProperty* Depicts = nullptr;
 };
 
 class Image : public PictureControl
@@ -80,6 +84,8 @@ class Button : public PictureControl
     }
 
     TextProperty Words{AsOwner(), PropertyId::Caption};
+
+    std::function<std::string()> TipNow; // where the tip depends on the moment
 
     // What presses it wherever the focus is on its screen, unless something else there takes the
     // key: "Ctrl+Return". Its tip tells it.

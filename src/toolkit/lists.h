@@ -3,6 +3,7 @@
 #include "toolkit/control.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -78,6 +79,9 @@ class ComboBox : public ListControl
     // Whether a typed text that is no entry means something, so that it stays when the person goes
     // on; elsewhere the text of before comes back.
     bool KeepsTyping = false;
+
+    // What the disk holds of a setting, nothing for other lists.
+    Property<std::optional<std::string>> Stored{AsOwner(), PropertyId::Stored};
 
   protected:
     void ShowChoice(const std::string& Entry) override { Text = Entry; }

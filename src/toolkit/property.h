@@ -30,6 +30,7 @@ enum class PropertyId {
     Stale,
     Tip,
     Called,
+    Stored,
 };
 
 // Whoever owns properties and hears of their changes.

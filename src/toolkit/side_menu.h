@@ -2,6 +2,7 @@
 
 #include "toolkit/control.h"
 #include "toolkit/picture.h"
+#include "toolkit/property.h"
 
 #include <array>
 #include <functional>
@@ -47,6 +48,9 @@ class SideMenu : public Control
     // The whole menu, drawn once at the end however many bars there are.
     void Build(std::vector<Bar> NewBars);
     const std::vector<Bar>& Bars() const { return TheBars; }
+
+    // The key of the entry whose things are on the screen, empty for none.
+    TextProperty InHand{AsOwner(), PropertyId::ListIndex};
 
     // The entry of that key, or nothing.
     const Item* FindItem(const std::string& Key) const;

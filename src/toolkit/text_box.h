@@ -3,6 +3,7 @@
 #include "toolkit/controls.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace orvane {
@@ -29,6 +30,17 @@ class TextBox : public Control
 
     // The marked input that a stale figure waits for; none when it waits for a choice.
     const TextBox* WaitsFor = nullptr;
+
+    // What the disk holds of a setting, nothing for other boxes. A text that differs isn't kept
+    // yet, and the box shows it.
+    Property<std::optional<std::string>> Stored{AsOwner(), PropertyId::Stored};
+
+    // The figure that people come to its screen for: it is told whenever it has changed.
+    bool IsAnswer = false;
+
+    // The box that names the row this one stands in, nothing outside rows. Where it is empty, so is
+    // the row, whatever figures it keeps.
+    const TextBox* RowName = nullptr;
 
     Alignment Align = Alignment::Centre;
     NumberKind Accepts = NumberKind::None;

@@ -1,39 +1,21 @@
 #include "view/accessibility.h"
 
+#include "view/announcer.h"
+#include "view/button_view.h"
+#include "view/combo_box_view.h"
+#include "view/label_view.h"
+#include "view/line_interface.h"
 #include "view/list_box_view.h"
 #include "view/list_table.h"
+#include "view/menu_bar_view.h"
+#include "view/picture_view.h"
 #include "view/screen_area.h"
+#include "view/shape_view.h"
+#include "view/text_box_view.h"
 
 namespace orvane {
 
 namespace {
-
-// Of lists side by side a screen's area holds the first alone, which tells them all.
-class AreaInterface : public QAccessibleWidget
-{
-  public:
-    explicit AreaInterface(ScreenArea& Area) : QAccessibleWidget(&Area) {}
-
-    int childCount() const override { return static_cast<int>(Parts().size()); }
-    QAccessibleInterface* child(int Index) const override { return Parts().value(Index); }
-    int indexOfChild(const QAccessibleInterface* Child) const override
-    {
-        return static_cast<int>(Parts().indexOf(Child));
-    }
-
-  private:
-    QList<QAccessibleInterface*> Parts() const
-    {
-        QList<QAccessibleInterface*> Result;
-        for (int i = 0; i < QAccessibleWidget::childCount(); ++i) {
-            QAccessibleInterface* Each = QAccessibleWidget::child(i);
-            auto* List = dynamic_cast<ListBoxView*>(Each->object());
-            if (List == nullptr || ColumnsOf(*List).front() == List)
-                Result << Each;
-        }
-        return Result;
-    }
-};
 
 QAccessibleInterface* InterfaceOf(const QString&, QObject* Object)
 {
@@ -41,6 +23,24 @@ QAccessibleInterface* InterfaceOf(const QString&, QObject* Object)
         return new ListTable(*List);
     if (auto* Area = dynamic_cast<ScreenArea*>(Object))
         return new AreaInterface(*Area);
+    if (auto* Panel = dynamic_cast<ShapeView*>(Object))
+        return new PanelInterface(*Panel);
+    if (auto* Label = dynamic_cast<LabelView*>(Object))
+        return new CaptionInterface(*Label);
+    if (auto* Box = dynamic_cast<TextBoxView*>(Object))
+        return new LineInterface(*Box, QAccessible::EditableText, *Box);
+    if (auto* Box = dynamic_cast<ComboBoxView*>(Object))
+        return new ComboInterface(*Box);
+    if (auto* Picture = dynamic_cast<PictureView*>(Object); Picture && !Picture->IsClickable())
+        return new PictureInterface(*Picture);
+    if (auto* Bar = dynamic_cast<MenuBarView*>(Object))
+        return new QAccessibleWidget(Bar, QAccessible::Grouping);
+    if (auto* Said = dynamic_cast<Announcer*>(Object))
+        return new QAccessibleWidget(Said, QAccessible::Notification);
+    if (dynamic_cast<ControlView*>(Object) != nullptr ||
+        dynamic_cast<MenuEntryView*>(Object) != nullptr)
+        if (auto* Button = qobject_cast<QAbstractButton*>(Object))
+            return new ButtonInterface(*Button);
     return nullptr;
 }
 

@@ -13,6 +13,12 @@
 
 namespace orvane {
 
+namespace {
+
+constexpr int GlowTime = 900; // milliseconds
+
+} // namespace
+
 ButtonView::ButtonView(Button& Model, User& TheUser, QWidget* Parent)
     : QAbstractButton(Parent),
       ControlView(Model),
@@ -24,6 +30,28 @@ ButtonView::ButtonView(Button& Model, User& TheUser, QWidget* Parent)
     setCursor(Qt::PointingHandCursor);
     connect(this, &QAbstractButton::clicked, this,
             [this] { Act([&] { this->TheUser.Click(TheModel); }); });
+    Glowing.setStartValue(1.0);
+    Glowing.setEndValue(0.0);
+    Glowing.setDuration(GlowTime);
+    connect(&Glowing, &QVariantAnimation::valueChanged, this, [this] { update(); });
+}
+
+QString ButtonView::Tip() const
+{
+    return ToQt(TheModel.TipNow ? TheModel.TipNow() : TheModel.Tip);
+}
+
+void ButtonView::Glow()
+{
+    Glowing.stop();
+    Glowing.start();
+}
+
+bool ButtonView::event(QEvent* Event)
+{
+    if (Event->type() == QEvent::ToolTip)
+        Act([&] { FollowWords(); });
+    return QAbstractButton::event(Event);
 }
 
 void ButtonView::Follow(PropertyId What)
@@ -51,7 +79,7 @@ void ButtonView::FollowAll()
 void ButtonView::FollowWords()
 {
     const QString Words = ToQt(TheModel.Words);
-    QString Tip = ToQt(TheModel.Tip);
+    QString Tip = this->Tip();
     setAccessibleName(Words);
     setAccessibleDescription(Tip);
     if (Tip.isEmpty())
@@ -70,6 +98,8 @@ void ButtonView::paintEvent(QPaintEvent*)
         PaintWords(Painter);
     else
         PaintPicture(Painter, Pixels);
+    if (Glowing.state() == QAbstractAnimation::Running)
+        look::PaintGlow(Painter, rect(), Glowing.currentValue().toDouble());
 }
 
 void ButtonView::PaintPicture(QPainter& Painter, const QPixmap& Pixels) const

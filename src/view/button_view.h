@@ -5,6 +5,7 @@
 #include "view/picture_source.h"
 
 #include <QAbstractButton>
+#include <QVariantAnimation>
 
 namespace orvane {
 
@@ -20,7 +21,11 @@ class ButtonView : public QAbstractButton, public ControlView
     void FollowAll() override;
     std::vector<QWidget*> TabStops() override { return {this}; }
 
+    QString Tip() const; // as it is at this moment, without the key
+    void Glow();         // for a short while: what it was pressed for is done
+
   protected:
+    bool event(QEvent* Event) override;
     void paintEvent(QPaintEvent* Event) override;
     void keyPressEvent(QKeyEvent* Event) override;
 
@@ -32,6 +37,7 @@ class ButtonView : public QAbstractButton, public ControlView
     Button& TheModel;
     User& TheUser;
     PictureSource Source;
+    QVariantAnimation Glowing; // from 1 to 0
 };
 
 } // namespace orvane

@@ -1,11 +1,13 @@
 #include "view/combo_box_view.h"
 
+#include "base/typography.h"
 #include "toolkit/user.h"
 #include "view/act.h"
 #include "view/entry_popup.h"
 #include "view/keyboard_focus.h"
 #include "view/look.h"
 #include "view/qt_text.h"
+#include "view/telling.h"
 #include "view/tip.h"
 
 #include <QAbstractItemView>
@@ -70,7 +72,9 @@ void ComboBoxView::Follow(PropertyId What)
         ShowColours();
         break;
     case PropertyId::Tip:
+    case PropertyId::Stored:
         ShowTip();
+        update();
         break;
     case PropertyId::Called:
         ControlView::Follow(What);
@@ -214,8 +218,9 @@ void ComboBoxView::ShowFont()
 
 void ComboBoxView::ShowTip()
 {
-    const QString Tip =
-        Before ? QStringLiteral("Texte tapé : aucun choix n’est fait.") : ToQt(Box.Tip);
+    const QString Tip = Before          ? QStringLiteral("Texte tapé : aucun choix n’est fait.")
+                        : IsUnkept(Box) ? ToQt(Typeset(UnkeptWords))
+                                        : ToQt(Box.Tip);
     const QString Text = lineEdit()->text();
     const bool Fits = lineEdit()->fontMetrics().horizontalAdvance(Text) <=
                       lineEdit()->width() - 2 * look::FieldPadding;
@@ -234,9 +239,9 @@ void ComboBoxView::ShowColours()
 void ComboBoxView::paintEvent(QPaintEvent*)
 {
     QPainter Painter(this);
-    look::PaintField(
-        Painter, rect(),
-        {palette().color(QPalette::Base), ShowsFocus(*this), false, Before.has_value()});
+    look::PaintField(Painter, rect(),
+                     {palette().color(QPalette::Base), ShowsFocus(*this), false, Before.has_value(),
+                      IsUnkept(Box)});
     const QRect Arrow(width() - look::ArrowWidth, 0, look::ArrowWidth, height());
     look::PaintArrow(Painter, Arrow,
                      ShowsFocus(*this) || underMouse() ? look::Focus : look::MutedInk);

@@ -41,6 +41,12 @@ ScreenWindow* Desktop::WindowOf(const Screen& Which) const
     return Known == Windows.end() ? nullptr : Known->second.get();
 }
 
+void Desktop::Answer(const Control& Pressed, const QString& Words)
+{
+    if (ScreenWindow* Window = WindowOf(Pressed.Owner()))
+        Window->Answer(Pressed, Words);
+}
+
 ScreenWindow& Desktop::Built(Screen& Which)
 {
     std::unique_ptr<ScreenWindow>& Window = Windows[&Which];

@@ -25,6 +25,9 @@ class Desktop : public QObject, public FormsObserver
     void Shown(Screen& Which) override;
     void Hidden(Screen& Which) override;
 
+    // Tells what pressing that button has done, in its own window.
+    void Answer(const Control& Pressed, const QString& Words);
+
     ScreenWindow* WindowOf(const Screen& Which) const; // nothing before its first showing
 
   protected:

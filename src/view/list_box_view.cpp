@@ -1,5 +1,6 @@
 #include "view/list_box_view.h"
 
+#include "base/csv.h"
 #include "base/text.h"
 #include "toolkit/user.h"
 #include "view/act.h"
@@ -10,6 +11,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
 #include <QKeyEvent>
 #include <QScrollBar>
 
@@ -240,8 +242,27 @@ void ListBoxView::keyPressEvent(QKeyEvent* Event)
         Event->ignore();
         return;
     default:
-        QListView::keyPressEvent(Event); // copying, and searching by letters
+        if (Event->matches(QKeySequence::Copy))
+            Copy();
+        else
+            QListView::keyPressEvent(Event); // searching by letters
     }
+}
+
+// The chosen row, or all of them when none is; cell by cell, as a spreadsheet takes them.
+void ListBoxView::Copy()
+{
+    std::string Text;
+    for (int Row = 0; Row < TheBox.ListCount(); ++Row) {
+        if (TheBox.ListIndex >= 0 && TheBox.ListIndex != Row)
+            continue;
+        std::vector<std::string> Cells;
+        for (const ListBoxView* Each : ColumnsOf(*this))
+            Cells.push_back(Each->Box().Items()[static_cast<std::size_t>(Row)]);
+        Text += TabLine(Cells);
+    }
+    if (!Text.empty())
+        QGuiApplication::clipboard()->setText(ToQt(Text));
 }
 
 // The next entry that begins with the letter, after the chosen one.

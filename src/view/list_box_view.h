@@ -47,6 +47,7 @@ class ListBoxView : public QListView, public ControlView
     void ShowColours();
     void ShowFocus();
     void TellChoice();
+    void Copy();
 
     ListBox& TheBox;
     User& TheUser;

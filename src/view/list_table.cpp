@@ -1,5 +1,6 @@
 #include "view/list_table.h"
 
+#include "view/control_interface.h"
 #include "view/list_box_view.h"
 #include "view/qt_text.h"
 
@@ -121,6 +122,11 @@ QRect ListTable::Box(int Row, int Column) const
     const QRect Within =
         Row == Header ? Which.viewport()->rect() : Which.visualRect(Which.model()->index(Row, 0));
     return {Which.viewport()->mapToGlobal(Within.topLeft()), Within.size()};
+}
+
+QAccessibleInterface* ListTable::parent() const
+{
+    return GroupOf(List);
 }
 
 void* ListTable::interface_cast(QAccessible::InterfaceType Type)

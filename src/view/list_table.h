@@ -23,6 +23,7 @@ class ListTable : public QAccessibleWidget, public QAccessibleTableInterface
     QString Text(int Row, int Column) const;
     QRect Box(int Row, int Column) const; // on the desktop
 
+    QAccessibleInterface* parent() const override;
     void* interface_cast(QAccessible::InterfaceType Type) override;
     int childCount() const override; // the header's cells, then row by row
     QAccessibleInterface* child(int Index) const override;

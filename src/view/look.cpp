@@ -109,6 +109,14 @@ void PaintField(QPainter& Painter, const QRectF& Box, const FieldState& State)
         Painter.drawLine(QPointF(Box.left() + FieldPadding, Line),
                          QPointF(Box.right() - FieldPadding, Line));
     }
+    if (State.Unkept) {
+        constexpr double Fold = 8;
+        Painter.setPen(Qt::NoPen);
+        Painter.setBrush(Focus);
+        const QPointF Corner = Box.topRight() + QPointF(-1, 1);
+        Painter.drawPolygon(
+            QPolygonF{Corner, Corner - QPointF(Fold, 0), Corner + QPointF(0, Fold)});
+    }
     Painter.restore();
 }
 
@@ -145,6 +153,22 @@ void PaintFocusRing(QPainter& Painter, const QRectF& Box, double Radius)
     Painter.drawRoundedRect(Inside(Box, 2), Radius, Radius);
     Painter.setPen(QPen(Focus, 2));
     Painter.drawRoundedRect(Inside(Box, 1), Radius, Radius);
+    Painter.restore();
+}
+
+void PaintGlow(QPainter& Painter, const QRectF& Box, double Strength)
+{
+    constexpr int Depth = 8;
+    Painter.save();
+    Painter.setRenderHint(QPainter::Antialiasing);
+    Painter.setBrush(Qt::NoBrush);
+    for (int Inset = 0; Inset < Depth; ++Inset) {
+        Painter.setPen(
+            QPen(QColor(255, 226, 120, static_cast<int>(230 * Strength * (Depth - Inset) / Depth)),
+                 1.5));
+        const double At = Inset + 0.75;
+        Painter.drawRoundedRect(Box.adjusted(At, At, -At, -At), PlateRadius, PlateRadius);
+    }
     Painter.restore();
 }
 

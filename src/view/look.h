@@ -61,6 +61,7 @@ struct FieldState
     bool Focused = false;
     bool Wrong = false;
     bool HalfTyped = false; // a broken line under a text that stands for no choice
+    bool Unkept = false;    // a folded corner: the disk holds another text
 };
 void PaintField(QPainter& Painter, const QRectF& Box, const FieldState& State);
 
@@ -74,6 +75,9 @@ void PaintPlate(QPainter& Painter, const QRectF& Box, const PlateState& State);
 
 // A ring that shows on any ground: dark, with a light edge.
 void PaintFocusRing(QPainter& Painter, const QRectF& Box, double Radius);
+
+// What is done glows inwards from its edge; Strength from 0 to 1.
+void PaintGlow(QPainter& Painter, const QRectF& Box, double Strength);
 
 // A window's own ground, for screens without a background picture.
 void PaintGround(QPainter& Painter, const QRectF& Window);

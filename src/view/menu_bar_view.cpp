@@ -5,6 +5,7 @@
 #include "view/qt_text.h"
 #include "view/tip.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -18,6 +19,7 @@ namespace {
 constexpr int Gap = 8;
 constexpr int IconSize = 16;
 constexpr int TitlePicture = 24;
+constexpr int MarkWide = 4; // at the left of the entry in hand
 constexpr double HoverShare = 0.13;
 constexpr double PressedShare = 0.26;
 
@@ -50,9 +52,28 @@ MenuEntryView::MenuEntryView(const SideMenu::Item& Item, const SideMenu::Colours
         Icon.Set(Icons->Picture(Item.Icon + 1));
 }
 
+void MenuEntryView::SetInHand(bool Now)
+{
+    if (Now == InHand)
+        return;
+    InHand = Now;
+    QFont Marked = font();
+    Marked.setBold(InHand);
+    setFont(Marked);
+    QAccessible::State Checked;
+    Checked.checked = true;
+    QAccessibleStateChangeEvent Told(this, Checked);
+    QAccessible::updateAccessibility(&Told);
+    update();
+}
+
 void MenuEntryView::paintEvent(QPaintEvent*)
 {
     QPainter Painter(this);
+    if (InHand) {
+        Painter.fillRect(rect().adjusted(1, 0, -1, 0), Mixed(Ground, look::PlateTop, HoverShare));
+        Painter.fillRect(QRect(1, 0, MarkWide, height()), look::Focus);
+    }
     if (isDown() || underMouse())
         Painter.fillRect(rect().adjusted(1, 0, -1, 0),
                          Mixed(Ground, look::PlateTop, isDown() ? PressedShare : HoverShare));

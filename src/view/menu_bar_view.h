@@ -20,6 +20,8 @@ class MenuEntryView : public QAbstractButton
                   const ImageList* Icons, QWidget* Parent);
 
     const std::string& Key() const { return TheKey; }
+    bool IsInHand() const { return InHand; }
+    void SetInHand(bool Now);             // its things are on the screen
     std::function<void(int Rows)> OnMove; // by the arrow keys
     std::function<void()> OnFocus;
 
@@ -33,6 +35,7 @@ class MenuEntryView : public QAbstractButton
     QRect WordsBox() const;
 
     std::string TheKey;
+    bool InHand = false;
     QColor Ground;
     QColor Words;
     PictureSource Icon;

@@ -64,10 +64,10 @@ void PictureView::paintEvent(QPaintEvent*)
             Box.translate(0, 1);
         Painter.drawPixmap(Box.topLeft(), Pixels);
     }
-    if (!IsClickable())
-        return;
     if (ShowsFocus(*this)) {
         look::PaintFocusRing(Painter, rect(), look::FieldRadius);
+    } else if (!IsClickable()) {
+        return;
     } else if (underMouse() || Pixels.isNull()) { // a picture that is missing leaves its frame
         Painter.setRenderHint(QPainter::Antialiasing);
         Painter.setPen(QPen(look::PanelBorder, 1));

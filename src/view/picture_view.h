@@ -21,13 +21,14 @@ class PictureView : public QAbstractButton, public ControlView
     void FollowAll() override;
     std::vector<QWidget*> TabStops() override;
 
+    bool IsClickable() const { return static_cast<bool>(TheModel.OnClick); }
+
   protected:
     void paintEvent(QPaintEvent* Event) override;
     void keyPressEvent(QKeyEvent* Event) override;
     void mousePressEvent(QMouseEvent* Event) override;
 
   private:
-    bool IsClickable() const { return static_cast<bool>(TheModel.OnClick); }
     void FollowPicture();
 
     PictureControl& TheModel;

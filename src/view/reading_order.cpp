@@ -44,18 +44,6 @@ bool IsInput(const Control& Which)
            Which.Kind() == ControlKind::ListBox;
 }
 
-// The smallest visible panel that a control stands on, or nothing.
-const Control* PanelOf(const Control& Which)
-{
-    const Control* Result = nullptr;
-    for (const Control* Each : Which.Owner().Controls())
-        if (Each->Kind() == ControlKind::Shape && Each != &Which && Each->Visible &&
-            BoxOf(*Each).Holds(BoxOf(Which)) &&
-            (Result == nullptr || BoxOf(*Each).Area() < BoxOf(*Result).Area()))
-            Result = Each;
-    return Result;
-}
-
 // A panel with what stands on it, or a single control outside all panels.
 struct Block
 {
@@ -73,12 +61,12 @@ bool TakesFocus(const Control& Which)
            (Clickable != nullptr && static_cast<bool>(Clickable->OnClick));
 }
 
-Blocks BlocksOf(const Screen& Which)
+Blocks BlocksOf(const Screen& Which, const std::function<bool(const Control&)>& IsAsked)
 {
     Blocks Result;
     std::map<const Control*, std::size_t> OfPanel;
     for (Control* Each : Which.Controls()) {
-        if (!Each->Visible || !TakesFocus(*Each))
+        if (!IsAsked(*Each))
             continue;
         const Control* Panel = PanelOf(*Each);
         if (Panel == nullptr) {
@@ -170,11 +158,29 @@ void Read(const Blocks& Given, std::vector<Control*>& Result)
 
 } // namespace
 
-std::vector<Control*> ReadingOrder(const Screen& Which)
+const Control* PanelOf(const Control& Which)
+{
+    const Control* Result = nullptr;
+    for (const Control* Each : Which.Owner().Controls())
+        if (Each->Kind() == ControlKind::Shape && Each != &Which && Each->Visible &&
+            BoxOf(*Each).Holds(BoxOf(Which)) &&
+            (Result == nullptr || BoxOf(*Each).Area() < BoxOf(*Result).Area()))
+            Result = Each;
+    return Result;
+}
+
+std::vector<Control*> ReadingOrder(const Screen& Which,
+                                   const std::function<bool(const Control&)>& IsAsked)
 {
     std::vector<Control*> Result;
-    Read(BlocksOf(Which), Result);
+    Read(BlocksOf(Which, IsAsked), Result);
     return Result;
+}
+
+std::vector<Control*> ReadingOrder(const Screen& Which)
+{
+    return ReadingOrder(Which,
+                        [](const Control& Each) { return Each.Visible && TakesFocus(Each); });
 }
 
 } // namespace orvane

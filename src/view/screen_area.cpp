@@ -4,6 +4,7 @@
 #include "view/control_view.h"
 #include "view/look.h"
 #include "view/reading_order.h"
+#include "view/telling.h"
 #include "view/view_factory.h"
 
 #include <QCoreApplication>
@@ -126,6 +127,30 @@ void ScreenArea::FocusFirst(const std::function<bool(const Control&)>& IsAsked)
             Known->second->Widget().setFocus(Qt::OtherFocusReason);
             return;
         }
+}
+
+QWidget* ScreenArea::WidgetOf(const Control& Which) const
+{
+    const auto Known = Views.find(&Which);
+    return Known == Views.end() ? nullptr : &Known->second->Widget();
+}
+
+void ScreenArea::WalkValues(bool Forward)
+{
+    auto Way = ReadingOrder(TheScreen, IsTold);
+    if (!Forward)
+        std::ranges::reverse(Way);
+    const auto Now = std::ranges::find_if(Way, [this](const Control* Each) {
+        const QWidget* Widget = WidgetOf(*Each);
+        const QWidget* Focus = focusWidget();
+        return Widget != nullptr && Focus != nullptr &&
+               (Widget == Focus || Widget->isAncestorOf(Focus));
+    });
+    if (Now != Way.end()) // from the one behind it on
+        std::ranges::rotate(Way, Now + 1);
+    const auto Next = std::ranges::find_if(Way, [](const Control* Each) { return IsValue(*Each); });
+    if (Next != Way.end())
+        WidgetOf(**Next)->setFocus(Qt::TabFocusReason);
 }
 
 const QPixmap& ScreenArea::Background()

@@ -29,6 +29,12 @@ class ScreenArea : public QWidget
     // What lies behind a place, as a few colours out of it: the background, panels on it counted.
     std::vector<QColor> GroundsUnder(const QRect& Place);
 
+    Screen& Model() const { return TheScreen; }
+    QWidget* WidgetOf(const Control& Which) const; // nothing before it has been visible
+
+    // Moves the focus to the next value, as the eye goes, or to the one before; round the ends.
+    void WalkValues(bool Forward);
+
     // The first one, as the eye goes, that is as asked for.
     void FocusFirst(const std::function<bool(const Control&)>& IsAsked);
 

@@ -2,23 +2,40 @@
 
 #include "toolkit/user.h"
 #include "view/act.h"
+#include "view/announcer.h"
+#include "view/button_view.h"
 #include "view/control_view.h"
 #include "view/key_words.h"
 #include "view/picture_source.h"
 #include "view/qt_text.h"
 #include "view/screen_area.h"
+#include "view/telling.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QKeyEvent>
 
+#include <algorithm>
+#include <utility>
+
 namespace orvane {
+
+namespace {
+
+constexpr int SettlingTime = 300; // milliseconds: who types on hears of the last figure only
+
+} // namespace
 
 ScreenWindow::ScreenWindow(Screen& Model, User& TheUser, const Menus& TheMenus)
     : TheScreen(Model),
       TheUser(TheUser),
       TheMenu(new WindowMenu(TheMenus, this)),
-      Area(new ScreenArea(Model, TheUser, this))
+      Area(new ScreenArea(Model, TheUser, this)),
+      TheAnnouncer(new Announcer(this))
 {
+    Settling.setSingleShot(true);
+    Settling.setInterval(SettlingTime);
+    Settling.callOnTimeout([this] { TellAnswers(); });
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     setObjectName(ToQt(Model.Name()));
@@ -37,6 +54,34 @@ ScreenWindow::~ScreenWindow()
 void ScreenWindow::ControlChanged(Control& Which, PropertyId What)
 {
     Area->ControlChanged(Which, What);
+    if (What == PropertyId::Text && Which.Kind() == ControlKind::TextBox)
+        AnswerChanged(static_cast<TextBox&>(Which));
+}
+
+void ScreenWindow::AnswerChanged(const TextBox& Figure)
+{
+    if (!Figure.IsAnswer || !QAccessible::isActive())
+        return;
+    if (std::ranges::find(Changed, &Figure) == Changed.end())
+        Changed.push_back(&Figure);
+    Settling.start();
+}
+
+void ScreenWindow::TellAnswers()
+{
+    QStringList Words;
+    for (const TextBox* Each : std::exchange(Changed, {}))
+        if (IsTold(*Each) && !Each->Stale && isActiveWindow())
+            Words << ToQt(Told(*Each));
+    if (!Words.isEmpty())
+        TheAnnouncer->Say(Words.join(QStringLiteral(", ")));
+}
+
+void ScreenWindow::Answer(const Control& Pressed, const QString& Words)
+{
+    TheAnnouncer->Say(Words);
+    if (auto* Button = dynamic_cast<ButtonView*>(Area->WidgetOf(Pressed)))
+        Button->Glow();
 }
 
 void ScreenWindow::ScreenChanged(PropertyId What)
@@ -99,7 +144,9 @@ void ScreenWindow::closeEvent(QCloseEvent* Event)
 
 void ScreenWindow::keyPressEvent(QKeyEvent* Event)
 {
-    if (Event->key() != Qt::Key_Escape)
+    if (Event->key() == Qt::Key_F6)
+        Area->WalkValues(!Event->modifiers().testFlag(Qt::ShiftModifier));
+    else if (Event->key() != Qt::Key_Escape)
         PressButton(*Event);
     else if (TheScreen.LeadsBack() &&
              !Event->isAutoRepeat()) // holding the key down leaves one screen only

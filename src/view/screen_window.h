@@ -3,12 +3,15 @@
 #include "toolkit/screen.h"
 #include "view/window_menu.h"
 
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
+#include <vector>
 
 namespace orvane {
 
+class Announcer;
 class ScreenArea;
 class User;
 
@@ -21,6 +24,9 @@ class ScreenWindow : public QWidget, public ScreenObserver
 
     Screen& Model() const { return TheScreen; }
     std::function<void()> OnFocused; // the desktop has made it the active window
+
+    // What an action has done, for who listens; the button that was pressed glows for who looks.
+    void Answer(const Control& Pressed, const QString& Words);
 
     void FocusFirstInput();
     void FocusFirstWrong(); // of the open boxes that are marked, if there is one
@@ -35,6 +41,8 @@ class ScreenWindow : public QWidget, public ScreenObserver
 
   private:
     void ShowSize();
+    void AnswerChanged(const TextBox& Figure);
+    void TellAnswers();
     void PressButton(QKeyEvent& Pressed);
     void Close();
 
@@ -42,6 +50,9 @@ class ScreenWindow : public QWidget, public ScreenObserver
     User& TheUser;
     WindowMenu* TheMenu;
     ScreenArea* Area;
+    Announcer* TheAnnouncer;
+    QTimer Settling; // after a change of a figure that is told
+    std::vector<const TextBox*> Changed;
 };
 
 } // namespace orvane

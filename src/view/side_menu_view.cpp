@@ -31,6 +31,14 @@ void SideMenuView::Follow(PropertyId What)
         Build();
     else if (What == PropertyId::FontSize)
         LayOut();
+    else if (What == PropertyId::ListIndex)
+        ShowInHand();
+}
+
+void SideMenuView::ShowInHand()
+{
+    for (MenuEntryView* Each : Entries)
+        Each->SetInHand(Each->Key() == std::string(Menu.InHand));
 }
 
 void SideMenuView::FollowAll()
@@ -58,6 +66,7 @@ void SideMenuView::Build()
     setWidget(Body);
     Body->setAutoFillBackground(false);
     LayOut();
+    ShowInHand();
     Body->show();
 }
 

@@ -32,6 +32,7 @@ class SideMenuView : public QScrollArea, public ControlView
     void Build();
     void Add(MenuEntryView& Entry);
     void LayOut();
+    void ShowInHand();
     void Move(const MenuEntryView& From, int Rows);
     void StopAt(MenuEntryView& Entry);
 

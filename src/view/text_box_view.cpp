@@ -1,11 +1,13 @@
 #include "view/text_box_view.h"
 
 #include "base/montant.h"
+#include "base/typography.h"
 #include "toolkit/user.h"
 #include "view/act.h"
 #include "view/keyboard_focus.h"
 #include "view/look.h"
 #include "view/qt_text.h"
+#include "view/telling.h"
 #include "view/tip.h"
 
 #include <QFocusEvent>
@@ -61,6 +63,7 @@ void TextBoxView::Follow(PropertyId What)
         break;
     case PropertyId::Marked:
     case PropertyId::Stale:
+    case PropertyId::Stored:
     case PropertyId::ForeColor:
     case PropertyId::BackColor:
         ShowState();
@@ -88,6 +91,7 @@ void TextBoxView::Typed(const QString& Text)
         Respell(Wanted);
     Act([&] { TheUser.Type(Box, FromQt(Wanted)); });
     ShowText();
+    ShowTip();
     if (text() != Wanted) // repaired: the next key replaces it
         selectAll();
 }
@@ -159,6 +163,8 @@ void TextBoxView::ShowTip()
     else if (Box.Stale)
         Tip =
             QStringLiteral("Ce chiffre date d’avant une saisie à corriger ou un choix à refaire.");
+    else if (Tip.isEmpty() && IsUnkept(Box))
+        Tip = ToQt(Typeset(UnkeptWords));
     setAccessibleDescription(Tip);
     if (Tip.isEmpty() && fontMetrics().horizontalAdvance(text()) > Room())
         Tip = text();
@@ -168,8 +174,9 @@ void TextBoxView::ShowTip()
 void TextBoxView::paintEvent(QPaintEvent* Event)
 {
     QPainter Painter(this);
-    look::PaintField(Painter, rect(),
-                     {palette().color(QPalette::Base), ShowsFocus(*this), Box.Marked});
+    look::PaintField(
+        Painter, rect(),
+        {palette().color(QPalette::Base), ShowsFocus(*this), Box.Marked, false, IsUnkept(Box)});
     Painter.end();
     QLineEdit::paintEvent(Event);
 }

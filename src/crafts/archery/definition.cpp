@@ -19,8 +19,9 @@ void frm_Archerie::Définir()
     PlacePanel(shp_Niveau, {458, 16, 206, 110});
     PlaceHeading(lbl12, "Niveau", {472, 20, 100, High});
     PlaceTitle(lbl_Niveau, "", {472, 48, 70, 34});
-    Place(img_Niveau, {552, 54, 24, 24});
+    Place(img_Niveau, {552, 54, 24, 24}, "Niveau");
     Place(img_Icône, {472, 84, 32, 32});
+    img_Icône.Depicts = &cbo_Objet.Text;
     Place(Image1, {594, 44, 60, 60});
 
     PlacePanel(shp_Matériaux, {16, 138, 648, 142});
@@ -42,6 +43,7 @@ void frm_Archerie::Définir()
     PlaceField(lbl31, "Prix coûtant :", txt_PrixCoûtant, {30, 346, 154, High}, 180);
     PlaceField(lbl34, "Prix de vente : ", txt_PrixVente, {30, 386, 154, High}, 180);
     txt_PrixVente.Text.StartWith("0");
+    txt_PrixVente.IsAnswer = true;
     PlaceLabel(lbl35, "Application globale de la marge", {30, 426, 360, High});
     txt_Icône.Visible = false;
 

@@ -20,6 +20,7 @@ frm_Archerie::frm_Archerie(Application& App) : Feuille(App, ScreenName, "Archeri
     cbo_Objet.OnClick = [this] { cbo_Objet_Click(); };
     txt_Icône.OnChange = [this] { MontrerIcôneRoyaume(this->App, txt_Icône, img_Icône); };
     RecalculerAuChangement(txt_NbObjet, {"0", ""}, "1", [this] { CalculerPrixCarquois(); });
+    DireLaCommande(App, cmd_AjouterPanier);
     cmd_AjouterPanier.OnClick = [this] { cmd_AjouterPanier_Click(); };
     cmd_Retour.OnClick = [this] { Hide(); };
 }

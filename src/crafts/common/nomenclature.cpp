@@ -25,6 +25,8 @@ void PlacerLigne(TextBox& Nom, Label& Fois, TextBox& Qté, Label& Égale, TextBo
 
 void NommerLigne(TextBox& Nom, TextBox& Qté, TextBox& Prix, const std::string& Ligne)
 {
+    for (TextBox* Each : {&Nom, &Qté, &Prix})
+        Each->RowName = &Nom;
     Nom.Called = Ligne + ", nom";
     Qté.Called = Ligne + ", quantité";
     Prix.Called = Ligne + ", prix";

@@ -65,7 +65,7 @@ void frm_ArmesLégendaires::DéfinirInfos()
     PlacePanel(shp_Infos, {RightX, 12, 322, 214});
     PlaceHeading(lbl_TitreNiveau, "Niveau", {X, 20, 70, High});
     PlaceTitle(lbl_Niveau, "", {X + 76, 16, 76, 32});
-    Place(img_Niveau, {X + 156, 20, 24, 24});
+    Place(img_Niveau, {X + 156, 20, 24, 24}, "Niveau");
     Place(img_Icône, {RightX + 322 - Margin - 32, 20, 32, 32});
     PlaceField(lbl_NiveauObjet, "Niveau :", txt_Niveau, {X, 72, 66, High}, 72);
     PlaceField(lbl_Dps, "Dps : ", txt_Dps, {X + 156, 72, 62, High}, 76);
@@ -76,6 +76,7 @@ void frm_ArmesLégendaires::DéfinirInfos()
     txt_PrixRevente.Text.StartWith("0");
     PlacePanel(shp_Image, {RightX + 330, 12, 160, 214});
     Place(img_Objet, {RightX + 335, 44, 150, 150});
+    img_Objet.Depicts = &cbo_Arme.Text;
 }
 
 void frm_ArmesLégendaires::DéfinirComposants()
@@ -130,6 +131,7 @@ void frm_ArmesLégendaires::DéfinirVente()
     txt_NbObjet.Text.StartWith("1");
     for (TextBox* Zéro : {&txt_NbEssais, &txt_PrixCoûtantTotal, &txt_PrixVente})
         Zéro->Text.StartWith("0");
+    txt_PrixVente.IsAnswer = true;
     txt_NbObjet.OpenFor(NumberKind::Entier16);
     txt_NbEssais.OpenFor(NumberKind::Entier16);
 }
@@ -142,7 +144,7 @@ void frm_ArmesLégendaires::DéfinirComposant(Composant& Lequel, const char* Tit
     PlaceHeading(Lequel.Titre, Titre, {X + 42, BlocksY + 12, 90, High});
     PlaceLabel(Lequel.TitreNiveau, "Niveau :", {X + 134, BlocksY + 12, 62, High});
     PlaceHeading(Lequel.Niveau, "", {X + 198, BlocksY + 12, 60, High});
-    Place(Lequel.Indicateur, {X + 266, BlocksY + 12, 24, 24});
+    Place(Lequel.Indicateur, {X + 266, BlocksY + 12, 24, 24}, Titre + std::string(", niveau"));
     Lequel.Matériaux.Placer(X, BlocksY + 54, 34, {158, 34, 74}, Titre);
     Lequel.Matériaux.CommencerParZéro();
     PlaceField(Lequel.TitrePrixCoûtant, "Px coût. :", Lequel.PrixCoûtant,

@@ -45,6 +45,7 @@ void frm_ArmesLégendaires::Relier()
         };
     RecalculerAuChangement(txt_NbObjet, {"0", ""}, "1", [this] { CalculerTotaux(); });
     RecalculerAuChangement(txt_NbEssais, {""}, "0", [this] { CalculerTotaux(); });
+    DireLaCommande(App, cmd_AjouterPanier);
     cmd_AjouterPanier.OnClick = [this] { cmd_AjouterPanier_Click(); };
     cmd_Panier.OnClick = [this] { OuvrirPanier(this->App); };
     cmd_Retour.OnClick = [this] { WayBack(); };

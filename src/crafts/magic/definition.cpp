@@ -128,10 +128,12 @@ void frm_ArtisanatsMagiques::DéfinirMatériaux()
     PlaceHeading(lbl_ArtisanatObjet, "Artisanat", {X, MaterialsY + 4, 150, High});
     PlaceLabel(lbl_NiveauCraftAlchimie, "Niveau :", {X, MaterialsY + 34, 60, High});
     PlaceTitle(lbl_NiveauAlchimie, "", {X + 62, MaterialsY + 30, 74, 30});
-    Place(img_NiveauAlchimie, {X + 140, MaterialsY + 33, 24, 24});
+    Place(img_NiveauAlchimie, {X + 140, MaterialsY + 33, 24, 24}, "Niveau");
     Place(img_NiveauArcanes, {X + 172, MaterialsY + 33, 24, 24});
     for (PictureBox* Icon : {&pct_IconeAlchimie, &pct_IconeArcanes})
         Place(*Icon, {RightX + RightWide - Margin - 32, MaterialsY + 17, 32, 32});
+    pct_IconeAlchimie.Depicts = &cbo_Objet.Text;
+    pct_IconeArcanes.Depicts = &cbo_TypeGemmes.Text;
 }
 
 void frm_ArtisanatsMagiques::DéfinirObjetSup()
@@ -146,7 +148,7 @@ void frm_ArtisanatsMagiques::DéfinirObjetSup()
                "Objet nécessaire, nombre");
     PlaceLabel(lbl_AlchimieObjetSupNiveau, "Niveau :", {X + 98, Y + 62, 58, High});
     PlaceLabel(lbl_AlchimieObjetSupNiveauCraft, "", {X + 158, Y + 62, 50, High}, Alignment::Right);
-    Place(img_AlchimieObjetSupNiveau, {X + 218, Y + 62, 24, 24});
+    Place(img_AlchimieObjetSupNiveau, {X + 218, Y + 62, 24, 24}, "Objet nécessaire, niveau");
     MatériauxSup.Placer(X, Y + 92, 28, {145, 32, 65}, "Objet nécessaire");
     PlaceField(lbl_AlchimieObjetSUpPrixCoûtant, "Prix coûtant :", txt_AlchimieObjetSUpPrixCoûtant,
                {X + 70, Y + 208, 100, High}, 100, "Objet nécessaire, prix coûtant");
@@ -184,6 +186,7 @@ void frm_ArtisanatsMagiques::DéfinirPrixAlchimie()
         Y += 40;
     }
     txt_NbObjetAlchimie.OpenFor(NumberKind::Entier16);
+    txt_PrixVenteAlchimie.IsAnswer = true;
 }
 
 void frm_ArtisanatsMagiques::DéfinirPrixArcanes()
@@ -235,6 +238,7 @@ void frm_ArtisanatsMagiques::DéfinirPrixArcanes()
         Each.Value.Text.StartWith("0");
     }
     txt_ArcanesNbObjet.Text.StartWith("1");
+    txt_ArcanesPrixVenteTotal.IsAnswer = true;
     for (TextBox* Count : {&txt_ArcanesNbEssais, &txt_ArcanesNbObjet})
         Count->OpenFor(NumberKind::Entier16);
 }

@@ -49,6 +49,7 @@ void frm_ArtisanatsMagiques::Relier()
     RecalculerAuChangement(txt_NbObjetAlchimie, {""}, "1", [this] { CalculerPrixAlchimie(); });
     RecalculerAuChangement(txt_ArcanesNbEssais, {""}, "0", [this] { CalculerPrixArcanes(); });
     RecalculerAuChangement(txt_ArcanesNbObjet, {""}, "1", [this] { CalculerPrixArcanes(); });
+    DireLaCommande(App, cmd_AjouterPanier);
     cmd_AjouterPanier.OnClick = [this] { cmd_AjouterPanier_Click(); };
     cmd_Retour.OnClick = [this] { WayBack(); };
 }

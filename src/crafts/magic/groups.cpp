@@ -22,6 +22,7 @@ void frm_ArtisanatsMagiques::PrendreArcanes()
 void frm_ArtisanatsMagiques::PrendreMétier(const char* Nom)
 {
     lbl_Artisanat.Caption = Nom;
+    Bar_Menus.InHand = Nom;
     pct_Artisanat.Picture = App.Feuilles.Get<frm_Configuration>().ImageMétier(Nom);
 }
 

@@ -54,7 +54,7 @@ void frm_ArtisanatsManuels::DéfinirObjet()
     PlaceHeading(lbl12, "Niveau", {RightX + 14, 102, 120, 26});
     PlaceTitle(lbl_Niveau, "", {RightX + 150, 98, 90, 34});
     lbl_Niveau.Align = Alignment::Right;
-    Place(img_Niveau, {RightX + 254, 103, 24, 24});
+    Place(img_Niveau, {RightX + 254, 103, 24, 24}, "Niveau");
 
     PlacePanel(shp_Objet, {RightX, 154, RightWide, 228});
     PlaceHeading(lbl31, "Informations sur l'objet", {RightX + 14, 158, 260, High});
@@ -64,6 +64,7 @@ void frm_ArtisanatsManuels::DéfinirObjet()
     PlaceField(lbl_Vit, "Vit. :", txt_Vit, {RightX + 14, 278, 58, High}, 54, "Vitesse");
     Place(img_Icône, {RightX + 14, 306, 32, 32});
     Place(img_Objet, {RightX + 134, 188, 150, 150});
+    img_Objet.Depicts = &cbo_Objet.Text;
     PlaceField(lbl_BonusSpécial, "Bonus spécial : ", txt_BonusSpécial,
                {RightX + 14, 346, 108, High}, 162);
     ShowAll({&lbl_AF, &txt_AF, &lbl_Dps, &txt_Dps, &lbl_Vit, &txt_Vit, &lbl_BonusSpécial,
@@ -106,6 +107,7 @@ void frm_ArtisanatsManuels::DéfinirVente()
     txt_NbEssais.Text.StartWith("0");
     txt_PrixCoûtantTotal.Text.StartWith("0");
     txt_PrixVente.Text.StartWith("0");
+    txt_PrixVente.IsAnswer = true;
     txt_NbObjet.OpenFor(NumberKind::Entier16);
     txt_NbEssais.OpenFor(NumberKind::Entier16);
 }
@@ -120,7 +122,7 @@ void frm_ArtisanatsManuels::DéfinirObjetSup()
                "Objet nécessaire, nombre");
     PlaceLabel(lbl_ObjetSupNiveau, "Niveau :", {RightX + 112, 454, 58, High});
     PlaceLabel(lbl_ObjetSupNiveauCraft, "", {RightX + 172, 454, 50, High}, Alignment::Right);
-    Place(img_ObjetSupNiveau, {RightX + 232, 454, 24, 24});
+    Place(img_ObjetSupNiveau, {RightX + 232, 454, 24, 24}, "Objet nécessaire, niveau");
     MatériauxSup.Placer(RightX + 14, 484, 28, {145, 32, 65}, "Objet nécessaire");
     PlaceField(lbl_ObjetSUpPrixCoûtant, "Prix :", txt_ObjetSUpPrixCoûtant,
                {RightX + 128, 600, 56, High}, 100, "Objet nécessaire, prix");

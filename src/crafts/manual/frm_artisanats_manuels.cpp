@@ -56,6 +56,7 @@ void frm_ArtisanatsManuels::Relier()
         MatériauxSup[i].Nom.OnChange = [this, i] { txt_MatSup_Change(MatériauxSup[i]); };
     for (LigneMatériau& Each : MatériauxSup)
         Each.PrixUnitaire.OnChange = [&Each] { Each.CalculerPrix(); };
+    DireLaCommande(App, cmd_AjouterPanier);
     cmd_AjouterPanier.OnClick = [this] { cmd_AjouterPanier_Click(); };
     cmd_Retour.OnClick = [this] { WayBack(); };
 }
@@ -97,6 +98,7 @@ void frm_ArtisanatsManuels::PrendreArtisanat(const std::string& Nom)
     const auto& Configuration = App.Feuilles.Get<frm_Configuration>();
     const RéglagesArtisanat Réglages = Configuration.Réglages(Nom);
     lbl_Artisanat.Caption = Nom;
+    Bar_Menus.InHand = Nom;
     pct_Artisanat.Picture = Configuration.ImageMétier(Nom);
     LireRéglage(Réglages.Niveau, NiveauCraft);
     LireRéglage(Réglages.Marge, Marge);

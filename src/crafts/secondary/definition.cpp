@@ -42,7 +42,7 @@ void frm_ArtisanatsSecondaires::DéfinirChoix()
     PlacePanel(shp_Niveau, {RightX, 86, RightWide, 100});
     PlaceHeading(lbl12, "Niveau", {RightX + Margin, 90, 150, High});
     PlaceTitle(lbl_Niveau, "", {RightX + Margin, 122, 80, 34});
-    Place(img_Niveau, {RightX + 104, 127, 24, 24});
+    Place(img_Niveau, {RightX + 104, 127, 24, 24}, "Niveau");
     Place(img_Icône, {RightX + RightWide - Margin - 32, 123, 32, 32});
 }
 
@@ -70,6 +70,7 @@ void frm_ArtisanatsSecondaires::DéfinirVente()
     constexpr int X = MiddleX + Margin;
     PlacePanel(shp_ImageObjet, {RightX, MaterialsY, RightWide, 242});
     Place(img_Objet, {RightX + (RightWide - 150) / 2, MaterialsY + 46, 150, 150});
+    img_Objet.Depicts = &cbo_ObjetSecondaire.Text;
     PlacePanel(shp_InfosVente, {MiddleX, BottomY, MiddleWide, 176});
     PlaceHeading(lbl_InfosVente, "Infos de Vente", {X, BottomY + 6, 300, High});
     PlaceField(lbl_SellerieNbObjets, "Nb d'objets :", txt_SellerieNbObjets,
@@ -81,6 +82,7 @@ void frm_ArtisanatsSecondaires::DéfinirVente()
     txt_SellerieNbObjets.Text.StartWith("1");
     txt_SelleriePrixCoûtant.Text.StartWith("0");
     txt_SelleriePrixVente.Text.StartWith("0");
+    txt_SelleriePrixVente.IsAnswer = true;
     txt_SellerieNbObjets.OpenFor(NumberKind::Entier16);
 }
 
@@ -99,6 +101,7 @@ void frm_ArtisanatsSecondaires::DéfinirRecyclage()
     txt_CoûtSuppl.Text.StartWith("0");
     txt_NbObjet.Text.StartWith("1");
     txt_Gain.Text.StartWith("0");
+    txt_Gain.IsAnswer = true;
     for (TextBox* Input : {&txt_CoûtSuppl, &txt_NbObjet}) // amounts both: 2,5 objects count 2,5
         Input->OpenFor(NumberKind::Montant);
 }

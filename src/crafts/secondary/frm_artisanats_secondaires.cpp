@@ -32,6 +32,7 @@ void frm_ArtisanatsSecondaires::Relier()
     RecalculerAuChangement(txt_SellerieNbObjets, {""}, "1", [this] { CalculerSellerie(); });
     RecalculerAuChangement(txt_CoûtSuppl, {""}, "0", [this] { CalculerGain(); });
     RecalculerAuChangement(txt_NbObjet, {""}, "1", [this] { CalculerGain(); });
+    DireLaCommande(App, cmd_AjouterPanier);
     cmd_AjouterPanier.OnClick = [this] { cmd_AjouterPanier_Click(); };
     cmd_Retour.OnClick = [this] { WayBack(); };
 }

@@ -75,6 +75,7 @@ void frm_ArtisanatsSecondaires::Bar_Menus_ItemClick(const SideMenu::Item& Entré
         OuvrirPanier(App);
     } else if (const auto* Sellerie = FindRow(Selleries, &ObjetDeSellerie::Entrée, Entrée.Text)) {
         PrendreArtisanat(Sellerie->Métier);
+        Bar_Menus.InHand = Entrée.Key;
         PréparerSellerie();
         AfficherRecyclage(false);
         AfficherVente(true);
@@ -91,6 +92,7 @@ void frm_ArtisanatsSecondaires::PrendreArtisanat(const std::string& Nom)
 {
     const auto& Configuration = App.Feuilles.Get<frm_Configuration>();
     lbl_Artisanat.Caption = Nom;
+    Bar_Menus.InHand = Nom;
     pct_Artisanat.Picture = Configuration.ImageMétier(Nom);
     LireRéglage(Configuration.Réglages(Nom).Marge, Marge);
 }
