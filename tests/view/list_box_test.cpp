@@ -2,6 +2,7 @@
 #include "view/list_box_view.h"
 
 #include <QAccessible>
+#include <QClipboard>
 #include <QScrollBar>
 
 namespace orvane {
@@ -20,6 +21,9 @@ class ListBoxOnScreen : public Stage
             Log() << Focused().objectName();
         };
         Deeds["scroll"] = [this](const QString& Row) { PriceBar().setValue(Row.toInt()); };
+        Deeds["copied"] = [this](auto&) {
+            Log() << QGuiApplication::clipboard()->text().replace('\t', ',').replace('\n', ';');
+        };
         Deeds["fill"] = [this](const QString& Count) {
             Names().Clear();
             Atelier().lst_Prix.Clear();
@@ -58,6 +62,8 @@ constexpr Row PickRows[] = {
     {"TheProgramsChoice", "<fill 3><choose 2>", "2"},
     {"TheProgramsChoiceOfNone", "<fill 3><choose 2><choose -1>", "2|-1"},
     {"AColumnLeavesTheKeyboardToTheFirst", "<fill 3><price 1><Down>", "lst_Noms|0"},
+    {"CopiesTheChosenRow", "<fill 3><choose 1><Ctrl+C><copied>", "1|Objet 1,10;"},
+    {"CopiesAllRowsWithoutAChoice", "<fill 2><Ctrl+C><copied>", "Objet 0,0;Objet 1,10;"},
     {"RefilledAfterAPick", "<fill 3><row 2><fill 2>", "2"},
 };
 EACH_ROW(ListBoxOnScreen, PickRows);

@@ -15,6 +15,7 @@ class WindowOfScreen : public Stage
     void SetUp() override
     {
         Deeds["raise"] = [this](const QString& Name) { Find(Name).Top = 15 * 15; };
+        Deeds["unnamed"] = [this](auto&) { Atelier().txt_Total.RowName = &Atelier().txt_Nom; };
         Deeds["home"] = [this](auto&) { Atelier().GoesBack = false; };
         Deeds["close"] = [this](auto&) { Window().close(); };
         Deeds["where"] = [this](auto&) { Log() << Focused().objectName(); };
@@ -53,6 +54,9 @@ constexpr Row WindowRows[] = {
     {"TheFrameAsksTheModel", "<close>", "back"},
     {"TabGoesAsTheEyePastLockedBoxesAndFurtherColumns", "<in cmd_Retour><tabs 7>",
      "Couture|txt_Nombre|txt_Nom|cbo_Objet|lst_Noms|cmd_Ajouter|cmd_Retour"},
+    {"F6WalksTheValuesAndComesRound", "<in txt_Nombre><F6><where><F6><where><Shift+F6><where>",
+     "txt_Total|txt_Poids|txt_Total"},
+    {"F6PassesAnEmptyRow", "<unnamed><in txt_Nombre><F6><where><F6><where>", "txt_Poids|txt_Poids"},
     {"TabPassesTheHidden", "<hide txt_Nom><in txt_Nombre><tabs 1>", "cbo_Objet"},
     {"TabStopsAtTheShownAgain", "<hide txt_Nom><show txt_Nom><in txt_Nombre><Tab><where>",
      "txt_Nom"},

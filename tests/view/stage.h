@@ -35,6 +35,8 @@ class frm_Atelier : public Screen
         txt_Nom.Locked = false;
         Place(txt_Total, {290, 120, 100, 24});
         txt_Total.Text.StartWith("42");
+        Place(txt_Poids, {290, 160, 100, 24});
+        txt_Poids.Text.StartWith("7");
         PlaceLabel(lbl_Objet, "Objet :", {490, 40, 60, 24});
         Place(cbo_Objet, {560, 40, 160, 24}, "Objet :");
         for (const char* Each : {"Cape", "Épée courte", "Grande épée", "Écharpe"})
@@ -60,7 +62,7 @@ class frm_Atelier : public Screen
 
     SideMenu NAMED(Bar_Menus);
     Label NAMED(lbl_Nombre), NAMED(lbl_Nom), NAMED(lbl_Objet);
-    TextBox NAMED(txt_Nombre), NAMED(txt_Nom), NAMED(txt_Total);
+    TextBox NAMED(txt_Nombre), NAMED(txt_Nom), NAMED(txt_Total), NAMED(txt_Poids);
     ComboBox NAMED(cbo_Objet);
     ListBox NAMED(lst_Noms), NAMED(lst_Prix);
     Image NAMED(img_Blason);

@@ -43,6 +43,7 @@ class TextBoxOnScreen : public Stage
         Deeds["unlock"] = [this](auto&) { Atelier().txt_Total.Locked = false; };
         Deeds["whole"] = [this](auto&) { Atelier().txt_Nombre.Accepts = NumberKind::Entier16; };
         Deeds["waits"] = [this](auto&) { Atelier().txt_Total.WaitsFor = &Atelier().txt_Nombre; };
+        Deeds["kept"] = [this](auto& Text) { Atelier().txt_Nombre.Stored = FromQt(Text); };
         Deeds["stale"] = [this](const QString& Is) { Atelier().txt_Total.Stale = Is == "yes"; };
         Deeds["total"] = [this](const QString& Text) { Atelier().txt_Total.Text = FromQt(Text); };
         for (TextBox* Each : Fields())
@@ -123,6 +124,10 @@ constexpr Row LookRows[] = {
     {"ANumberTooGreat", "<whole><in txt_Nombre>40000",
      "wrong Il faut un nombre de -32768 à 32767."},
     {"Corrected", "<in txt_Nombre>abc<Ctrl+A>3", ""},
+    {"ASettingThatIsNotKeptYet", "<kept 12><in txt_Nombre>13",
+     "Pas encore enregistré : « Valider » le garde."},
+    {"ASettingAsItIsKept", "<kept 12><in txt_Nombre>12", ""},
+    {"ASettingThatHasJustBeenKept", "<in txt_Nombre>13<kept 13>", ""},
     {"AStaleFigure", "<in txt_Total><stale yes>",
      "muted italic Ce chiffre date d’avant une saisie à corriger ou un choix à refaire."},
     {"AFigureThatWaits", "<in txt_Total><waits><stale yes>",
