@@ -38,11 +38,6 @@ void Refuser(Application& App, const Screen& Atelier, const TextBox* Attendue)
         Typeset("Les prix affichés ne sont pas à jour : " + ÀFaireDAbord(Atelier, Attendue)));
 }
 
-const std::string& CommandeEnMain(Application& App)
-{
-    return App.Feuilles.Get<frm_Panier>().cbo_Commandes.Text;
-}
-
 // A line of which a material is beyond what can be counted is stored all the same, without any.
 Achats MatériauxDe(const LigneCommande& Ligne)
 {
@@ -106,6 +101,11 @@ void RemplirCommandes(Application& App)
     if (!Trouvée)
         Commandes.AddItem(NouvelleCommande);
     Commandes.Text = NouvelleCommande;
+}
+
+const std::string& CommandeEnMain(Application& App)
+{
+    return App.Feuilles.Get<frm_Panier>().cbo_Commandes.Text;
 }
 
 void DireLaCommande(Application& App, Button& Ajouter)

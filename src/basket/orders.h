@@ -17,6 +17,9 @@ void OuvrirPanier(Application& App);
 // Refills the list of orders; the order in hand is then NouvelleCommande.
 void RemplirCommandes(Application& App);
 
+// The one that lines are added to.
+const std::string& CommandeEnMain(Application& App);
+
 // The tip of a button that adds to the order in hand names it.
 void DireLaCommande(Application& App, Button& Ajouter);
 

@@ -210,6 +210,16 @@ class Program:
         said = self.said_while(lambda: self.press("Ajouter au panier"))
         self.expect(f"what is added is answered: {said}", len(said) == 1 and "commande" in said[0])
 
+        key("ctrl+l")
+        self.see("Liste d’achats")
+        self.hear("shopping list")
+        cells = [each.get_name() for each in self.nodes() if each.get_role_name() == "table cell"]
+        row = cells[cells.index("Barres de dyr"):][:6] if "Barres de dyr" in cells else cells
+        # three objects of 26 bars at 14
+        self.expect(f"what to buy is listed: {row}",
+                    row == ["Barres de dyr", "78", "14", "1092", "", "78"])
+        self.back()
+
         self.press("Empennage")
         for name, typed in (("Produit", "Projectiles"), ("Produit détaillé", "fleches"),
                             ("Type de projectiles", "fleches"), ("Carquois", None)):

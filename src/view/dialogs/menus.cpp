@@ -4,6 +4,7 @@
 #include "base/typography.h"
 #include "home/feuilles.h"
 #include "view/dialogs/guide.h"
+#include "view/dialogs/shopping_list_window.h"
 
 namespace orvane {
 
@@ -21,7 +22,12 @@ void TellAbout(Application& App)
 
 Menus ProgramMenus(Application& App)
 {
-    return {{"&Aide",
+    return {{"&Commande",
+             {{"Liste d’achats…", QKeySequence(Qt::CTRL | Qt::Key_L),
+               [&App] { OpenShoppingList(App); }},
+              {"Copier pour l’acheteur", {}, [&App] { CopyForBuyer(App); }},
+              {"Copier les achats", {}, [&App] { CopyPurchases(App); }}}},
+            {"&Aide",
              {{"Guide du crafteur", QKeySequence(Qt::Key_F1), [&App] { OpenGuide(App); }},
               {"À propos…", {}, [&App] { TellAbout(App); }},
               {"Quitter", QKeySequence(Qt::CTRL | Qt::Key_Q), [&App] { Quitter(App); }}}}};
