@@ -123,6 +123,8 @@ int main(int Count, char** Arguments)
     };
     if (!Started(App, Loading, Boxes))
         return EXIT_FAILURE;
+    App.OnEventEnd = [&] { Windows.ShowInMenuBars(OrderInHand(App)); };
+    App.OnEventEnd();
     QTimer::singleShot(0, &Toolkit, [&] { // the first picture doesn't wait for it
         const Picture Icon = App.Images.LoadOr(App.Chemin("/Interface/Orvane.png"));
         QApplication::setWindowIcon(IconOf(Icon));

@@ -70,6 +70,7 @@ void Application::EmptySlots()
 void Application::EndEvent()
 {
     EmptySlots();
+    OnEventEnd();
     const std::string Pictures = AboutPictures(Images.TakeMissing());
     if (!Pictures.empty() && !std::exchange(PicturesTold, true))
         MsgBox(Pictures + "\n\n" + "Les suivantes ne seront pas annoncées.");

@@ -44,6 +44,9 @@ class Application
     User Door;
     std::function<void()> OnQuit = [] {}; // ends the process
 
+    // Each event has ended: what it may have changed can be shown.
+    std::function<void()> OnEventEnd = [] {};
+
     // A line has gone into that order from that screen: whoever keeps the windows answers it.
     std::function<void(Screen& From, const std::string& Commande)> OnAdded =
         [](Screen&, const std::string&) {};

@@ -103,9 +103,23 @@ void RemplirCommandes(Application& App)
     Commandes.Text = NouvelleCommande;
 }
 
+const std::vector<std::string>& Commandes(Application& App)
+{
+    return App.Feuilles.Get<frm_Panier>().cbo_Commandes.Items();
+}
+
 const std::string& CommandeEnMain(Application& App)
 {
     return App.Feuilles.Get<frm_Panier>().cbo_Commandes.Text;
+}
+
+void PrendreCommande(Application& App, const std::string& Nom)
+{
+    auto& Panier = App.Feuilles.Get<frm_Panier>();
+    if (App.Feuilles.Active() == &Panier)
+        App.Door.Pick(Panier.cbo_Commandes, Nom);
+    else
+        App.Door.Event([&] { Panier.cbo_Commandes.Text = Nom; });
 }
 
 void DireLaCommande(Application& App, Button& Ajouter)

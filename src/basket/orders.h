@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 // What the other subsystems need of the basket.
 namespace orvane {
@@ -17,8 +18,15 @@ void OuvrirPanier(Application& App);
 // Refills the list of orders; the order in hand is then NouvelleCommande.
 void RemplirCommandes(Application& App);
 
+// All of them, as the basket lists them.
+const std::vector<std::string>& Commandes(Application& App);
+
 // The one that lines are added to.
 const std::string& CommandeEnMain(Application& App);
+
+// Makes that order the one in hand; screens keep what they show, and the basket follows when it is
+// the one in front.
+void PrendreCommande(Application& App, const std::string& Nom);
 
 // The tip of a button that adds to the order in hand names it.
 void DireLaCommande(Application& App, Button& Ajouter);

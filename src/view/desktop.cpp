@@ -41,6 +41,13 @@ ScreenWindow* Desktop::WindowOf(const Screen& Which) const
     return Known == Windows.end() ? nullptr : Known->second.get();
 }
 
+void Desktop::ShowInMenuBars(const QString& Words)
+{
+    InMenuBars = Words;
+    for (const auto& [Which, Window] : Windows)
+        Window->ShowInMenuBar(Words);
+}
+
 void Desktop::Answer(const Control& Pressed, const QString& Words)
 {
     if (ScreenWindow* Window = WindowOf(Pressed.Owner()))
@@ -52,6 +59,7 @@ ScreenWindow& Desktop::Built(Screen& Which)
     std::unique_ptr<ScreenWindow>& Window = Windows[&Which];
     if (Window == nullptr) {
         Window = std::make_unique<ScreenWindow>(Which, TheUser, TheMenus);
+        Window->ShowInMenuBar(InMenuBars);
         if (KeysAreUsed)
             LetFocusShow(*Window);
         Window->OnFocused = [this, Made = Window.get()] { Focused(*Made); };

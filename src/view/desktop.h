@@ -25,6 +25,9 @@ class Desktop : public QObject, public FormsObserver
     void Shown(Screen& Which) override;
     void Hidden(Screen& Which) override;
 
+    // At the right of every window's menu bar.
+    void ShowInMenuBars(const QString& Words);
+
     // Tells what pressing that button has done, in its own window.
     void Answer(const Control& Pressed, const QString& Words);
 
@@ -44,6 +47,7 @@ class Desktop : public QObject, public FormsObserver
     User& TheUser;
     Menus TheMenus;
     std::map<const Screen*, std::unique_ptr<ScreenWindow>> Windows;
+    QString InMenuBars;
     bool KeysAreUsed = false; // from then on every window shows where the focus is
     const ScreenWindow* LastShown = nullptr;
 

@@ -3,21 +3,58 @@
 #include "view/act.h"
 #include "view/look.h"
 
+#include <QLabel>
+
 namespace orvane {
 
-WindowMenu::WindowMenu(const Menus& What, QWidget* Parent) : QMenuBar(Parent)
+namespace {
+
+constexpr QMargins EndMargins(8, 3, 10, 0);
+
+} // namespace
+
+WindowMenu::WindowMenu(const Menus& What, QWidget* Parent) : QMenuBar(Parent), End(new QLabel(this))
 {
     setNativeMenuBar(false);
     setFont(look::Font(look::MenuPoints));
     for (const Menu& Each : What) {
         QMenu* Opened = addMenu(Each.Title);
         Opened->setFont(font());
-        for (const MenuEntry& Entry : Each.Entries) {
-            QAction* Action = Opened->addAction(Entry.Words);
-            Action->setShortcut(Entry.Key);
-            connect(Action, &QAction::triggered, this, [Run = Entry.Run] { Act(Run); });
-        }
+        Fill(*Opened, Each.Entries);
+        if (Each.More)
+            connect(Opened, &QMenu::aboutToShow, this,
+                    [this, Opened, More = Each.More, Fixed = Opened->actions().size()] {
+                        for (QAction* Old : Opened->actions().mid(Fixed))
+                            delete Old;
+                        Opened->addSeparator();
+                        Act([&] { Fill(*Opened, More()); });
+                    });
     }
+    End->setTextFormat(Qt::PlainText);
+    End->setFont(font());
+    End->setContentsMargins(EndMargins);
+    setCornerWidget(End);
+}
+
+void WindowMenu::Fill(QMenu& Opened, const std::vector<MenuEntry>& Entries)
+{
+    for (const MenuEntry& Each : Entries) {
+        QAction* Action = Opened.addAction(Each.Words);
+        Action->setShortcut(Each.Key);
+        Action->setCheckable(Each.IsChosen);
+        Action->setChecked(Each.IsChosen);
+        connect(Action, &QAction::triggered, this, [Run = Each.Run] { Act(Run); });
+    }
+}
+
+void WindowMenu::ShowAtTheEnd(const QString& Words)
+{
+    if (End->text() == Words)
+        return;
+    End->setText(Words);
+    setAccessibleDescription(Words); // a bar tells readers of its menus only
+    setCornerWidget(End); // makes room for it
+    End->show();
 }
 
 void WindowMenu::TakeColours(const QPixmap& Background)
@@ -28,6 +65,7 @@ void WindowMenu::TakeColours(const QPixmap& Background)
     for (const auto Role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
         New.setColor(Role, Colours.Words);
     setPalette(New);
+    End->setPalette(New);
     for (QMenu* Each : findChildren<QMenu*>())
         Each->setPalette(look::Palette());
 }

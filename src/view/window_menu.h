@@ -7,6 +7,7 @@
 #include <functional>
 #include <vector>
 
+class QLabel;
 class QPixmap;
 
 namespace orvane {
@@ -17,12 +18,14 @@ struct MenuEntry
     QString Words;
     QKeySequence Key;
     std::function<void()> Run;
+    bool IsChosen = false; // of several, the one in force
 };
 
 struct Menu
 {
     QString Title; // with an & before its letter
     std::vector<MenuEntry> Entries;
+    std::function<std::vector<MenuEntry>()> More = {}; // below them, as they are when it opens
 };
 
 using Menus = std::vector<Menu>;
@@ -34,6 +37,12 @@ class WindowMenu : public QMenuBar
     WindowMenu(const Menus& What, QWidget* Parent);
 
     void TakeColours(const QPixmap& Background);
+    void ShowAtTheEnd(const QString& Words); // what all windows tell, at the right
+
+  private:
+    void Fill(QMenu& Opened, const std::vector<MenuEntry>& Entries);
+
+    QLabel* End;
 };
 
 } // namespace orvane

@@ -210,6 +210,9 @@ class Program:
         said = self.said_while(lambda: self.press("Ajouter au panier"))
         self.expect(f"what is added is answered: {said}", len(said) == 1 and "commande" in said[0])
 
+        bar = next(each for each in self.nodes() if each.get_role_name() == "menu bar")
+        self.expect("the menu bar tells the order in hand",
+                    bar.get_description() == "Commande\u00a0: Nouvelle commande")
         key("ctrl+l")
         self.see("Liste d’achats")
         self.hear("shopping list")

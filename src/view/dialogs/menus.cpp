@@ -2,9 +2,11 @@
 
 #include "app/version.h"
 #include "base/typography.h"
+#include "basket/orders.h"
 #include "home/feuilles.h"
 #include "view/dialogs/guide.h"
 #include "view/dialogs/shopping_list_window.h"
+#include "view/qt_text.h"
 
 namespace orvane {
 
@@ -18,7 +20,24 @@ void TellAbout(Application& App)
                        "demander, et ce que valent vos commandes."));
 }
 
+// An & would be taken for the mark of a letter.
+std::vector<MenuEntry> OrdersToTake(Application& App)
+{
+    std::vector<MenuEntry> Result;
+    for (const std::string& Each : Commandes(App))
+        Result.push_back({ToQt(Each).replace(u'&', QStringLiteral("&&")),
+                          {},
+                          [&App, Each] { PrendreCommande(App, Each); },
+                          Each == CommandeEnMain(App)});
+    return Result;
+}
+
 } // namespace
+
+QString OrderInHand(Application& App)
+{
+    return ToQt(Typeset("Commande : ") + CommandeEnMain(App));
+}
 
 Menus ProgramMenus(Application& App)
 {
@@ -26,7 +45,8 @@ Menus ProgramMenus(Application& App)
              {{"Liste d’achats…", QKeySequence(Qt::CTRL | Qt::Key_L),
                [&App] { OpenShoppingList(App); }},
               {"Copier pour l’acheteur", {}, [&App] { CopyForBuyer(App); }},
-              {"Copier les achats", {}, [&App] { CopyPurchases(App); }}}},
+              {"Copier les achats", {}, [&App] { CopyPurchases(App); }}},
+             [&App] { return OrdersToTake(App); }},
             {"&Aide",
              {{"Guide du crafteur", QKeySequence(Qt::Key_F1), [&App] { OpenGuide(App); }},
               {"À propos…", {}, [&App] { TellAbout(App); }},

@@ -8,4 +8,7 @@ namespace orvane {
 // What the menu of every window holds. App outlives it.
 Menus ProgramMenus(Application& App);
 
+// What stands at the right of every menu bar: the order in hand.
+QString OrderInHand(Application& App);
+
 } // namespace orvane
