@@ -4,6 +4,7 @@
 #include "view/look.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QPainter>
 #include <QStyleOption>
 #include <QToolTip>
@@ -27,6 +28,18 @@ void Style::polish(QApplication* Application)
 void Style::polish(QPalette& Colours)
 {
     Colours = look::Palette(); // whatever the desktop's theme says
+}
+
+// A list that takes no typing is painted as a plate.
+void Style::polish(QWidget* Widget)
+{
+    QProxyStyle::polish(Widget);
+    const auto* List = qobject_cast<QComboBox*>(Widget);
+    if (List == nullptr || List->isEditable())
+        return;
+    QPalette OnPlate = Widget->palette();
+    OnPlate.setColor(QPalette::ButtonText, look::Cream);
+    Widget->setPalette(OnPlate);
 }
 
 void Style::drawPrimitive(PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter,

@@ -14,6 +14,7 @@ class Style : public QProxyStyle
     void polish(QApplication* Application) override;
     using QProxyStyle::polish;
     void polish(QPalette& Colours) override;
+    void polish(QWidget* Widget) override;
 
     void drawPrimitive(PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter,
                        const QWidget* Widget) const override;

@@ -7,6 +7,7 @@
 #include "basket/orders.h"
 #include "basket/shopping_list.h"
 #include "catalogue/catalogue.h"
+#include "view/dialogs/order_page.h"
 #include "view/look.h"
 #include "view/qt_text.h"
 
@@ -32,7 +33,7 @@ namespace orvane {
 
 namespace {
 
-constexpr QSize WindowSize(820, 600);
+constexpr QSize WindowSize(960, 600);
 constexpr QMargins Margins(16, 14, 16, 14);
 constexpr int OwnedWide = 80;
 
@@ -137,9 +138,6 @@ class ListWindow : public QDialog
             Caption->setBuddy(Box);
             Choices->addWidget(Caption);
             Choices->addWidget(Box, 1);
-            QPalette OnPlate = Box->palette();
-            OnPlate.setColor(QPalette::ButtonText, look::Cream);
-            Box->setPalette(OnPlate);
         }
         Orders->setAccessibleName(QStringLiteral("Commande"));
         Realms->setAccessibleName(QStringLiteral("Royaume"));
@@ -164,6 +162,8 @@ class ListWindow : public QDialog
             [this] { Save(QStringLiteral("achats.csv"), AchatsEnCsv(List)); });
         Add("Commande &en CSV…", "Enregistrer les objets de la commande pour un tableur",
             [this] { Save(QStringLiteral("commande.csv"), CommandeEnCsv(List)); });
+        Add("&Page à remettre…", "La commande en PDF, pour son acheteur, rien du coût",
+            [this] { SavePage(); });
         Buttons->addStretch();
         Add("&Fermer", "Revenir aux écrans", [this] { close(); });
 
@@ -284,11 +284,33 @@ class ListWindow : public QDialog
         ShowRows();
     }
 
+    QString AskFile(const QString& Proposed, const QString& Kind)
+    {
+        QFileDialog Box(this, QStringLiteral("Enregistrer"), {}, Kind);
+        Box.setAcceptMode(QFileDialog::AcceptSave);
+        Box.setViewMode(QFileDialog::List); // details come half in English
+        Box.selectFile(Proposed);
+        return Box.exec() == QDialog::Accepted ? Box.selectedFiles().value(0) : QString();
+    }
+
+    void TellUnwritten(const QString& File)
+    {
+        App.MsgBox(Typeset("« " + FromQt(File) + " » n’a pas pu être écrit."));
+    }
+
+    // With the banner of the realm it is for, or else of the one in force.
+    void SavePage()
+    {
+        const QString File = AskFile(QStringLiteral("commande.pdf"), QStringLiteral("PDF (*.pdf)"));
+        const std::string Realm = List.DeQuoi().Royaume.value_or(App.Globals.RoyaumeCourant);
+        if (!File.isEmpty() &&
+            !WriteOrderPage(List, ToQt(App.Chemin("/Interface/Bannière" + Realm + ".gif")), File))
+            TellUnwritten(File);
+    }
+
     void Save(const QString& Proposed, const std::string& Rows)
     {
-        const QString File = QFileDialog::getSaveFileName(
-            this, QStringLiteral("Enregistrer"), Proposed, QStringLiteral("CSV (*.csv)"), nullptr,
-            QFileDialog::DontUseNativeDialog);
+        const QString File = AskFile(Proposed, QStringLiteral("CSV (*.csv)"));
         if (File.isEmpty())
             return;
         QSaveFile Out(File);
@@ -298,7 +320,7 @@ class ListWindow : public QDialog
                                  static_cast<qint64>(Whole.size()) &&
                              Out.commit();
         if (!Written)
-            App.MsgBox(Typeset("« " + FromQt(File) + " » n’a pas pu être écrit."));
+            TellUnwritten(File);
     }
 
     Application& App;
