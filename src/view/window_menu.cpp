@@ -53,7 +53,7 @@ void WindowMenu::ShowAtTheEnd(const QString& Words)
         return;
     End->setText(Words);
     setAccessibleDescription(Words); // a bar tells readers of its menus only
-    setCornerWidget(End); // makes room for it
+    setCornerWidget(End);            // makes room for it
     End->show();
 }
 
