@@ -21,7 +21,9 @@ import time
 INSIDE = "WALK_INSIDE"
 INPUTS = {"text", "combo box"}
 SPEAKING = INPUTS | {"push button", "table", "menu item", "image"}
-PATIENCE = 10  # seconds
+PATIENCE = 30  # seconds
+QUIET = 1.5  # seconds, after which nothing more is said
+MOVING = 0.5  # seconds that the focus may take
 
 
 def servers(arguments):
@@ -133,11 +135,15 @@ class Program:
 
     def reached(self, by, among):
         """Which of the controls get the focus by that key, until it comes round."""
-        result = []
+        def with_focus():
+            return next((each for each in among if has(each, "FOCUSED")), None)
+
+        result, focused = [], with_focus()
         for _ in range(len(among) + 8):
+            before, end = focused, time.monotonic() + MOVING
             key(by)
-            time.sleep(0.03)
-            focused = next((each for each in among if has(each, "FOCUSED")), None)
+            while (focused := with_focus()) in (before, None) and time.monotonic() < end:
+                time.sleep(0.01)
             if focused is not None and focused in result:
                 break
             if focused is not None:
@@ -174,9 +180,12 @@ class Program:
             if event.detail1 and event.source.get_role_name() == "notification" else None)
         listener.register("object:state-changed:showing")
         action()
-        end = time.monotonic() + 1.5
-        while time.monotonic() < end:
+        start = time.monotonic()
+        while time.monotonic() < start + (QUIET if said else PATIENCE):
+            heard = len(said)
             GLib.MainContext.default().iteration(False)
+            if len(said) > heard:
+                start = time.monotonic()
             time.sleep(0.01)
         listener.deregister("object:state-changed:showing")
         return said
