@@ -5,6 +5,8 @@
 #include "basket/orders.h"
 #include "basket/totals.h"
 
+#include <memory>
+
 namespace orvane {
 
 namespace {
@@ -123,13 +125,28 @@ void frm_Panier::cmd_Enregistrer_Click()
 void frm_Panier::NommerLignes(const std::string& Acheteur)
 {
     const Ouverture Base(App, Globals.CheminPanier);
-    for (Recordset Lignes = PremierEnregistrement("SELECT * FROM PanierGlobal WHERE Acheteur=" +
-                                                  Quoted(NouvelleCommande));
-         !Lignes.Eof(); Lignes.MoveNext()) {
+    Recordset Lignes = PremierEnregistrement("SELECT * FROM PanierGlobal WHERE Acheteur=" +
+                                             Quoted(NouvelleCommande));
+    const auto Nommées = std::make_shared<std::vector<std::string>>(); // also of a naming cut short
+    Gestes.push_back(
+        {"Annuler le nom donné", NouvelleCommande, [Nommées, Acheteur](const Database& Panier) {
+             RenommerLignes(Panier, *Nommées, Acheteur, NouvelleCommande);
+         }});
+    for (; !Lignes.Eof(); Lignes.MoveNext()) {
         Lignes.Edit();
         Lignes.Set("Acheteur", Acheteur);
         Lignes.Update();
+        Nommées->push_back(Lignes.TextOrEmpty("Num"));
     }
+}
+
+void frm_Panier::RetenirSuppression(LignesSupprimées Parties)
+{
+    if (!Parties.empty())
+        Gestes.push_back({"Annuler la suppression", cbo_Commandes.Text,
+                          [Parties = std::move(Parties)](const Database& Panier) {
+                              RemettreLignes(Panier, Parties);
+                          }});
 }
 
 void frm_Panier::cmd_SupprimerObjet_Click()
@@ -138,7 +155,7 @@ void frm_Panier::cmd_SupprimerObjet_Click()
         return;
     {
         const Ouverture Base(App, Globals.CheminPanier);
-        SupprimerLigne(*Globals.BaseDonnées, lst_Num.Text);
+        RetenirSuppression(SupprimerLigne(*Globals.BaseDonnées, lst_Num.Text));
     }
     ViderListes();
     RemplirListes();
@@ -150,7 +167,7 @@ void frm_Panier::cmd_SupprimerCommande_Click()
 {
     {
         const Ouverture Base(App, Globals.CheminPanier);
-        SupprimerCommande(*Globals.BaseDonnées, cbo_Commandes.Text);
+        RetenirSuppression(SupprimerCommande(*Globals.BaseDonnées, cbo_Commandes.Text));
     }
     ViderListes();
     RemplirCommandes(App);

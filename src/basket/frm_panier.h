@@ -2,6 +2,7 @@
 
 #include "app/feuille.h"
 #include "basket/order_lines.h"
+#include "basket/undo.h"
 
 #include <array>
 
@@ -22,6 +23,8 @@ class frm_Panier : public Feuille
     void RemplirListes(); // appends: ViderListes comes first
     void TotalCoûtant();
     void TotalVente();
+
+    std::vector<Geste> Gestes; // what can be taken back, the latest last
 
     Shape NAMED(shp_Commandes);
     Shape NAMED(shp_Objets);
@@ -50,6 +53,7 @@ class frm_Panier : public Feuille
     void MettreAuPas(const ListBox& Choisie);
     void Totaliser(std::string LigneDePanier::*Prix, TextBox& Où);
     void NommerLignes(const std::string& Acheteur);
+    void RetenirSuppression(LignesSupprimées Parties);
 
     void cbo_Commandes_Click();
     void cmd_Enregistrer_Click();

@@ -5,6 +5,7 @@
 #include "catalogue/catalogue.h"
 #include "store/sql_text.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -49,34 +50,112 @@ void SupprimerMatériaux(const Database& Panier, const std::string& Num)
     Panier.Execute("DELETE * FROM PanierMatériaux WHERE Ligne=" + Num);
 }
 
-// Adds what the crafter has of a material to another row of it. There may be none.
-void Rendre(const Database& Panier, const std::string& Matériau, Montant Possédé,
+Montant PossédéDe(const Recordset& Matériau)
+{
+    return Montant::FromText(Matériau.TextOrEmpty("Possédé")).value_or(Montant());
+}
+
+// What the crafter has of a material goes over to another row of it. There may be none.
+void Rendre(const Database& Panier, const std::string& Matériau, MatériauSupprimé& Parti,
             const std::vector<std::string>& Autres)
 {
     for (const std::string& Autre : Autres)
         for (Recordset Lignes = LireMatériaux(Panier, Autre); !Lignes.Eof(); Lignes.MoveNext())
             if (FoldedCase(Lignes.TextOrEmpty("Matériau")) == FoldedCase(Matériau)) {
-                const Montant Déjà =
-                    Montant::FromText(Lignes.TextOrEmpty("Possédé")).value_or(Montant());
+                const Montant Déjà = PossédéDe(Lignes);
+                const auto Somme = SumIfFits(Déjà, Parti.Rendu);
+                if (!Somme)
+                    return;
                 Lignes.Edit();
-                Lignes.Set("Possédé", T(SumIfFits(Déjà, Possédé).value_or(Déjà)));
+                Lignes.Set("Possédé", T(*Somme));
                 Lignes.Update();
+                Parti.RenduÀ = Lignes.TextOrEmpty("Num");
                 return;
             }
 }
 
-void RendrePossédés(const Database& Panier, const std::string& Num)
+// Takes a material back to its row, with what another one got of it.
+Assignments Repris(const Database& Panier, const MatériauSupprimé& Parti)
+{
+    Assignments Rangée = Parti.Rangée;
+    if (Parti.RenduÀ.empty())
+        return Rangée;
+    Recordset Autre =
+        Panier.OpenRecordset("SELECT * FROM PanierMatériaux WHERE Num=" + Parti.RenduÀ);
+    if (Autre.Eof())
+        return Rangée;
+    const Montant Là = PossédéDe(Autre);
+    const Montant Reprise = std::min(Là, Parti.Rendu);
+    Autre.Edit();
+    Autre.Set("Possédé", T(Là - Reprise));
+    Autre.Update();
+    for (auto& [Colonne, Cellule] : Rangée)
+        if (Colonne == "Possédé")
+            Cellule = Value(T(Reprise));
+    return Rangée;
+}
+
+// The row, under its number if that is free: a file that couldn't be brought up to date may have
+// given it again.
+std::int64_t Remettre(Recordset Table, Assignments Rangée, bool EstPris)
+{
+    if (EstPris)
+        std::erase_if(Rangée, [](const auto& Each) { return Each.first == "Num"; });
+    Table.AddNew();
+    Table.Set(Rangée);
+    return Table.Update();
+}
+
+std::string NuméroDe(const Assignments& Rangée)
+{
+    const auto Trouvé = std::ranges::find(
+        Rangée, "Num", [](const auto& Each) -> const std::string& { return Each.first; });
+    return Trouvé == Rangée.end() || Trouvé->second.IsNull() ? "0" : Trouvé->second.ToText();
+}
+
+void RemettreMatériaux(const Database& Panier, const LigneSupprimée& Ligne, std::int64_t Num)
+{
+    for (const MatériauSupprimé& Each : Ligne.Matériaux) {
+        Assignments Rangée = Repris(Panier, Each);
+        for (auto& [Colonne, Cellule] : Rangée)
+            if (Colonne == "Ligne")
+                Cellule = Value(Num);
+        Recordset Table =
+            Panier.OpenRecordset("SELECT * FROM PanierMatériaux WHERE Num=" + NuméroDe(Rangée));
+        const bool EstPris = !Table.Eof();
+        Remettre(std::move(Table), std::move(Rangée), EstPris);
+    }
+}
+
+// The rows of a condition and their materials, as they are stored.
+LignesSupprimées Retenir(const Database& Panier, const std::string& Condition)
+{
+    LignesSupprimées Lues;
+    const bool EnTable = Panier.HasTable(MatériauxDuPanier().Name);
+    for (Recordset Lignes = Panier.OpenRecordset("SELECT * FROM PanierGlobal" + Condition);
+         !Lignes.Eof(); Lignes.MoveNext()) {
+        LigneSupprimée& Lue = Lues.emplace_back(LigneSupprimée{Lignes.Row(), {}});
+        if (!EnTable)
+            continue;
+        for (Recordset Matériaux = LireMatériaux(Panier, NuméroDe(Lue.Rangée)); !Matériaux.Eof();
+             Matériaux.MoveNext())
+            Lue.Matériaux.push_back({Matériaux.Row(), {}, PossédéDe(Matériaux)});
+    }
+    return Lues;
+}
+
+void RendrePossédés(const Database& Panier, const std::string& Num, LigneSupprimée& Partie)
 {
     const Recordset Ligne =
         Panier.OpenRecordset("SELECT Acheteur, Royaume FROM PanierGlobal WHERE Num=" + Num);
-    if (Ligne.Eof())
-        return;
     std::vector<std::string> Autres =
         Numéros(Panier, {Ligne.TextOrEmpty("Acheteur"), Ligne.TextOrEmpty("Royaume")});
     std::erase(Autres, Num);
-    for (Recordset Matériaux = LireMatériaux(Panier, Num); !Matériaux.Eof(); Matériaux.MoveNext())
-        if (const auto Possédé = Montant::FromText(Matériaux.TextOrEmpty("Possédé")))
-            Rendre(Panier, Matériaux.TextOrEmpty("Matériau"), *Possédé, Autres);
+    auto Parti = Partie.Matériaux.begin();
+    for (Recordset Matériaux = LireMatériaux(Panier, Num); !Matériaux.Eof();
+         Matériaux.MoveNext(), ++Parti)
+        if (Parti->Rendu > Montant())
+            Rendre(Panier, Matériaux.TextOrEmpty("Matériau"), *Parti, Autres);
 }
 
 } // namespace
@@ -123,24 +202,59 @@ void AjouterLigne(const Database& Panier, const LigneDePanier& Ligne, const Acha
     });
 }
 
-void SupprimerLigne(const Database& Panier, const std::string& Num)
+LignesSupprimées SupprimerLigne(const Database& Panier, const std::string& Num)
 {
+    LignesSupprimées Parties;
     Panier.Transaction([&] {
+        Parties = Retenir(Panier, " WHERE Num=" + Num);
         if (Panier.HasTable(MatériauxDuPanier().Name)) {
-            RendrePossédés(Panier, Num);
+            if (!Parties.empty())
+                RendrePossédés(Panier, Num, Parties.front());
             SupprimerMatériaux(Panier, Num);
         }
         Panier.Execute("DELETE * FROM PanierGlobal WHERE Num=" + Num);
     });
+    return Parties;
 }
 
-void SupprimerCommande(const Database& Panier, const std::string& Acheteur)
+LignesSupprimées SupprimerCommande(const Database& Panier, const std::string& Acheteur)
 {
+    LignesSupprimées Parties;
     Panier.Transaction([&] {
+        Parties = Retenir(Panier, Condition({Acheteur, {}}));
         if (Panier.HasTable(MatériauxDuPanier().Name))
             for (const std::string& Num : Numéros(Panier, {Acheteur, {}}))
                 SupprimerMatériaux(Panier, Num);
         Panier.Execute("DELETE * FROM PanierGlobal WHERE Acheteur=" + Quoted(Acheteur));
+    });
+    return Parties;
+}
+
+void RemettreLignes(const Database& Panier, const LignesSupprimées& Lignes)
+{
+    Panier.Transaction([&] {
+        for (const LigneSupprimée& Each : Lignes) {
+            Recordset Table = Panier.OpenRecordset("SELECT * FROM PanierGlobal WHERE Num=" +
+                                                   NuméroDe(Each.Rangée));
+            const bool EstPris = !Table.Eof();
+            RemettreMatériaux(Panier, Each, Remettre(std::move(Table), Each.Rangée, EstPris));
+        }
+    });
+}
+
+void RenommerLignes(const Database& Panier, const std::vector<std::string>& Nums,
+                    const std::string& De, const std::string& À)
+{
+    Panier.Transaction([&] {
+        for (const std::string& Num : Nums) {
+            Recordset Ligne = Panier.OpenRecordset("SELECT * FROM PanierGlobal WHERE Num=" + Num +
+                                                   " AND Acheteur=" + Quoted(De));
+            if (Ligne.Eof())
+                continue;
+            Ligne.Edit();
+            Ligne.Set("Acheteur", À);
+            Ligne.Update();
+        }
     });
 }
 

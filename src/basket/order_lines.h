@@ -53,9 +53,31 @@ Recordset LireMatériaux(const Database& Panier, const std::string& Num);
 // must be there.
 void AjouterLigne(const Database& Panier, const LigneDePanier& Ligne, const Achats& Matériaux);
 
-// The same for a row, and for an order in all realms. What the crafter has of a row's materials
-// goes over to the others of its order in its realm.
-void SupprimerLigne(const Database& Panier, const std::string& Num);
-void SupprimerCommande(const Database& Panier, const std::string& Acheteur);
+// A row that is gone, as it was stored, with its materials.
+struct MatériauSupprimé
+{
+    Assignments Rangée;
+    std::string RenduÀ; // the row of materials that got what the crafter has of it; may be empty
+    Montant Rendu;
+};
+struct LigneSupprimée
+{
+    Assignments Rangée;
+    std::vector<MatériauSupprimé> Matériaux;
+};
+using LignesSupprimées = std::vector<LigneSupprimée>;
+
+// The same for a row, and for an order in all realms: what has gone. What the crafter has of a
+// row's materials goes over to the others of its order in its realm.
+LignesSupprimées SupprimerLigne(const Database& Panier, const std::string& Num);
+LignesSupprimées SupprimerCommande(const Database& Panier, const std::string& Acheteur);
+
+// Puts them back under their own numbers, in one durable write. What others got of what the crafter
+// has comes back, as far as it is still there.
+void RemettreLignes(const Database& Panier, const LignesSupprimées& Lignes);
+
+// Of these rows those that are still De's: they are À's, in one durable write.
+void RenommerLignes(const Database& Panier, const std::vector<std::string>& Nums,
+                    const std::string& De, const std::string& À);
 
 } // namespace orvane

@@ -71,6 +71,16 @@ std::int16_t Recordset::Whole(std::string_view Name) const
     throw About(FailureKind::NullValue, Name, "not a number");
 }
 
+Assignments Recordset::Row() const
+{
+    if (Eof())
+        throw About(FailureKind::NoRow);
+    Assignments Cells;
+    for (std::size_t i = 0; i < Rows.Columns->Count(); ++i)
+        Cells.emplace_back((*Rows.Columns)[i], Rows.Rows[At][i]);
+    return Cells;
+}
+
 void Recordset::Edit()
 {
     if (Eof())
@@ -91,6 +101,12 @@ void Recordset::Set(std::string_view Name, std::string Text)
 void Recordset::Set(std::string_view Name, std::int64_t Number)
 {
     Put(Name, Value(Number));
+}
+
+void Recordset::Set(const Assignments& Cells)
+{
+    for (const auto& [Name, Given] : Cells)
+        Put(Name, Given);
 }
 
 std::int64_t Recordset::Update()

@@ -35,6 +35,9 @@ class Recordset
     double Number(std::string_view Name) const;
     std::int16_t Whole(std::string_view Name) const;
 
+    // The present row, nulls and all. A row put together from it is the same one again.
+    Assignments Row() const;
+
     // Changing: Edit or AddNew, then Set for each column, then Update, which stores the row at once
     // (in a transaction, with it) and tells its key. Moving away before Update drops the change. A
     // refused value leaves the stored row as it was.
@@ -42,6 +45,7 @@ class Recordset
     void AddNew();
     void Set(std::string_view Name, std::string Text);
     void Set(std::string_view Name, std::int64_t Number);
+    void Set(const Assignments& Cells); // several columns, as Row tells them
     std::int64_t Update();
 
   private:

@@ -25,7 +25,11 @@ class ScreenWindow : public QWidget, public ScreenObserver
     Screen& Model() const { return TheScreen; }
     std::function<void()> OnFocused; // the desktop has made it the active window
 
-    void ShowInMenuBar(const QString& Words) { TheMenu->ShowAtTheEnd(Words); }
+    void ShowInMenuBar(const QString& Words)
+    {
+        TheMenu->ShowAtTheEnd(Words);
+        TheMenu->ShowOffers();
+    }
 
     // What an action has done, for who listens; the button that was pressed glows for who looks.
     void Answer(const Control& Pressed, const QString& Words);

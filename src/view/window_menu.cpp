@@ -30,6 +30,8 @@ WindowMenu::WindowMenu(const Menus& What, QWidget* Parent) : QMenuBar(Parent), E
                         Act([&] { Fill(*Opened, More()); });
                     });
     }
+    for (const auto& [Action, Words] : Offers)
+        addAction(Action);
     End->setTextFormat(Qt::PlainText);
     End->setFont(font());
     End->setContentsMargins(EndMargins);
@@ -43,6 +45,9 @@ void WindowMenu::Fill(QMenu& Opened, const std::vector<MenuEntry>& Entries)
         Action->setShortcut(Each.Key);
         Action->setCheckable(Each.IsChosen);
         Action->setChecked(Each.IsChosen);
+        if (Each.Offered)
+            Offers.emplace_back(Action, Each.Offered);
+        Action->setVisible(!Each.Offered);
         connect(Action, &QAction::triggered, this, [Run = Each.Run] { Act(Run); });
     }
 }
@@ -55,6 +60,15 @@ void WindowMenu::ShowAtTheEnd(const QString& Words)
     setAccessibleDescription(Words); // a bar tells readers of its menus only
     setCornerWidget(End);            // makes room for it
     End->show();
+}
+
+void WindowMenu::ShowOffers()
+{
+    for (const auto& [Action, Now] : Offers) {
+        const QString Words = Now();
+        Action->setText(Words);
+        Action->setVisible(!Words.isEmpty());
+    }
 }
 
 void WindowMenu::TakeColours(const QPixmap& Background)

@@ -19,6 +19,9 @@ struct MenuEntry
     QKeySequence Key;
     std::function<void()> Run;
     bool IsChosen = false; // of several, the one in force
+
+    // Words that change: the entry stands in the bar too, and nowhere while they are empty.
+    std::function<QString()> Offered = {};
 };
 
 struct Menu
@@ -38,10 +41,12 @@ class WindowMenu : public QMenuBar
 
     void TakeColours(const QPixmap& Background);
     void ShowAtTheEnd(const QString& Words); // what all windows tell, at the right
+    void ShowOffers();                       // as they are now
 
   private:
     void Fill(QMenu& Opened, const std::vector<MenuEntry>& Entries);
 
+    std::vector<std::pair<QAction*, std::function<QString()>>> Offers;
     QLabel* End;
 };
 

@@ -12,19 +12,22 @@ class KillTest : public BasketTest
   protected:
     using Numbers = std::minstd_rand;
 
-    // Adds and deletes lines without an end, and tells each. A line is called by the number of its
-    // materials.
+    // Adds, deletes and puts back lines without an end, and tells each. A line is called by the
+    // number of its materials.
     [[noreturn]] void Work(Numbers Random, int Told)
     {
+        LignesSupprimées Gone;
         for (;;) {
             const auto Count = Random() % 6;
             const Achats Materials(Count, Of("lin", "1", "2"));
             const auto Lines = LireLignes(TheStore.Open(File), {});
             const auto Deed = Random() % 8;
-            if (Deed == 0)
-                SupprimerCommande(TheStore.Open(File), std::to_string(Random() % 3));
+            if (!Gone.empty() && Deed % 2 == 0)
+                RemettreLignes(TheStore.Open(File), std::exchange(Gone, {}));
+            else if (Deed == 0)
+                Gone = SupprimerCommande(TheStore.Open(File), std::to_string(Random() % 3));
             else if (Deed < 4 && !Lines.empty())
-                SupprimerLigne(TheStore.Open(File), Lines[Random() % Lines.size()].Num);
+                Gone = SupprimerLigne(TheStore.Open(File), Lines[Random() % Lines.size()].Num);
             else
                 Add(std::to_string(Random() % 3), std::to_string(Count), Materials);
             if (::write(Told, "+", 1) != 1)

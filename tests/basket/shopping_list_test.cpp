@@ -103,6 +103,45 @@ TEST_F(ShoppingListTest, WhatOneHasStaysWithTheOrderWhenAnObjectGoes)
     EXPECT_EQ(Cells("SELECT count(*) FROM PanierMatériaux"), "0");
 }
 
+TEST_F(ShoppingListTest, WhatWasDeletedComesBackWithAllThatItHeld)
+{
+    Raw("Panier.mdb", "ALTER TABLE PanierGlobal ADD COLUMN Note TEXT");
+    for (const char* Object : {"Robe", "Cape"})
+        Add("Zoé", Object, {Of("lin", "4", "8"), Of("fil", "1", "3")});
+    Raw("Panier.mdb", "UPDATE PanierGlobal SET Note = 'pour lundi', Nb = NULL WHERE Num = 1");
+    Read(OfZoé);
+    List.Posséder(1, "6");
+    List.Cocher(0, true);
+    const auto Stored = [&] {
+        return Cells("SELECT group_concat(Num || Nom || ifnull(Nb, '-') || ifnull(Note, '-') || "
+                     "Acheteur) FROM (SELECT * FROM PanierGlobal ORDER BY Num)") +
+               Cells(
+                   "SELECT group_concat(Num || ':' || Ligne || Matériau || Quantité || '=' || Prix "
+                   "|| ifnull(Possédé, '-') || ifnull(Coché, '-')) "
+                   "FROM (SELECT * FROM PanierMatériaux ORDER BY Num)");
+    };
+    const std::string Before = Stored();
+    const LignesSupprimées Robe = SupprimerLigne(TheStore.Open(File), "1");
+    EXPECT_EQ(Read(OfZoé), "fil 1 à 3 = 3, j'ai , reste 0 ✓ / lin 4 à 2 = 8, j'ai 6, reste 0");
+    const LignesSupprimées Rest = SupprimerCommande(TheStore.Open(File), "zoé");
+    EXPECT_EQ(Cells("SELECT count(*) FROM PanierMatériaux"), "0");
+    RemettreLignes(TheStore.Open(File), Rest);
+    RemettreLignes(TheStore.Open(File), Robe);
+    EXPECT_EQ(Stored(), Before);
+    // Of what the crafter has, only what is still there comes back.
+    const LignesSupprimées Again = SupprimerLigne(TheStore.Open(File), "1");
+    Read(OfZoé);
+    List.Posséder(1, "1,5");
+    RemettreLignes(TheStore.Open(File), Again);
+    EXPECT_EQ(Read(OfZoé), "fil 2 à 3 = 6, j'ai , reste 0 ✓ / lin 8 à 2 = 16, j'ai 1,5, reste 6,5");
+    // A number that was given again isn't fought over.
+    const LignesSupprimées Twice = SupprimerLigne(TheStore.Open(File), "2");
+    RemettreLignes(TheStore.Open(File), Twice);
+    RemettreLignes(TheStore.Open(File), Twice);
+    EXPECT_EQ(Cells("SELECT count(*) || ' ' || count(DISTINCT Num) FROM PanierGlobal"), "3 3");
+    EXPECT_EQ(Cells("SELECT count(*) || ' ' || count(DISTINCT Num) FROM PanierMatériaux"), "6 6");
+}
+
 TEST_F(ShoppingListTest, RowsOfBeforeAndFiguresBeyondCountingAreTold)
 {
     Raw("Panier.mdb", "INSERT INTO PanierGlobal (Nom, PrixCoûtant, Acheteur, Royaume) VALUES "

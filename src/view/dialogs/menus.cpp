@@ -3,6 +3,7 @@
 #include "app/version.h"
 #include "base/typography.h"
 #include "basket/orders.h"
+#include "basket/undo.h"
 #include "home/feuilles.h"
 #include "view/dialogs/guide.h"
 #include "view/dialogs/shopping_list_window.h"
@@ -45,7 +46,12 @@ Menus ProgramMenus(Application& App)
              {{"Liste d’achats…", QKeySequence(Qt::CTRL | Qt::Key_L),
                [&App] { OpenShoppingList(App); }},
               {"Copier pour l’acheteur", {}, [&App] { CopyForBuyer(App); }},
-              {"Copier les achats", {}, [&App] { CopyPurchases(App); }}},
+              {"Copier les achats", {}, [&App] { CopyPurchases(App); }},
+              {{},
+               QKeySequence::Undo,
+               [&App] { Annuler(App); },
+               false,
+               [&App] { return ToQt(ÀAnnuler(App)); }}},
              [&App] { return OrdersToTake(App); }},
             {"&Aide",
              {{"Guide du crafteur", QKeySequence(Qt::Key_F1), [&App] { OpenGuide(App); }},
