@@ -1,5 +1,7 @@
 #include "scenario/program_scene.h"
 
+#include "basket/orders.h"
+#include "basket/undo.h"
 #include "scenario/lines.h"
 #include "scenario/outputs.h"
 
@@ -45,6 +47,10 @@ void ProgramScene::Act(const Step& Which)
 {
     if (Which.Verb == "montrer")
         Named(Which.Target).Visible = true;
+    else if (Which.Verb == "annuler")
+        Annuler(Running());
+    else if (Which.Verb == "passer")
+        PrendreCommande(Running(), Which.Target);
     else if (Which.Verb == "base")
         Folder.Change(Which.Target, Which.Text);
     else if (Which.Verb == "perdre")

@@ -9,6 +9,7 @@ namespace {
 const std::set<std::string> Verbs{// what a person does
                                   "clic", "menu", "choisir", "taper", "fermer", "activer", "ouvrir",
                                   "parcourir", "photo", "prendre", "démarrer", "relancer",
+                                  "annuler", "passer",
                                   // a tool for developers, which no rule shows
                                   "montrer",
                                   // what happens to the folder meanwhile
