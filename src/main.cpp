@@ -1,10 +1,13 @@
 #include "base/failure.h"
 #include "base/text.h"
 #include "base/typography.h"
+#include "catalogue/catalogue.h"
 #include "command_line/command_line.h"
 #include "home/feuilles.h"
+#include "makers/backups.h"
 #include "makers/jet.h"
 #include "view/desktop.h"
+#include "view/dialogs/backups.h"
 #include "view/dialogs/menus.h"
 #include "view/french.h"
 #include "view/picture_source.h"
@@ -13,6 +16,7 @@
 #include "view/style.h"
 
 #include <QApplication>
+#include <QProcess>
 #include <QTimer>
 
 #include <algorithm>
@@ -27,6 +31,8 @@
 using namespace orvane;
 
 namespace {
+
+constexpr std::chrono::seconds BackupPatience{1}; // the first picture has long been painted
 
 std::filesystem::path ProgramFolder()
 {
@@ -65,6 +71,24 @@ void OfferConversion(const std::vector<std::filesystem::path>& Files, Dialogs& B
         Boxes.MsgBox(Refused);
 }
 
+// Another run takes this one's place.
+void Restart()
+{
+    QProcess::startDetached(QApplication::applicationFilePath(), QApplication::arguments().mid(1));
+    std::_Exit(EXIT_SUCCESS);
+}
+
+// Copies of what the crafter writes. A folder that takes none is no reason to stop anybody.
+void BackUp(const std::filesystem::path& Folder)
+{
+    for (const std::string& Each : {PanierFile, ConfigFile})
+        try {
+            Sauvegarder(Folder / Each, Maintenant());
+        } catch (const Failure& Given) {
+            qWarning("%s", Given.what());
+        }
+}
+
 // Runs start-up behind one boundary: what stops it is told in one box.
 bool Started(Application& App, std::future<void>& Loading, Dialogs& Boxes)
 {
@@ -73,6 +97,8 @@ bool Started(Application& App, std::future<void>& Loading, Dialogs& Boxes)
         Démarrer(App);
         return true;
     } catch (const Failure& Given) {
+        if (OfferLatestBackup(App, Given.Sentence()))
+            Restart();
         Boxes.MsgBox(Given.Sentence());
     } catch (const std::exception& Unexpected) {
         Boxes.MsgBox(Failure(FailureKind::Program, Unexpected.what()).Sentence());
@@ -116,7 +142,7 @@ int main(int Count, char** Arguments)
         OfferConversion(Convertible, Boxes);
     Loading.wait();
     Boxes.StandAbove(App.Feuilles);
-    Desktop Windows(App.Feuilles, App.Door, ProgramMenus(App));
+    Desktop Windows(App.Feuilles, App.Door, ProgramMenus(App, Restart));
     App.OnAdded = [&](Screen& From, const std::string& Commande) {
         Windows.Answer(From.Find("cmd_AjouterPanier"),
                        ToQt(Typeset("Ajouté à la commande « ") + Commande + Typeset(" »")));
@@ -129,5 +155,6 @@ int main(int Count, char** Arguments)
         const Picture Icon = App.Images.LoadOr(App.Chemin("/Interface/Orvane.png"));
         QApplication::setWindowIcon(IconOf(Icon));
     });
+    QTimer::singleShot(BackupPatience, &Toolkit, [&] { BackUp(Asked.Folder); });
     return QApplication::exec();
 }

@@ -6,6 +6,19 @@
 
 namespace orvane {
 
+namespace {
+
+void Montrer(Application& App, const std::string& Commande)
+{
+    auto& Panier = App.Feuilles.Get<frm_Panier>();
+    RemplirCommandes(App);
+    Panier.cbo_Commandes.Text = Commande;
+    if (App.Feuilles.Active() == &Panier)
+        Panier.Activate();
+}
+
+} // namespace
+
 std::string ÀAnnuler(Application& App)
 {
     const auto& Gestes = App.Feuilles.Get<frm_Panier>().Gestes;
@@ -24,11 +37,14 @@ void Annuler(Application& App)
             Dernier.Défaire(*App.Globals.BaseDonnées2);
         }
         Panier.Gestes.pop_back();
-        RemplirCommandes(App);
-        Panier.cbo_Commandes.Text = Dernier.Commande;
-        if (App.Feuilles.Active() == &Panier)
-            Panier.Activate();
+        Montrer(App, Dernier.Commande);
     });
+}
+
+void RelireCommandes(Application& App)
+{
+    App.Feuilles.Get<frm_Panier>().Gestes.clear();
+    Montrer(App, NouvelleCommande);
 }
 
 } // namespace orvane

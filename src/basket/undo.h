@@ -22,4 +22,8 @@ std::string ÀAnnuler(Application& App);
 // and it can be tried again.
 void Annuler(Application& App);
 
+// The basket's file is another one now: the orders are read afresh, and nothing of before can be
+// taken back.
+void RelireCommandes(Application& App);
+
 } // namespace orvane

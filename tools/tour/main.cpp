@@ -56,7 +56,7 @@ class Evening
   private:
     QtDialogs Boxes;
     Application App{Scene.Path(), Boxes};
-    Desktop Windows{App.Feuilles, App.Door, ProgramMenus(App)};
+    Desktop Windows{App.Feuilles, App.Door, ProgramMenus(App, [] {})};
 };
 
 void Walk(const QString& Program, const QDir& Pictures, const QStringList& Filter)

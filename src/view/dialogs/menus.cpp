@@ -5,6 +5,7 @@
 #include "basket/orders.h"
 #include "basket/undo.h"
 #include "home/feuilles.h"
+#include "view/dialogs/backups.h"
 #include "view/dialogs/guide.h"
 #include "view/dialogs/shopping_list_window.h"
 #include "view/qt_text.h"
@@ -40,7 +41,7 @@ QString OrderInHand(Application& App)
     return ToQt(Typeset("Commande : ") + CommandeEnMain(App));
 }
 
-Menus ProgramMenus(Application& App)
+Menus ProgramMenus(Application& App, const std::function<void()>& Restart)
 {
     return {{"&Commande",
              {{"Liste d’achats…", QKeySequence(Qt::CTRL | Qt::Key_L),
@@ -51,7 +52,8 @@ Menus ProgramMenus(Application& App)
                QKeySequence::Undo,
                [&App] { Annuler(App); },
                false,
-               [&App] { return ToQt(ÀAnnuler(App)); }}},
+               [&App] { return ToQt(ÀAnnuler(App)); }},
+              {"Revenir à une sauvegarde…", {}, [&App, Restart] { GoBackToBackup(App, Restart); }}},
              [&App] { return OrdersToTake(App); }},
             {"&Aide",
              {{"Guide du crafteur", QKeySequence(Qt::Key_F1), [&App] { OpenGuide(App); }},
