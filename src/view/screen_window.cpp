@@ -6,6 +6,7 @@
 #include "view/button_view.h"
 #include "view/control_view.h"
 #include "view/key_words.h"
+#include "view/list_box_view.h"
 #include "view/picture_source.h"
 #include "view/qt_text.h"
 #include "view/screen_area.h"
@@ -13,6 +14,7 @@
 
 #include <QAccessible>
 #include <QCloseEvent>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -91,7 +93,8 @@ void ScreenWindow::ScreenChanged(PropertyId What)
         setWindowTitle(ToQt(TheScreen.Caption));
         break;
     case PropertyId::Icon:
-        setWindowIcon(IconOf(TheScreen.Icon));
+        if (const QIcon Own = IconOf(TheScreen.Icon); !Own.isNull()) // else the program's
+            setWindowIcon(Own);
         break;
     case PropertyId::Picture:
         Area->PictureChanged();
@@ -140,6 +143,14 @@ void ScreenWindow::closeEvent(QCloseEvent* Event)
 {
     Event->ignore(); // the model decides
     Close();
+}
+
+void ScreenWindow::contextMenuEvent(QContextMenuEvent* Event)
+{
+    for (QWidget* At = childAt(Event->pos()); At != nullptr; At = At->parentWidget())
+        if (dynamic_cast<ListBoxView*>(At) != nullptr)
+            return TheMenu->OpenForList(Event->globalPos());
+    QWidget::contextMenuEvent(Event);
 }
 
 void ScreenWindow::keyPressEvent(QKeyEvent* Event)

@@ -44,6 +44,7 @@ class ScreenWindow : public QWidget, public ScreenObserver
     bool event(QEvent* Event) override;
     void closeEvent(QCloseEvent* Event) override;
     void keyPressEvent(QKeyEvent* Event) override;
+    void contextMenuEvent(QContextMenuEvent* Event) override;
 
   private:
     void ShowSize();

@@ -21,6 +21,8 @@ WindowMenu::WindowMenu(const Menus& What, QWidget* Parent) : QMenuBar(Parent), E
         QMenu* Opened = addMenu(Each.Title);
         Opened->setFont(font());
         Fill(*Opened, Each.Entries);
+        if (Each.IsOfLists)
+            OfLists = Opened;
         if (Each.More)
             connect(Opened, &QMenu::aboutToShow, this,
                     [this, Opened, More = Each.More, Fixed = Opened->actions().size()] {
@@ -69,6 +71,12 @@ void WindowMenu::ShowOffers()
         Action->setText(Words);
         Action->setVisible(!Words.isEmpty());
     }
+}
+
+void WindowMenu::OpenForList(const QPoint& Where)
+{
+    if (OfLists != nullptr)
+        OfLists->popup(Where);
 }
 
 void WindowMenu::TakeColours(const QPixmap& Background)

@@ -29,6 +29,7 @@ struct Menu
     QString Title; // with an & before its letter
     std::vector<MenuEntry> Entries;
     std::function<std::vector<MenuEntry>()> More = {}; // below them, as they are when it opens
+    bool IsOfLists = false;                            // a right click on a list opens it, too
 };
 
 using Menus = std::vector<Menu>;
@@ -42,11 +43,13 @@ class WindowMenu : public QMenuBar
     void TakeColours(const QPixmap& Background);
     void ShowAtTheEnd(const QString& Words); // what all windows tell, at the right
     void ShowOffers();                       // as they are now
+    void OpenForList(const QPoint& Where);   // the menu of lists, in the screen's coordinates
 
   private:
     void Fill(QMenu& Opened, const std::vector<MenuEntry>& Entries);
 
     std::vector<std::pair<QAction*, std::function<QString()>>> Offers;
+    QMenu* OfLists = nullptr;
     QLabel* End;
 };
 

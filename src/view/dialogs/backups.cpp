@@ -66,6 +66,7 @@ const Choice* Ask(const std::vector<Choice>& From)
     for (const Choice& Each : From)
         Words << Each.Words;
     Box.setComboBoxItems(Words);
+    Box.setTextValue(Words.first());
     Box.resize(BoxSize);
     if (Box.exec() != QDialog::Accepted)
         return nullptr;

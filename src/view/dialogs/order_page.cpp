@@ -6,8 +6,9 @@
 
 #include <QImage>
 #include <QPdfWriter>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QSaveFile>
-#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextTable>
@@ -63,11 +64,8 @@ void WriteRows(QTextCursor& Page, const ListeDAchats& Of)
     WriteCell(Table, Last, 2, ToQt(Of.Sommes().PrixVente.Texte), true);
 }
 
-} // namespace
-
-bool WriteOrderPage(const ListeDAchats& Of, const QString& Banner, const QString& File)
+void WritePage(QTextDocument& Document, const ListeDAchats& Of, const QString& Banner)
 {
-    QTextDocument Document;
     Document.setDefaultFont(look::Font(Points));
     QTextCursor Page(&Document);
     if (const QImage Picture(Banner); !Picture.isNull()) {
@@ -78,22 +76,48 @@ bool WriteOrderPage(const ListeDAchats& Of, const QString& Banner, const QString
     Title.setFontPointSize(TitlePoints);
     Title.setFontWeight(QFont::Bold);
     const auto& Order = Of.DeQuoi().Commande;
-    Page.insertText(Order ? ToQt(Typeset("Commande « ") + *Order + Typeset(" »"))
-                          : QStringLiteral("Toutes les commandes"),
-                    Title);
+    const QString Words = Order ? ToQt(Typeset("Commande « ") + *Order + Typeset(" »"))
+                                : QStringLiteral("Toutes les commandes");
+    Document.setMetaInformation(QTextDocument::DocumentTitle, Words);
+    Page.insertText(Words, Title);
     Page.insertBlock(QTextBlockFormat(), QTextCharFormat());
     WriteRows(Page, Of);
+}
 
+QString TitleOf(const QTextDocument& Document)
+{
+    return Document.metaInformation(QTextDocument::DocumentTitle);
+}
+
+} // namespace
+
+bool WriteOrderPage(const ListeDAchats& Of, const QString& Banner, const QString& File)
+{
+    QTextDocument Document;
+    WritePage(Document, Of, Banner);
     QSaveFile Out(File);
     if (!Out.open(QIODevice::WriteOnly))
         return false;
     {
         QPdfWriter Writer(&Out);
         Writer.setPageSize(QPageSize(QPageSize::A4));
-        Writer.setTitle(Page.document()->firstBlock().text());
+        Writer.setTitle(TitleOf(Document));
         Document.print(&Writer);
     }
     return Out.commit();
+}
+
+void PrintOrderPage(const ListeDAchats& Of, const QString& Banner, QWidget* Above)
+{
+    QTextDocument Document;
+    WritePage(Document, Of, Banner);
+    QPrinter Printer;
+    Printer.setPageSize(QPageSize(QPageSize::A4));
+    Printer.setDocName(TitleOf(Document));
+    QPrintDialog Box(&Printer, Above);
+    Box.setWindowTitle(QStringLiteral("Imprimer"));
+    if (Box.exec() == QDialog::Accepted)
+        Document.print(&Printer);
 }
 
 } // namespace orvane

@@ -164,6 +164,8 @@ class ListWindow : public QDialog
             [this] { Save(QStringLiteral("commande.csv"), CommandeEnCsv(List)); });
         Add("&Page à remettre…", "La commande en PDF, pour son acheteur, rien du coût",
             [this] { SavePage(); });
+        Add("&Imprimer…", "La même page, sur papier",
+            [this] { PrintOrderPage(List, Banner(), this); });
         Buttons->addStretch();
         Add("&Fermer", "Revenir aux écrans", [this] { close(); });
 
@@ -298,13 +300,17 @@ class ListWindow : public QDialog
         App.MsgBox(Typeset("« " + FromQt(File) + " » n’a pas pu être écrit."));
     }
 
-    // With the banner of the realm it is for, or else of the one in force.
+    // Of the realm that the list is for, or else of the one in force.
+    QString Banner() const
+    {
+        const std::string Realm = List.DeQuoi().Royaume.value_or(App.Globals.RoyaumeCourant);
+        return ToQt(App.Chemin("/Interface/Bannière" + Realm + ".gif"));
+    }
+
     void SavePage()
     {
         const QString File = AskFile(QStringLiteral("commande.pdf"), QStringLiteral("PDF (*.pdf)"));
-        const std::string Realm = List.DeQuoi().Royaume.value_or(App.Globals.RoyaumeCourant);
-        if (!File.isEmpty() &&
-            !WriteOrderPage(List, ToQt(App.Chemin("/Interface/Bannière" + Realm + ".gif")), File))
+        if (!File.isEmpty() && !WriteOrderPage(List, Banner(), File))
             TellUnwritten(File);
     }
 

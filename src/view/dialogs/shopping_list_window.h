@@ -4,8 +4,8 @@
 
 namespace orvane {
 
-// Opens the list of what to buy for the order in hand in the realm in force, or brings it up. It
-// stands beside the screens and reads the basket afresh whenever it becomes the active window. App
+// Opens the list of what to buy for the order in hand in all realms, or brings it up. It stands
+// beside the screens and reads the basket afresh whenever it becomes the active window. App
 // outlives it.
 void OpenShoppingList(Application& App);
 
