@@ -34,8 +34,9 @@ int Run(QDialog& Box)
 
 QWidget* QtDialogs::ActiveWindow() const
 {
-    if (TheForms == nullptr)
-        return QApplication::activeWindow();
+    QWidget* Now = QApplication::activeWindow();
+    if (TheForms == nullptr || (Now != nullptr && dynamic_cast<ScreenWindow*>(Now) == nullptr))
+        return Now; // a window beside the screens tells its own
     for (QWidget* Each : QApplication::topLevelWidgets()) {
         const auto* Window = dynamic_cast<ScreenWindow*>(Each);
         if (Window != nullptr && &Window->Model() == TheForms->Active() && Window->isVisible())
