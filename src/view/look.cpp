@@ -70,15 +70,17 @@ QFont Font(double Points, bool Bold)
     return Result;
 }
 
-QFont FittingFont(double Points, const QString& Text, int Width)
+QFont FittingFont(double Points, const QString& Text, int Width, QFont::Weight Weight)
 {
     constexpr double Smallest = 0.7;
     constexpr double Step = 0.06;
     constexpr int Narrow = 88; // percent
     QFont Result = Font(Points);
+    Result.setWeight(Weight);
     for (double Share = 1;
          Share >= Smallest && QFontMetrics(Result).horizontalAdvance(Text) > Width; Share -= Step) {
         Result = Font(Points * Share);
+        Result.setWeight(Weight);
         Result.setStretch(Narrow);
     }
     return Result;

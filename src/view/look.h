@@ -49,7 +49,8 @@ QFont Font(double Points, bool Bold = false);
 
 // The font of that size, or as much smaller as the text needs to fit the width, within what can be
 // read.
-QFont FittingFont(double Points, const QString& Text, int Width);
+QFont FittingFont(double Points, const QString& Text, int Width,
+                  QFont::Weight Weight = QFont::Normal);
 
 // The model's colour; its plain black becomes ink.
 QColor InkOf(Colour Given);

@@ -19,6 +19,8 @@ namespace orvane {
 
 namespace {
 
+constexpr double AnswerShare = 1.2;
+
 // One line in composed letters.
 QString NameText(const QString& Typed)
 {
@@ -123,11 +125,15 @@ void TextBoxView::ShowText()
     ShowTip();
 }
 
-// A long text takes a smaller font, but not while somebody types it.
+// A long text takes a smaller font, but not while somebody types it. What people come for is larger
+// than what it is made of.
 void TextBoxView::ShowFont()
 {
-    QFont Font = hasFocus() && !isReadOnly() ? look::Font(Box.FontSize)
-                                             : look::FittingFont(Box.FontSize, text(), Room());
+    const double Points = Box.FontSize * (Box.IsAnswer ? AnswerShare : 1);
+    QFont Font =
+        hasFocus() && !isReadOnly()
+            ? look::Font(Points)
+            : look::FittingFont(Points, text(), Room(), Box.IsAnswer ? QFont::Bold : QFont::Normal);
     Font.setItalic(Box.Stale);
     if (Font != font())
         setFont(Font);
