@@ -1,5 +1,6 @@
 #include "view/entry_delegate.h"
 
+#include "view/entry_model.h"
 #include "view/look.h"
 #include "view/tip.h"
 
@@ -23,12 +24,21 @@ void EntryDelegate::paint(QPainter* Painter, const QStyleOptionViewItem& Option,
         Painter->fillRect(Option.rect, look::Hover);
         Words = look::Ink;
     }
-    const QRect Box = Option.rect.adjusted(look::RowPadding, 0, -look::RowPadding, 0);
+    QRect Box = Option.rect.adjusted(look::RowPadding, 0, -look::RowPadding, 0);
     const QString Text = Index.data(Qt::DisplayRole).toString();
-    const QFont Font = look::FittingFont(Option.font.pointSizeF(), Text, Box.width());
+    const QString Widest = Index.data(EntryModel::WidestFigure).toString();
+    const QFont Font =
+        look::FittingFont(Option.font.pointSizeF(), Widest.isEmpty() ? Text : Widest, Box.width());
     Painter->setFont(Font);
     Painter->setPen(Words);
-    const auto Side = Index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
+    auto Side = Index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
+    if (!Widest.isEmpty()) { // commas stand below each other, the widest figure in the middle
+        const QFontMetrics Wide(Font);
+        Box.setLeft(Box.left() + (Box.width() - Wide.horizontalAdvance(Widest)) / 2 +
+                    Wide.horizontalAdvance(Widest.section(u',', 0, 0)) -
+                    Wide.horizontalAdvance(Text.section(u',', 0, 0)));
+        Side = Qt::AlignLeft;
+    }
     Painter->drawText(Box, static_cast<int>(Side) | Qt::AlignVCenter | Qt::TextSingleLine,
                       QFontMetrics(Font).elidedText(Text, Qt::ElideRight, Box.width()));
 }

@@ -4,6 +4,7 @@
 
 #include <QAbstractListModel>
 
+#include <optional>
 #include <vector>
 
 namespace orvane {
@@ -13,6 +14,10 @@ namespace orvane {
 class EntryModel : public QAbstractListModel
 {
   public:
+    // Of a centred list of numbers: a text as wide as any on either side of the comma. Empty for
+    // other lists.
+    static constexpr int WidestFigure = Qt::UserRole;
+
     EntryModel(const ListControl& List, QObject* Parent) : QAbstractListModel(Parent), List(List) {}
 
     void TakeAll();
@@ -25,8 +30,11 @@ class EntryModel : public QAbstractListModel
     QVariant data(const QModelIndex& Index, int Role) const override;
 
   private:
+    QString Widest() const;
+
     const ListControl& List;
     std::vector<int> Entries;
+    mutable std::optional<QString> KnownWidest; // of these entries
 };
 
 } // namespace orvane
