@@ -42,6 +42,7 @@ void frm_Panier::ViderListes()
 {
     for (ListBox* Liste : Listes())
         Liste->Clear();
+    lst_Objet.WhenEmpty = "";
     for (TextBox* Total : {&txt_TotalPanierCoûtant, &txt_TotalPanierVente}) {
         Total->Text = "0";
         Total->Marked = false;
@@ -64,6 +65,8 @@ void frm_Panier::RemplirListes()
         for (ListBox* Liste : Listes())
             Liste->AddItem(*Cellule++);
     }
+    lst_Objet.WhenEmpty =
+        lst_Objet.ListCount() == 0 ? "Cette commande est vide dans ce royaume" : "";
 }
 
 void frm_Panier::TotalCoûtant()

@@ -98,6 +98,9 @@ class ListBox : public ListControl
     // The chosen entry, or the empty text; written by the choice alone.
     TextProperty Text{AsOwner(), PropertyId::Text};
 
+    // What stands in the list's place while it has no entry.
+    TextProperty WhenEmpty{AsOwner(), PropertyId::WhenEmpty};
+
   protected:
     void ShowChoice(const std::string& Entry) override { Text = Entry; }
 };

@@ -31,6 +31,7 @@ enum class PropertyId {
     Tip,
     Called,
     Stored,
+    WhenEmpty,
 };
 
 // Whoever owns properties and hears of their changes.

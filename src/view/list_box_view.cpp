@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -43,6 +44,10 @@ void ListBoxView::Follow(PropertyId What)
     switch (What) {
     case PropertyId::Items:
         FollowLater();
+        break;
+    case PropertyId::WhenEmpty:
+        setAccessibleDescription(ToQt(TheBox.WhenEmpty));
+        viewport()->update();
         break;
     case PropertyId::ListIndex:
         if (!ItemsAreOld)
@@ -157,6 +162,12 @@ void ListBoxView::paintEvent(QPaintEvent* Event)
 {
     FollowItems();
     QListView::paintEvent(Event);
+    if (Entries.rowCount() > 0 || TheBox.WhenEmpty == "")
+        return;
+    QPainter Painter(viewport());
+    Painter.setPen(look::MutedInk);
+    Painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
+                     ToQt(TheBox.WhenEmpty));
 }
 
 // QListView would tell screen readers of the change too, but by the place among its own entries,
