@@ -147,6 +147,7 @@ int main(int Count, char** Arguments)
         Windows.Answer(From.Find("cmd_AjouterPanier"),
                        ToQt(Typeset("Ajouté à la commande « ") + Commande + Typeset(" »")));
     };
+    App.OnColours = [&] { Windows.TakeColours(App.Couleurs); };
     if (!Started(App, Loading, Boxes))
         return EXIT_FAILURE;
     App.OnEventEnd = [&] { Windows.ShowInMenuBars(OrderInHand(App)); };

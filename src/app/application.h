@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/shared_state.h"
+#include "toolkit/colour.h"
 #include "toolkit/dialogs.h"
 #include "toolkit/forms.h"
 #include "toolkit/picture.h"
@@ -8,6 +9,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -43,6 +45,11 @@ class Application
     Dialogs& TheDialogs;
     User Door;
     std::function<void()> OnQuit = [] {}; // ends the process
+
+    // What the skin in force has its windows painted with, by name; whoever paints is told of new
+    // ones.
+    std::map<std::string, Colour> Couleurs;
+    std::function<void()> OnColours = [] {};
 
     // Each event has ended: what it may have changed can be shown.
     std::function<void()> OnEventEnd = [] {};

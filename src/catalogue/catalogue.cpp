@@ -113,7 +113,9 @@ const DatabaseDefinition& AlchimieDefinition()
 const DatabaseDefinition& SkinDefinition()
 {
     static const DatabaseDefinition Definition{
-        {{"RésolutionCommune", {{"Nom", Text, {}}, {"Commun", Text, {}}}}, LayoutTable("Temp")},
+        {{"RésolutionCommune", {{"Nom", Text, {}}, {"Commun", Text, {}}}},
+         {"Palette", {{"Nom", Text, {}}, {"Couleur", Text, {}}}},
+         LayoutTable("Temp")},
         {},
         {}};
     return Definition;

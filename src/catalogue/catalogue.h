@@ -75,7 +75,8 @@ const TableDefinition& MatériauxDuPanier();
 const DatabaseDefinition& AlchimieDefinition();
 const DatabaseDefinition& RoyaumeDefinition();
 
-// The fixed tables of a skin's layout database: RésolutionCommune and Temp.
+// The fixed tables of a skin's layout database: RésolutionCommune, Palette and
+// Temp.
 const DatabaseDefinition& SkinDefinition();
 
 // The columns of <screen>_Commun, <screen>_<resolution> and Temp.

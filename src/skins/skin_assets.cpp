@@ -4,6 +4,7 @@
 #include "base/text.h"
 #include "base/typography.h"
 #include "catalogue/catalogue.h"
+#include "skins/colours.h"
 #include "store/link.h"
 
 #include <algorithm>
@@ -158,6 +159,7 @@ void ChargerSkin(Application& App, const std::string& Skin, const std::string& R
             Globals.CheminStatut = Globals.CheminImages + "Statut/";
     }
     Manqués.Annoncer();
+    ChargerCouleurs(App);
 }
 
 std::string SansEspaces(std::string Résolution)

@@ -8,6 +8,7 @@
 namespace orvane {
 
 class Screen;
+class TextBox;
 
 enum class Alignment { Left, Centre, Right };
 
@@ -50,6 +51,10 @@ class Control : private PropertyOwner
 
     // How a screen reader names a box or a list: no other that is visible with it is called so.
     TextProperty Called{*this, PropertyId::Called};
+
+    // The box that names the row this one stands in, nothing outside rows. Where it is empty, so is
+    // the row, whatever figures it keeps.
+    const TextBox* RowName = nullptr;
 
   protected:
     PropertyOwner& AsOwner() { return *this; }

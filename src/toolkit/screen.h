@@ -65,6 +65,10 @@ class Screen : private PropertyOwner
     // What closing the window by its frame does.
     virtual void WayBack() { Hide(); }
 
+    // Whether something is chosen that the figures belong to; they may be what a former choice
+    // left.
+    virtual bool HasChoice() const { return true; }
+
     // Whether that leads to another screen: what ends the run is no matter for the Escape key.
     virtual bool LeadsBack() const { return true; }
 

@@ -38,9 +38,8 @@ class TextBox : public Control
     // The figure that people come to its screen for: it is told whenever it has changed.
     bool IsAnswer = false;
 
-    // The box that names the row this one stands in, nothing outside rows. Where it is empty, so is
-    // the row, whatever figures it keeps.
-    const TextBox* RowName = nullptr;
+    // What stands in an empty row in place of its name.
+    std::string WhenEmpty;
 
     Alignment Align = Alignment::Centre;
     NumberKind Accepts = NumberKind::None;

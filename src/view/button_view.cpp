@@ -124,7 +124,7 @@ void ButtonView::PaintWords(QPainter& Painter) const
     QFont Font = font();
     Font.setBold(true);
     Painter.setFont(Font);
-    Painter.setPen(look::Cream);
+    Painter.setPen(look::Now().PlateInk);
     const QRect Box = rect().adjusted(6, 2, -6, isDown() ? 0 : -2);
     Painter.drawText(Box, Qt::AlignCenter | Qt::TextWordWrap, ToQt(TheModel.Words));
 }

@@ -230,21 +230,20 @@ void ComboBoxView::ShowTip()
 
 void ComboBoxView::ShowColours()
 {
-    QPalette Colours = palette();
-    Colours.setColor(QPalette::Base, look::ColourOf(Box.BackColor));
-    Colours.setColor(QPalette::Text, look::InkOf(Box.ForeColor));
-    setPalette(Colours);
+    ShowBoxColours();
 }
 
 void ComboBoxView::paintEvent(QPaintEvent*)
 {
     QPainter Painter(this);
     look::PaintField(Painter, rect(),
-                     {palette().color(QPalette::Base), ShowsFocus(*this), false, Before.has_value(),
-                      IsUnkept(Box)});
+                     {.FieldGround = palette().color(QPalette::Base),
+                      .Focused = ShowsFocus(*this),
+                      .HalfTyped = Before.has_value(),
+                      .Unkept = IsUnkept(Box)});
     const QRect Arrow(width() - look::ArrowWidth, 0, look::ArrowWidth, height());
     look::PaintArrow(Painter, Arrow,
-                     ShowsFocus(*this) || underMouse() ? look::Focus : look::MutedInk);
+                     ShowsFocus(*this) || underMouse() ? look::Now().Focus : look::Now().MutedInk);
 }
 
 void ComboBoxView::resizeEvent(QResizeEvent* Event)

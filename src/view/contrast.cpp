@@ -24,6 +24,8 @@ double WorstContrast(const QColor& Ink, std::span<const QColor> Grounds)
     return Worst;
 }
 
+} // namespace
+
 QColor Mixed(const QColor& From, const QColor& To, double Share)
 {
     const auto Part = [&](float One, float Other) {
@@ -32,8 +34,6 @@ QColor Mixed(const QColor& From, const QColor& To, double Share)
     return QColor::fromRgbF(Part(From.redF(), To.redF()), Part(From.greenF(), To.greenF()),
                             Part(From.blueF(), To.blueF()));
 }
-
-} // namespace
 
 double Contrast(const QColor& One, const QColor& Other)
 {

@@ -9,6 +9,9 @@ namespace orvane {
 
 inline constexpr double LeastContrast = 4.5; // of words, as the accessibility guidelines have it
 
+// From one colour, a Share of the way to the other.
+QColor Mixed(const QColor& From, const QColor& To, double Share);
+
 // From 1, the same colour, to 21, black on white.
 double Contrast(const QColor& One, const QColor& Other);
 

@@ -1,9 +1,11 @@
 #include "view/control_view.h"
 
+#include "view/contrast.h"
 #include "view/look.h"
 #include "view/qt_text.h"
 #include "view/tip.h"
 
+#include <QPalette>
 #include <QWidget>
 
 #include <cmath>
@@ -48,6 +50,19 @@ void ControlView::Follow(PropertyId What)
     default:
         Widget().update();
     }
+}
+
+void ControlView::ShowBoxColours(const QColor& Ground, const QColor& Ink)
+{
+    QPalette Colours = look::Palette();
+    Colours.setColor(QPalette::Base, Ground);
+    Colours.setColor(QPalette::Text, Readable(Ink, {&Ground, 1}));
+    Widget().setPalette(Colours);
+}
+
+void ControlView::ShowBoxColours()
+{
+    ShowBoxColours(look::GroundOf(TheControl.BackColor), look::InkOf(TheControl.ForeColor));
 }
 
 void ControlView::FollowAll()

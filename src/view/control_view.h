@@ -8,6 +8,7 @@
 
 #include <vector>
 
+class QColor;
 class QWidget;
 
 namespace orvane {
@@ -37,6 +38,10 @@ class ControlView
     Control& Model() const { return TheControl; }
 
   protected:
+    // The ground of a box, and on it its ink where that can be read, or one that can.
+    void ShowBoxColours(const QColor& Ground, const QColor& Ink);
+    void ShowBoxColours(); // the model's
+
     virtual QRect Place() const { return PixelBox(TheControl); }
 
   private:

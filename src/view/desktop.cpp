@@ -4,10 +4,12 @@
 #include "view/accessibility.h"
 #include "view/act.h"
 #include "view/keyboard_focus.h"
+#include "view/look.h"
 #include "view/screen_window.h"
 
 #include <QApplication>
 #include <QScreen>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -39,6 +41,15 @@ ScreenWindow* Desktop::WindowOf(const Screen& Which) const
 {
     const auto Known = Windows.find(&Which);
     return Known == Windows.end() ? nullptr : Known->second.get();
+}
+
+void Desktop::TakeColours(const std::map<std::string, Colour>& Given)
+{
+    look::Take(Given);
+    QApplication::setPalette(look::Palette());
+    QToolTip::setPalette(look::Palette());
+    for (const auto& [Which, Window] : Windows)
+        Window->ShowColours();
 }
 
 void Desktop::ShowInMenuBars(const QString& Words)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "toolkit/colour.h"
 #include "toolkit/forms.h"
 #include "view/window_menu.h"
 
@@ -24,6 +25,9 @@ class Desktop : public QObject, public FormsObserver
 
     void Shown(Screen& Which) override;
     void Hidden(Screen& Which) override;
+
+    // From then on everything is painted with these.
+    void TakeColours(const std::map<std::string, Colour>& Given);
 
     // At the right of every window's menu bar.
     void ShowInMenuBars(const QString& Words);

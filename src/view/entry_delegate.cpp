@@ -18,11 +18,11 @@ void EntryDelegate::paint(QPainter* Painter, const QStyleOptionViewItem& Option,
     const bool Active = Where == Keyboard::Elsewhere || Option.state.testFlag(QStyle::State_Active);
     QColor Words = Option.palette.color(QPalette::Text);
     if (Chosen) {
-        Painter->fillRect(Option.rect, Active ? look::Choice : look::QuietChoice);
-        Words = Active ? look::Cream : look::Ink;
+        Painter->fillRect(Option.rect, Active ? look::Now().Choice : look::Now().QuietChoice);
+        Words = Active ? look::Now().ChoiceInk : look::Now().Ink;
     } else if (Option.state.testFlag(QStyle::State_MouseOver)) {
-        Painter->fillRect(Option.rect, look::Hover);
-        Words = look::Ink;
+        Painter->fillRect(Option.rect, look::Now().Hover);
+        Words = look::Now().Ink;
     }
     QRect Box = Option.rect.adjusted(look::RowPadding, 0, -look::RowPadding, 0);
     const QString Text = Index.data(Qt::DisplayRole).toString();

@@ -4,6 +4,7 @@
 #include "view/look.h"
 #include "view/qt_text.h"
 #include "view/screen_area.h"
+#include "view/telling.h"
 #include "view/tip.h"
 
 #include <QPainter>
@@ -12,8 +13,7 @@ namespace orvane {
 
 namespace {
 
-constexpr double SmallestShare = 0.82; // of the model's size, before a caption is cut short
-constexpr int RightGap = 4;            // to what stands at the right
+constexpr int RightGap = 4; // to what stands at the right
 
 } // namespace
 
@@ -50,17 +50,19 @@ int LabelView::Room() const
     return TheLabel.Align == Alignment::Right ? width() - RightGap : width();
 }
 
+// Whether its box, at the full size, is high enough for two lines.
 bool LabelView::Wraps() const
 {
-    return text().contains(u'\n') || height() >= 2 * fontMetrics().lineSpacing() - 2;
+    return text().contains(u'\n') ||
+           height() >= 2 * QFontMetrics(look::Font(TheLabel.FontSize)).lineSpacing() - 2;
 }
 
-bool LabelView::Fits() const
+bool LabelView::Fits(const QFontMetrics& In) const
 {
     if (!Wraps())
-        return fontMetrics().horizontalAdvance(text()) <= Room();
-    const QRect Needed = fontMetrics().boundingRect(QRect(0, 0, Room(), height()),
-                                                    Qt::TextWordWrap | Qt::AlignLeft, text());
+        return In.horizontalAdvance(text()) <= Room();
+    const QRect Needed =
+        In.boundingRect(QRect(0, 0, Room(), height()), Qt::TextWordWrap | Qt::AlignLeft, text());
     return Needed.height() <= height() && Needed.width() <= Room();
 }
 
@@ -68,13 +70,9 @@ void LabelView::Fit()
 {
     if (text() != ToQt(TheLabel.Caption))
         setText(ToQt(TheLabel.Caption));
-    QFont Font = look::Font(TheLabel.FontSize, TheLabel.Bold);
-    setFont(Font);
-    for (double Share = 0.94; !Fits() && Share >= SmallestShare; Share -= 0.06) {
-        Font.setPointSizeF(TheLabel.FontSize * Share);
-        setFont(Font);
-    }
-    SetTip(*this, !Fits() && TheLabel.Tip.empty() ? text() : ToQt(TheLabel.Tip));
+    setFont(look::FittingFont(TheLabel.FontSize, TheLabel.Bold ? QFont::Bold : QFont::Normal,
+                              [this](const QFontMetrics& Tried) { return Fits(Tried); }));
+    SetTip(*this, !Fits(fontMetrics()) && TheLabel.Tip.empty() ? text() : ToQt(TheLabel.Tip));
 }
 
 void LabelView::resizeEvent(QResizeEvent* Event)
@@ -85,6 +83,8 @@ void LabelView::resizeEvent(QResizeEvent* Event)
 
 void LabelView::paintEvent(QPaintEvent*)
 {
+    if (IsEmptyRow(TheLabel))
+        return;
     QPainter Painter(this);
     const auto Grounds = static_cast<ScreenArea*>(parentWidget())->GroundsUnder(geometry());
     Painter.setPen(Readable(look::InkOf(TheLabel.ForeColor), Grounds));

@@ -26,7 +26,7 @@ class LabelView : public QLabel, public ControlView
     void Fit();
     int Room() const;
     bool Wraps() const;
-    bool Fits() const;
+    bool Fits(const QFontMetrics& In) const;
 
     Label& TheLabel;
 };

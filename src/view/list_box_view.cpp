@@ -116,10 +116,7 @@ void ListBoxView::ShowChoice()
 
 void ListBoxView::ShowColours()
 {
-    QPalette Colours = palette();
-    Colours.setColor(QPalette::Base, look::ColourOf(TheBox.BackColor));
-    Colours.setColor(QPalette::Text, look::InkOf(TheBox.ForeColor));
-    setPalette(Colours);
+    ShowBoxColours();
 }
 
 void ListBoxView::LeaveKeyboardTo(ListBoxView& NewFirst)
@@ -165,7 +162,7 @@ void ListBoxView::paintEvent(QPaintEvent* Event)
     if (Entries.rowCount() > 0 || TheBox.WhenEmpty == "")
         return;
     QPainter Painter(viewport());
-    Painter.setPen(look::MutedInk);
+    Painter.setPen(look::Now().MutedInk);
     Painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
                      ToQt(TheBox.WhenEmpty));
 }

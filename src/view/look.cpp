@@ -36,6 +36,9 @@ const QPixmap& Grain()
 
 constexpr int Dark = 110; // of 255: below, words are light
 
+constexpr QColor LightInk(0xFB, 0xF3, 0xE0); // on pictures of any skin
+constexpr QColor DarkInk(0x2B, 0x1D, 0x0E);
+
 QRectF Inside(const QRectF& Box, double By)
 {
     return Box.adjusted(By, By, -By, -By);
@@ -45,20 +48,20 @@ QRectF Inside(const QRectF& Box, double By)
 
 QPalette Palette()
 {
-    QPalette Result(Ground);
-    Result.setColor(QPalette::Window, Ground);
-    Result.setColor(QPalette::WindowText, Ink);
-    Result.setColor(QPalette::Base, Qt::white);
-    Result.setColor(QPalette::AlternateBase, Panel);
-    Result.setColor(QPalette::Text, Ink);
-    Result.setColor(QPalette::Button, QColor(0xE6, 0xD8, 0xB8));
-    Result.setColor(QPalette::ButtonText, Ink);
-    Result.setColor(QPalette::Highlight, Choice);
-    Result.setColor(QPalette::HighlightedText, Cream);
-    Result.setColor(QPalette::ToolTipBase, QColor(0xFF, 0xFA, 0xEC));
-    Result.setColor(QPalette::ToolTipText, Ink);
-    Result.setColor(QPalette::PlaceholderText, MutedInk);
-    Result.setColor(QPalette::Link, Focus);
+    QPalette Result(Now().Ground);
+    Result.setColor(QPalette::Window, Now().Ground);
+    Result.setColor(QPalette::WindowText, Now().Ink);
+    Result.setColor(QPalette::Base, Now().Paper);
+    Result.setColor(QPalette::AlternateBase, Now().Panel);
+    Result.setColor(QPalette::Text, Now().Ink);
+    Result.setColor(QPalette::Button, Now().GroundBottom);
+    Result.setColor(QPalette::ButtonText, Now().Ink);
+    Result.setColor(QPalette::Highlight, Now().Choice);
+    Result.setColor(QPalette::HighlightedText, Now().ChoiceInk);
+    Result.setColor(QPalette::ToolTipBase, Now().Tip);
+    Result.setColor(QPalette::ToolTipText, Now().Ink);
+    Result.setColor(QPalette::PlaceholderText, Now().MutedInk);
+    Result.setColor(QPalette::Link, Now().Focus);
     return Result;
 }
 
@@ -70,20 +73,26 @@ QFont Font(double Points, bool Bold)
     return Result;
 }
 
-QFont FittingFont(double Points, const QString& Text, int Width, QFont::Weight Weight)
+QFont FittingFont(double Points, QFont::Weight Weight,
+                  const std::function<bool(const QFontMetrics&)>& Fits)
 {
     constexpr double Smallest = 0.7;
     constexpr double Step = 0.06;
     constexpr int Narrow = 88; // percent
     QFont Result = Font(Points);
     Result.setWeight(Weight);
-    for (double Share = 1;
-         Share >= Smallest && QFontMetrics(Result).horizontalAdvance(Text) > Width; Share -= Step) {
-        Result = Font(Points * Share);
-        Result.setWeight(Weight);
+    for (double Share = 1; Share >= Smallest && !Fits(QFontMetrics(Result)); Share -= Step) {
+        Result.setPointSizeF(Points * Share);
         Result.setStretch(Narrow);
     }
     return Result;
+}
+
+QFont FittingFont(double Points, const QString& Text, int Width, QFont::Weight Weight)
+{
+    return FittingFont(Points, Weight, [&](const QFontMetrics& Tried) {
+        return Tried.horizontalAdvance(Text) <= Width;
+    });
 }
 
 QColor ColourOf(Colour Given)
@@ -91,22 +100,36 @@ QColor ColourOf(Colour Given)
     return {Given.Red(), Given.Green(), Given.Blue()};
 }
 
+QColor GroundOf(Colour Given)
+{
+    return Given == White ? Now().Paper : Given == InputGrey ? Now().Well : ColourOf(Given);
+}
+
 QColor InkOf(Colour Given)
 {
-    return Given == Black ? Ink : ColourOf(Given);
+    return Given == Black ? Now().Ink : ColourOf(Given);
 }
 
 void PaintField(QPainter& Painter, const QRectF& Box, const FieldState& State)
 {
     Painter.save();
     Painter.setRenderHint(QPainter::Antialiasing);
-    const double Pen = State.Focused ? 2 : 1;
-    const QColor Border = State.Wrong ? WrongBorder : State.Focused ? Focus : FieldBorder;
-    Painter.setPen(QPen(Border, Pen));
-    Painter.setBrush(State.Wrong ? WrongGround : State.FieldGround);
+    const bool HasEdge = State.Is != FieldKind::Figure || State.Wrong || State.Focused;
+    const double Pen = !HasEdge ? 0 : !State.Focused ? 1 : State.Is == FieldKind::Input ? 3 : 2;
+    const QColor Border = State.Wrong                    ? Now().WrongBorder
+                          : State.Focused                ? Now().Focus
+                          : State.Is == FieldKind::Input ? Now().WellBorder
+                                                         : Now().FieldBorder;
+    Painter.setPen(HasEdge ? QPen(Border, Pen) : QPen(Qt::NoPen));
+    Painter.setBrush(State.Wrong ? Now().WrongGround : State.FieldGround);
     Painter.drawRoundedRect(Inside(Box, Pen / 2), FieldRadius, FieldRadius);
+    if (State.Is == FieldKind::Input && !State.Focused) { // sunken: its upper edge throws a shadow
+        Painter.setPen(QPen(QColor(0, 0, 0, 60), 1));
+        Painter.drawLine(Box.topLeft() + QPointF(FieldRadius, Pen + 0.5),
+                         Box.topRight() + QPointF(-FieldRadius, Pen + 0.5));
+    }
     if (State.HalfTyped) {
-        Painter.setPen(QPen(MutedInk, 1, Qt::DashLine));
+        Painter.setPen(QPen(Now().MutedInk, 1, Qt::DashLine));
         const double Line = Box.bottom() - FieldPadding + 0.5;
         Painter.drawLine(QPointF(Box.left() + FieldPadding, Line),
                          QPointF(Box.right() - FieldPadding, Line));
@@ -114,7 +137,7 @@ void PaintField(QPainter& Painter, const QRectF& Box, const FieldState& State)
     if (State.Unkept) {
         constexpr double Fold = 8;
         Painter.setPen(Qt::NoPen);
-        Painter.setBrush(Focus);
+        Painter.setBrush(Now().Focus);
         const QPointF Corner = Box.topRight() + QPointF(-1, 1);
         Painter.drawPolygon(
             QPolygonF{Corner, Corner - QPointF(Fold, 0), Corner + QPointF(0, Fold)});
@@ -129,9 +152,9 @@ void PaintPlate(QPainter& Painter, const QRectF& Box, const PlateState& State)
     const QRectF Plate = Inside(Box, 0.5);
     const int Lighter = State.Pressed ? 88 : State.Hovered ? 112 : 100;
     QLinearGradient Fill(Plate.topLeft(), Plate.bottomLeft());
-    Fill.setColorAt(State.Pressed ? 1 : 0, PlateTop.lighter(Lighter));
-    Fill.setColorAt(State.Pressed ? 0 : 1, PlateBottom.lighter(Lighter));
-    Painter.setPen(QPen(PlateBorder, 1));
+    Fill.setColorAt(State.Pressed ? 1 : 0, Now().PlateTop.lighter(Lighter));
+    Fill.setColorAt(State.Pressed ? 0 : 1, Now().PlateBottom.lighter(Lighter));
+    Painter.setPen(QPen(Now().PlateBorder, 1));
     Painter.setBrush(Fill);
     Painter.drawRoundedRect(Plate, PlateRadius, PlateRadius);
     Painter.setBrush(Qt::NoBrush);
@@ -140,7 +163,7 @@ void PaintPlate(QPainter& Painter, const QRectF& Box, const PlateState& State)
         Painter.drawRoundedRect(Inside(Plate, 1), PlateRadius - 1, PlateRadius - 1);
     }
     if (State.Focused) {
-        Painter.setPen(QPen(Cream, 1.5));
+        Painter.setPen(QPen(Now().PlateInk, 1.5));
         Painter.drawRoundedRect(Inside(Plate, 3), PlateRadius - 2, PlateRadius - 2);
     }
     Painter.restore();
@@ -151,9 +174,9 @@ void PaintFocusRing(QPainter& Painter, const QRectF& Box, double Radius)
     Painter.save();
     Painter.setRenderHint(QPainter::Antialiasing);
     Painter.setBrush(Qt::NoBrush);
-    Painter.setPen(QPen(Cream, 4));
+    Painter.setPen(QPen(Now().FocusHalo, 4));
     Painter.drawRoundedRect(Inside(Box, 2), Radius, Radius);
-    Painter.setPen(QPen(Focus, 2));
+    Painter.setPen(QPen(Now().Focus, 2));
     Painter.drawRoundedRect(Inside(Box, 1), Radius, Radius);
     Painter.restore();
 }
@@ -177,11 +200,11 @@ void PaintGlow(QPainter& Painter, const QRectF& Box, double Strength)
 void PaintGround(QPainter& Painter, const QRectF& Window)
 {
     QLinearGradient Fill(Window.topLeft(), Window.bottomLeft());
-    Fill.setColorAt(0, GroundTop);
-    Fill.setColorAt(1, GroundBottom);
+    Fill.setColorAt(0, Now().GroundTop);
+    Fill.setColorAt(1, Now().GroundBottom);
     Painter.fillRect(Window, Fill);
     Painter.drawTiledPixmap(Window, Grain());
-    Painter.setPen(QPen(GroundEdge, 1));
+    Painter.setPen(QPen(Now().GroundEdge, 1));
     Painter.drawRect(Inside(Window, 4.5));
 }
 
@@ -197,13 +220,13 @@ BarColours BarOn(const QPixmap& Background)
 {
     constexpr int Strip = 24; // of the picture, below the bar
     if (Background.isNull())
-        return {GroundTop, Ink};
+        return {Now().GroundTop, Now().Ink};
     const QImage Average = Background.copy(0, 0, Background.width(), Strip)
                                .scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
                                .toImage();
     const QColor There = Average.pixelColor(0, 0).toRgb();
-    return qGray(There.rgb()) < Dark ? BarColours{There.darker(125), Cream}
-                                     : BarColours{There.lighter(104), Ink};
+    return qGray(There.rgb()) < Dark ? BarColours{There.darker(125), LightInk}
+                                     : BarColours{There.lighter(104), DarkInk};
 }
 
 QPixmap Notice(double Density)
@@ -215,13 +238,13 @@ QPixmap Notice(double Density)
     QPainter Painter(&Result);
     Painter.setRenderHint(QPainter::Antialiasing);
     QLinearGradient Fill(0, 0, 0, Side);
-    Fill.setColorAt(0, PlateTop);
-    Fill.setColorAt(1, PlateBottom);
-    Painter.setPen(QPen(PlateBorder, 1));
+    Fill.setColorAt(0, Now().PlateTop);
+    Fill.setColorAt(1, Now().PlateBottom);
+    Painter.setPen(QPen(Now().PlateBorder, 1));
     Painter.setBrush(Fill);
     Painter.drawEllipse(QRectF(1, 1, Side - 2, Side - 2));
     Painter.setPen(Qt::NoPen);
-    Painter.setBrush(Cream);
+    Painter.setBrush(Now().PlateInk);
     Painter.drawEllipse(QPointF(Side / 2, 12), 2.6, 2.6);
     Painter.drawRoundedRect(QRectF(Side / 2 - 2.2, 17.5, 4.4, 13), 2.2, 2.2);
     return Result;

@@ -1,44 +1,28 @@
 #pragma once
 
 #include "toolkit/colour.h"
+#include "view/shades.h"
 
 #include <QColor>
 #include <QFont>
+#include <QFontMetrics>
 #include <QRectF>
+
+#include <functional>
 
 class QPainter;
 class QPalette;
 class QPixmap;
 
-// The one place for colours, type and measures: an inked parchment.
+// The one place for type and measures, and for what is painted alike in many places.
 namespace orvane::look {
-
-inline constexpr QColor Ground(0xEF, 0xE6, 0xD3);
-inline constexpr QColor GroundTop(0xF4, 0xED, 0xDE);
-inline constexpr QColor GroundBottom(0xE8, 0xDC, 0xC3);
-inline constexpr QColor GroundEdge(0xC9, 0xB3, 0x86);
-inline constexpr QColor Panel(0xF8, 0xF2, 0xE4);
-inline constexpr QColor PanelBorder(0xB7, 0x9B, 0x6B);
-inline constexpr QColor Ink(0x2B, 0x1D, 0x0E);
-inline constexpr QColor MutedInk(0x54, 0x45, 0x33); // 4.5 to 1 on the input ground too
-inline constexpr QColor FieldBorder(0xA8, 0x90, 0x5F);
-inline constexpr QColor Focus(0x8A, 0x4B, 0x08);
-inline constexpr QColor Cream(0xFB, 0xF3, 0xE0);
-inline constexpr QColor PlateTop(0x80, 0x52, 0x27);
-inline constexpr QColor PlateBottom(0x52, 0x31, 0x11);
-inline constexpr QColor PlateBorder(0x38, 0x20, 0x09);
-inline constexpr QColor Choice(0x6B, 0x44, 0x16);      // ground of the chosen entry, words in cream
-inline constexpr QColor QuietChoice(0xDC, 0xCA, 0xA3); // the same in a list without the focus
-inline constexpr QColor Hover(0xEE, 0xE1, 0xC6);
-inline constexpr QColor WrongGround(0xFB, 0xE2, 0xDD);
-inline constexpr QColor WrongBorder(0xB3, 0x26, 0x1E);
 
 inline constexpr double PanelRadius = 6;
 inline constexpr double FieldRadius = 3;
 inline constexpr double PlateRadius = 5;
 inline constexpr int FieldPadding = 4;
 inline constexpr int RowPadding = 5;
-inline constexpr int ArrowWidth = 20; // of a combo box
+inline constexpr int ArrowWidth = 17; // of a combo box
 inline constexpr int ComboHeight = 23;
 inline constexpr int PopupRows = 14;
 inline constexpr double DialogPoints = 10;
@@ -47,18 +31,30 @@ inline constexpr double MenuPoints = 9;
 QPalette Palette();
 QFont Font(double Points, bool Bold = false);
 
-// The font of that size, or as much smaller as the text needs to fit the width, within what can be
-// read.
+// How words that are too long for their place give way: they are narrowed, then made smaller step
+// by step, within what can be read. The first of these fonts that fits, else the last.
+QFont FittingFont(double Points, QFont::Weight Weight,
+                  const std::function<bool(const QFontMetrics&)>& Fits);
 QFont FittingFont(double Points, const QString& Text, int Width,
                   QFont::Weight Weight = QFont::Normal);
 
-// The model's colour; its plain black becomes ink.
-QColor InkOf(Colour Given);
 QColor ColourOf(Colour Given);
+
+// The model's colours as the skin has them: plain black is its ink; white, the ground of what is
+// locked, its paper; the grey of what is open to typing, its wells.
+QColor InkOf(Colour Given);
+QColor GroundOf(Colour Given);
+
+enum class FieldKind {
+    Figure, // lies on its ground without an edge
+    Input,  // a well to type into
+    List,
+};
 
 struct FieldState
 {
     QColor FieldGround;
+    FieldKind Is = FieldKind::List;
     bool Focused = false;
     bool Wrong = false;
     bool HalfTyped = false; // a broken line under a text that stands for no choice

@@ -1,5 +1,6 @@
 #include "view/menu_bar_view.h"
 
+#include "view/contrast.h"
 #include "view/keyboard_focus.h"
 #include "view/look.h"
 #include "view/qt_text.h"
@@ -22,15 +23,7 @@ constexpr int TitlePicture = 24;
 constexpr int MarkWide = 4; // at the left of the entry in hand
 constexpr double HoverShare = 0.13;
 constexpr double PressedShare = 0.26;
-
-QColor Mixed(const QColor& One, const QColor& Other, double Share)
-{
-    const auto Part = [&](int From, int To) {
-        return static_cast<int>(From + (To - From) * Share);
-    };
-    return {Part(One.red(), Other.red()), Part(One.green(), Other.green()),
-            Part(One.blue(), Other.blue())};
-}
+constexpr double InkShare = 0.5; // of the entries' colour
 
 } // namespace
 
@@ -38,8 +31,7 @@ MenuEntryView::MenuEntryView(const SideMenu::Item& Item, const SideMenu::Colours
                              const ImageList* Icons, QWidget* Parent)
     : QAbstractButton(Parent),
       TheKey(Item.Key),
-      Ground(look::ColourOf(Colours[2])),
-      Words(look::ColourOf(Colours[3]))
+      Colours(Colours)
 {
     setObjectName(ToQt(Item.Key));
     setText(ToQt(Item.Text).replace(u'&', QStringLiteral("&&")));
@@ -70,20 +62,24 @@ void MenuEntryView::SetInHand(bool Now)
 void MenuEntryView::paintEvent(QPaintEvent*)
 {
     QPainter Painter(this);
+    const QColor Ground = look::GroundOf(Colours[2]);
+    const QColor Words =
+        Readable(Mixed(look::ColourOf(Colours[3]), look::Now().Ink, InkShare), {&Ground, 1});
     if (InHand) {
-        Painter.fillRect(rect().adjusted(1, 0, -1, 0), Mixed(Ground, look::PlateTop, HoverShare));
-        Painter.fillRect(QRect(1, 0, MarkWide, height()), look::Focus);
+        Painter.fillRect(rect().adjusted(1, 0, -1, 0),
+                         Mixed(Ground, look::Now().Focus, HoverShare));
+        Painter.fillRect(QRect(1, 0, MarkWide, height()), look::Now().Focus);
     }
     if (isDown() || underMouse())
         Painter.fillRect(rect().adjusted(1, 0, -1, 0),
-                         Mixed(Ground, look::PlateTop, isDown() ? PressedShare : HoverShare));
+                         Mixed(Ground, look::Now().Focus, isDown() ? PressedShare : HoverShare));
     const QPixmap& Pixels =
         Icon.For({IconSize, IconSize}, devicePixelRatioF(), PictureSource::Fit::KeepingProportions);
     if (!Pixels.isNull())
         Painter.drawPixmap(
             QPointF(Gap + 2, (height() - Pixels.deviceIndependentSize().height()) / 2), Pixels);
-    Painter.setPen(isDown() || underMouse() || ShowsFocus(*this) ? Mixed(Words, look::Ink, 0.6)
-                                                                 : Words);
+    Painter.setPen(InHand || isDown() || underMouse() || ShowsFocus(*this) ? look::Now().Ink
+                                                                           : Words);
     const QRect Box = WordsBox();
     Painter.drawText(Box, Qt::AlignLeft | Qt::AlignVCenter,
                      fontMetrics().elidedText(accessibleName(), Qt::ElideRight, Box.width()));
@@ -169,11 +165,11 @@ int MenuBarView::HeightFor(int Width)
 void MenuBarView::PaintTitle(QPainter& Painter)
 {
     const QRectF Bar(0, 0, width(), TitleHeight);
-    QLinearGradient Shine(Bar.topLeft(), Bar.bottomLeft());
-    Shine.setColorAt(0, QColor(255, 255, 255, 46));
-    Shine.setColorAt(1, QColor(255, 255, 255, 0));
-    Painter.fillRect(Bar, look::ColourOf(Colours[0]));
-    Painter.fillRect(Bar, Shine);
+    const bool IsPlain = Colours[0] == Black;
+    QLinearGradient Fill(Bar.topLeft(), Bar.bottomLeft());
+    Fill.setColorAt(0, IsPlain ? look::Now().PlateTop : look::ColourOf(Colours[0]).lighter(120));
+    Fill.setColorAt(1, IsPlain ? look::Now().PlateBottom : look::ColourOf(Colours[0]));
+    Painter.fillRect(Bar, Fill);
     const QPixmap& Pixels = Picture.For({TitlePicture, TitlePicture}, devicePixelRatioF(),
                                         PictureSource::Fit::KeepingProportions);
     if (!Pixels.isNull())
@@ -182,7 +178,7 @@ void MenuBarView::PaintTitle(QPainter& Painter)
     QFont Bold = font();
     Bold.setBold(true);
     Painter.setFont(Bold);
-    Painter.setPen(look::ColourOf(Colours[1]));
+    Painter.setPen(Colours[1] == White ? look::Now().PlateInk : look::ColourOf(Colours[1]));
     const QRect Box(TitleBox(width()).left(), 0, width() - TitleBox(width()).left() - 2,
                     TitleHeight);
     Painter.drawText(Box, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, Title);
@@ -196,10 +192,10 @@ void MenuBarView::paintEvent(QPaintEvent*)
     QPainterPath Shape;
     Shape.addRoundedRect(Card, look::PanelRadius, look::PanelRadius);
     Painter.setClipPath(Shape);
-    Painter.fillRect(rect(), look::ColourOf(Colours[2]));
+    Painter.fillRect(rect(), look::GroundOf(Colours[2]));
     PaintTitle(Painter);
     Painter.setClipping(false);
-    Painter.setPen(QPen(look::PanelBorder, 1));
+    Painter.setPen(QPen(look::Now().PanelBorder, 1));
     Painter.drawPath(Shape);
 }
 

@@ -36,8 +36,7 @@ class MenuEntryView : public QAbstractButton
 
     std::string TheKey;
     bool InHand = false;
-    QColor Ground;
-    QColor Words;
+    SideMenu::Colours Colours;
     PictureSource Icon;
 };
 

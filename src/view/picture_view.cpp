@@ -70,7 +70,7 @@ void PictureView::paintEvent(QPaintEvent*)
         return;
     } else if (underMouse() || Pixels.isNull()) { // a picture that is missing leaves its frame
         Painter.setRenderHint(QPainter::Antialiasing);
-        Painter.setPen(QPen(look::PanelBorder, 1));
+        Painter.setPen(QPen(look::Now().PanelBorder, 1));
         Painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), look::FieldRadius,
                                 look::FieldRadius);
     }

@@ -2,9 +2,11 @@
 
 #include "view/act.h"
 #include "view/control_view.h"
+#include "view/figures.h"
 #include "view/look.h"
 #include "view/reading_order.h"
 #include "view/telling.h"
+#include "view/text_box_view.h"
 #include "view/view_factory.h"
 
 #include <QCoreApplication>
@@ -18,6 +20,7 @@ namespace orvane {
 namespace {
 
 const auto ArrangeEvent = static_cast<QEvent::Type>(QEvent::User + 1);
+const auto SettleEvent = static_cast<QEvent::Type>(QEvent::User + 2);
 
 QImage Shrunk(const QPixmap& Picture, QSize Size)
 {
@@ -51,6 +54,7 @@ ScreenArea::ScreenArea(Screen& Model, User& TheUser, QWidget* Parent)
             if (IsPanel(*Each) == Panels && Each->Visible)
                 AddView(*Each);
     Arrange();
+    Settle();
 }
 
 // A control that has never been visible has no widget: most holders of a screen never will.
@@ -73,6 +77,8 @@ void ScreenArea::ControlChanged(Control& Which, PropertyId What)
         Late.show();
     } else
         return;
+    if (Which.Kind() == ControlKind::TextBox || Which.Kind() == ControlKind::ComboBox)
+        SettleLater();
     switch (What) {
     case PropertyId::Left:
     case PropertyId::Top:
@@ -89,6 +95,14 @@ void ScreenArea::ControlChanged(Control& Which, PropertyId What)
     default:
         break;
     }
+}
+
+void ScreenArea::ShowColours()
+{
+    for (const auto& [Which, View] : Views)
+        View->Follow(PropertyId::BackColor);
+    PanelGroundOf = -1;
+    update();
 }
 
 void ScreenArea::PictureChanged()
@@ -118,6 +132,26 @@ void ScreenArea::Arrange()
             Last = Stop;
         }
     }
+}
+
+void ScreenArea::SettleLater()
+{
+    if (!FiguresAreOld)
+        QCoreApplication::postEvent(this, new QEvent(SettleEvent));
+    FiguresAreOld = true;
+}
+
+void ScreenArea::Settle()
+{
+    FiguresAreOld = false;
+    std::vector<TextBoxView*> Boxes;
+    for (const auto& [Which, View] : Views)
+        if (Which->Kind() == ControlKind::TextBox)
+            Boxes.push_back(static_cast<TextBoxView*>(View));
+    ShowTogether(Boxes, TheScreen.HasChoice());
+    for (const auto& [Which, View] : Views)
+        if (Which->Kind() == ControlKind::Label && Which->RowName != nullptr)
+            View->Widget().update();
 }
 
 void ScreenArea::FocusFirst(const std::function<bool(const Control&)>& IsAsked)
@@ -163,7 +197,7 @@ QColor ScreenArea::PanelGround()
     const QPixmap& Picture = Background();
     if (PanelGroundOf != Picture.cacheKey()) {
         PanelGroundOf = Picture.cacheKey();
-        ThePanelGround = Picture.isNull() ? look::Panel : look::Veil(Picture);
+        ThePanelGround = Picture.isNull() ? look::Now().Panel : look::Veil(Picture);
     }
     return ThePanelGround;
 }
@@ -186,7 +220,7 @@ std::vector<QColor> ScreenArea::GroundsUnder(const QRect& Place)
         for (int X = Place.left(); X <= Place.right(); X += Coarseness) {
             QColor There = Small.valid(X / Coarseness, Y / Coarseness)
                                ? Small.pixelColor(X / Coarseness, Y / Coarseness)
-                               : look::Ground;
+                               : look::Now().Ground;
             for (auto i = Veils; i > 0; --i)
                 There = Over(There, Veil);
             Result.push_back(There);
@@ -198,6 +232,8 @@ bool ScreenArea::event(QEvent* Event)
 {
     if (Event->type() == ArrangeEvent)
         Act([&] { Arrange(); });
+    if (Event->type() == SettleEvent)
+        Settle();
     return QWidget::event(Event);
 }
 

@@ -38,6 +38,8 @@ class ScreenArea : public QWidget
     // The first one, as the eye goes, that is as asked for.
     void FocusFirst(const std::function<bool(const Control&)>& IsAsked);
 
+    void ShowColours(); // that a skin has brought
+
     void ControlChanged(Control& Which, PropertyId What);
     void PictureChanged();
 
@@ -49,6 +51,8 @@ class ScreenArea : public QWidget
     void AddView(Control& Which);
     void ArrangeLater();
     void Arrange(); // the order of Tab
+    void SettleLater();
+    void Settle(); // what its boxes share
 
     Screen& TheScreen;
     User& TheUser;
@@ -58,6 +62,7 @@ class ScreenArea : public QWidget
     QImage Small;              // the background for GroundsUnder, made when it is first asked for
     qint64 SmallOf = -1;
     bool ArrangementIsOld = false;
+    bool FiguresAreOld = false;
     std::unordered_map<const Control*, ControlView*> Views; // of what has been visible
 };
 

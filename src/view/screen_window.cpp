@@ -105,6 +105,12 @@ void ScreenWindow::ScreenChanged(PropertyId What)
     }
 }
 
+void ScreenWindow::ShowColours()
+{
+    Area->ShowColours();
+    TheMenu->TakeColours(Area->Background());
+}
+
 void ScreenWindow::ShowSize()
 {
     if (TheScreen.Width() <= 0 || TheScreen.Height() <= 0)

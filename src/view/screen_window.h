@@ -34,6 +34,8 @@ class ScreenWindow : public QWidget, public ScreenObserver
     // What an action has done, for who listens; the button that was pressed glows for who looks.
     void Answer(const Control& Pressed, const QString& Words);
 
+    void ShowColours(); // that a skin has brought
+
     void FocusFirstInput();
     void FocusFirstWrong(); // of the open boxes that are marked, if there is one
 

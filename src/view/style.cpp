@@ -38,7 +38,7 @@ void Style::polish(QWidget* Widget)
     if (List == nullptr || List->isEditable())
         return;
     QPalette OnPlate = Widget->palette();
-    OnPlate.setColor(QPalette::ButtonText, look::Cream);
+    OnPlate.setColor(QPalette::ButtonText, look::Now().PlateInk);
     Widget->setPalette(OnPlate);
 }
 
@@ -60,8 +60,9 @@ void Style::drawPrimitive(PrimitiveElement Element, const QStyleOption* Option, 
         [[fallthrough]];
     case PE_Frame:
     case PE_FrameLineEdit:
-        look::PaintField(*Painter, Option->rect,
-                         {Option->palette.color(QPalette::Base), Focused, false});
+        look::PaintField(
+            *Painter, Option->rect,
+            {.FieldGround = Option->palette.color(QPalette::Base), .Focused = Focused});
         return;
     case PE_FrameFocusRect: // the widgets show their focus themselves
         return;
@@ -76,7 +77,7 @@ void Style::drawControl(ControlElement Element, const QStyleOption* Option, QPai
     const auto* Button = qstyleoption_cast<const QStyleOptionButton*>(Option);
     if (Element == CE_PushButtonLabel && Button != nullptr) {
         QStyleOptionButton OnPlate(*Button);
-        OnPlate.palette.setColor(QPalette::ButtonText, look::Cream);
+        OnPlate.palette.setColor(QPalette::ButtonText, look::Now().PlateInk);
         QProxyStyle::drawControl(Element, &OnPlate, Painter, Widget);
         return;
     }

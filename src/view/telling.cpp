@@ -8,11 +8,6 @@ namespace orvane {
 
 namespace {
 
-bool IsEmptyRow(const TextBox& Which)
-{
-    return Which.RowName != nullptr && Which.RowName->Text.empty();
-}
-
 // A caption of one sign joins two boxes, unless it is a level.
 bool IsSaying(const Label& Which)
 {
@@ -22,6 +17,17 @@ bool IsSaying(const Label& Which)
 }
 
 } // namespace
+
+bool IsEmptyRow(const Control& Which)
+{
+    return Which.RowName != nullptr && Which.RowName->Text.empty();
+}
+
+bool AwaitsPrice(const TextBox& Which)
+{
+    return Which.RowName != nullptr && &Which != Which.RowName && !Which.Locked &&
+           Which.BackColor() == InputGrey && Which.Text == "0" && !IsEmptyRow(Which);
+}
 
 std::string ShownIn(const PictureControl& Which)
 {

@@ -12,6 +12,13 @@ namespace orvane {
 // pictures without a meaning are passed over.
 bool IsTold(const Control& Which);
 
+// In a row of a bill that holds no material.
+bool IsEmptyRow(const Control& Which);
+
+// The price of a row that nobody but the crafter knows, and that hasn't been typed yet.
+bool AwaitsPrice(const TextBox& Which);
+inline constexpr const char* AwaitingWords = "prix à saisir";
+
 // A result, where the keyboard stops on the walk through the values only.
 bool IsValue(const Control& Which);
 

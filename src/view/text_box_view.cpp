@@ -42,7 +42,8 @@ TextBoxView::TextBoxView(TextBox& Model, User& TheUser, QWidget* Parent)
     : QLineEdit(Parent),
       ControlView(Model),
       Box(Model),
-      TheUser(TheUser)
+      TheUser(TheUser),
+      Resting(look::Font(Points()))
 {
     setFrame(false);
     setTextMargins(look::FieldPadding - 1, 0, look::FieldPadding - 1, 0);
@@ -60,8 +61,7 @@ void TextBoxView::Follow(PropertyId What)
         setReadOnly(Box.Locked);
         setFocusPolicy(Box.Locked ? Qt::ClickFocus : Qt::StrongFocus);
         break;
-    case PropertyId::FontSize:
-        ShowFont();
+    case PropertyId::FontSize: // the column's
         break;
     case PropertyId::Marked:
     case PropertyId::Stale:
@@ -119,21 +119,38 @@ void TextBoxView::ShowText()
     if (text() == Wanted)
         return;
     setText(Wanted);
-    ShowFont();
     if (!hasFocus())
         setCursorPosition(0); // a long text shows its beginning
     ShowTip();
 }
 
-// A long text takes a smaller font, but not while somebody types it. What people come for is larger
-// than what it is made of.
+bool TextBoxView::Fits(const QFontMetrics& In) const
+{
+    return In.horizontalAdvance(text()) <= Room();
+}
+
+QFont::Weight TextBoxView::Weight() const
+{
+    return Box.IsAnswer ? QFont::Bold : QFont::Normal;
+}
+
+// What people come for is larger than what it is made of.
+double TextBoxView::Points() const
+{
+    return Box.FontSize * (Box.IsAnswer ? AnswerShare : 1);
+}
+
+void TextBoxView::TakeFont(const QFont& Shared)
+{
+    Resting = Shared;
+    ShowFont();
+    ShowTip();
+}
+
+// While somebody types, what is typed stays as large as it was.
 void TextBoxView::ShowFont()
 {
-    const double Points = Box.FontSize * (Box.IsAnswer ? AnswerShare : 1);
-    QFont Font =
-        hasFocus() && !isReadOnly()
-            ? look::Font(Points)
-            : look::FittingFont(Points, text(), Room(), Box.IsAnswer ? QFont::Bold : QFont::Normal);
+    QFont Font = hasFocus() && !isReadOnly() ? look::Font(Points()) : Resting;
     Font.setItalic(Box.Stale);
     if (Font != font())
         setFont(Font);
@@ -147,11 +164,8 @@ int TextBoxView::Room() const
 void TextBoxView::ShowState()
 {
     ShowFont();
-    QPalette Colours = palette();
-    Colours.setColor(QPalette::Base,
-                     Box.Marked ? look::WrongGround : look::ColourOf(Box.BackColor));
-    Colours.setColor(QPalette::Text, Box.Stale ? look::MutedInk : look::InkOf(Box.ForeColor));
-    setPalette(Colours);
+    ShowBoxColours(Box.Marked ? look::Now().WrongGround : look::GroundOf(Box.BackColor),
+                   Box.Stale || IsPale ? look::Now().MutedInk : look::InkOf(Box.ForeColor));
     ShowTip();
     update();
 }
@@ -171,26 +185,66 @@ void TextBoxView::ShowTip()
             QStringLiteral("Ce chiffre date d’avant une saisie à corriger ou un choix à refaire.");
     else if (Tip.isEmpty() && IsUnkept(Box))
         Tip = ToQt(Typeset(UnkeptWords));
+    else if (Tip.isEmpty() && AwaitsPrice(Box))
+        Tip = ToQt(AwaitingWords);
     setAccessibleDescription(Tip);
     if (Tip.isEmpty() && fontMetrics().horizontalAdvance(text()) > Room())
         Tip = text();
     SetTip(*this, Tip);
 }
 
+void TextBoxView::SetPale(bool Now)
+{
+    if (Now == IsPale)
+        return;
+    IsPale = Now;
+    ShowState();
+}
+
+bool TextBoxView::IsEmptyLine() const
+{
+    const bool SaysNothing = Box.Text == "" && Box.Locked;
+    return (SaysNothing || IsEmptyRow(Box)) && Box.BackColor() != InputGrey && !ShowsFocus(*this);
+}
+
+// What holds nothing is a line to be filled.
+void TextBoxView::PaintEmptyLine()
+{
+    QPainter Painter(this);
+    QColor Rule = look::Now().PanelBorder;
+    Rule.setAlphaF(0.5);
+    Painter.setPen(Rule);
+    Painter.drawLine(0, height() - 1, width() - 1, height() - 1);
+    Painter.setPen(palette().color(QPalette::Text));
+    Painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter, ToQt(Box.WhenEmpty));
+}
+
 void TextBoxView::paintEvent(QPaintEvent* Event)
 {
+    if (IsEmptyLine())
+        return PaintEmptyLine();
     QPainter Painter(this);
     look::PaintField(
         Painter, rect(),
-        {palette().color(QPalette::Base), ShowsFocus(*this), Box.Marked, false, IsUnkept(Box)});
-    Painter.end();
-    QLineEdit::paintEvent(Event);
+        {.FieldGround = palette().color(QPalette::Base),
+         .Is = Box.BackColor() == InputGrey ? look::FieldKind::Input : look::FieldKind::Figure,
+         .Focused = ShowsFocus(*this),
+         .Wrong = Box.Marked,
+         .Unkept = IsUnkept(Box)});
+    if (hasFocus() || !AwaitsPrice(Box)) {
+        Painter.end();
+        QLineEdit::paintEvent(Event);
+    } else {
+        const QString Words = ToQt(AwaitingWords);
+        Painter.setFont(look::FittingFont(Points(), Words, width() - 2 * look::FieldPadding));
+        Painter.setPen(look::Now().MutedInk);
+        Painter.drawText(rect(), Qt::AlignCenter, Words);
+    }
 }
 
 void TextBoxView::resizeEvent(QResizeEvent* Event)
 {
     QLineEdit::resizeEvent(Event);
-    ShowFont();
     ShowTip();
 }
 

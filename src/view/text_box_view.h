@@ -19,6 +19,15 @@ class TextBoxView : public QLineEdit, public ControlView
     void FollowAll() override;
     std::vector<QWidget*> TabStops() override { return {this}; }
 
+    // The figure belongs to nothing that is chosen, and is painted paler.
+    void SetPale(bool Now);
+
+    // Boxes of one column share a font. Fits tells of this one's text alone.
+    bool Fits(const QFontMetrics& In) const;
+    QFont::Weight Weight() const;
+    double Points() const;
+    void TakeFont(const QFont& Shared);
+
   protected:
     void paintEvent(QPaintEvent* Event) override;
     void resizeEvent(QResizeEvent* Event) override;
@@ -35,9 +44,13 @@ class TextBoxView : public QLineEdit, public ControlView
     int Room() const; // for the text
     void ShowState();
     void ShowTip();
+    bool IsEmptyLine() const;
+    void PaintEmptyLine();
 
     TextBox& Box;
     User& TheUser;
+    QFont Resting; // what the column has while nobody types here
+    bool IsPale = false;
     bool SelectsOnRelease = false;
 };
 

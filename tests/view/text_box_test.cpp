@@ -1,4 +1,5 @@
 #include "stage.h"
+#include "view/contrast.h"
 #include "view/look.h"
 #include "view/text_box_view.h"
 
@@ -108,7 +109,7 @@ class TextBoxLook : public TextBoxOnScreen
         const Control& Box = Field.Model();
         const QPalette& Colours = Field.palette();
         std::string Result;
-        if (Colours.color(QPalette::Base) != look::ColourOf(Box.BackColor))
+        if (Colours.color(QPalette::Base) != look::GroundOf(Box.BackColor))
             Result += "wrong ";
         if (Colours.color(QPalette::Text) != look::InkOf(Box.ForeColor))
             Result += "muted ";
@@ -137,6 +138,33 @@ constexpr Row LookRows[] = {
     {"AShortText", "<in txt_Total><total Une longue désignation><total 1>", ""},
 };
 EACH_ROW(TextBoxLook, LookRows);
+
+using FiguresOnScreen = TextBoxOnScreen;
+
+TEST_F(FiguresOnScreen, OfOneColumnHaveOneSize)
+{
+    Show();
+    const auto SizeOf = [this](const char* Name) {
+        QCoreApplication::processEvents();
+        return The<TextBoxView>(Name).font().pointSizeF();
+    };
+    for (const char* Text : {"Une désignation assez longue", "8"}) {
+        Atelier().txt_Total.Text = Text;
+        EXPECT_EQ(SizeOf("txt_Total") < 9, std::string(Text) != "8");
+        EXPECT_EQ(SizeOf("txt_Poids"), SizeOf("txt_Total"));
+    }
+}
+
+TEST_F(FiguresOnScreen, TakeTheColoursOfASkin)
+{
+    Show();
+    Windows.TakeColours({{"Papier", RGB(1, 2, 3)}, {"Encre", RGB(9, 9, 9)}});
+    const QPalette Colours = The<TextBoxView>("txt_Total").palette();
+    EXPECT_EQ(Colours.color(QPalette::Base), QColor(1, 2, 3));
+    EXPECT_GE(Contrast(Colours.color(QPalette::Text), QColor(1, 2, 3)), LeastContrast);
+    Windows.TakeColours({});
+    EXPECT_EQ(The<TextBoxView>("txt_Total").palette().color(QPalette::Base), look::Shades().Paper);
+}
 
 using TextBoxFailure = TextBoxOnScreen;
 

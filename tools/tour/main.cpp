@@ -42,6 +42,7 @@ class Evening
     {
         Watched = &Scene;
         Boxes.StandAbove(App.Feuilles);
+        App.OnColours = [this] { Windows.TakeColours(App.Couleurs); };
         Scene.StartBy([this]() -> Application& {
             EnregistrerFeuilles(App);
             Démarrer(App);

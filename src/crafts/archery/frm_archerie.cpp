@@ -92,7 +92,7 @@ void frm_Archerie::CalculerPrixCarquois()
 
 void frm_Archerie::cmd_AjouterPanier_Click()
 {
-    AjouterAuPanier(App, cbo_Objet.Text != "",
+    AjouterAuPanier(App, HasChoice(),
                     {"Carquois de " + cbo_Type.Text + " - " + cbo_Objet.Text, txt_NbObjet,
                      txt_PrixCoûtant, txt_PrixVente,
                      [this] { return AchatsPour(Lots({&txt_NbObjet}), {{&Matériaux}}); }},

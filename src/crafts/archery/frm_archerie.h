@@ -18,6 +18,7 @@ class frm_Archerie : public Feuille
 
     void Load() override;
     void Activate() override;
+    bool HasChoice() const override { return cbo_Objet.Text != ""; }
 
     Shape NAMED(shp_Choix);
     Label NAMED(lbl11);

@@ -12,6 +12,8 @@ void PlacerLigne(TextBox& Nom, Label& Fois, TextBox& Qté, Label& Égale, TextBo
                  const ColonnesMatériau& Colonnes)
 {
     constexpr int High = 24;
+    for (Control* Each : std::initializer_list<Control*>{&Nom, &Fois, &Qté, &Égale, &Prix})
+        Each->RowName = &Nom;
     Place(Nom, {X, Y, Colonnes.Nom, High});
     Nom.Align = Alignment::Left;
     X += Colonnes.Nom;
@@ -25,8 +27,6 @@ void PlacerLigne(TextBox& Nom, Label& Fois, TextBox& Qté, Label& Égale, TextBo
 
 void NommerLigne(TextBox& Nom, TextBox& Qté, TextBox& Prix, const std::string& Ligne)
 {
-    for (TextBox* Each : {&Nom, &Qté, &Prix})
-        Each->RowName = &Nom;
     Nom.Called = Ligne + ", nom";
     Qté.Called = Ligne + ", quantité";
     Prix.Called = Ligne + ", prix";
@@ -103,6 +103,7 @@ void Nomenclature::Placer(int X, int Y, int Pas, const ColonnesMatériau& Colonn
         PlacerLigne(Each.Nom, Each.Fois, Each.Qté, Each.Égale, Each.Prix, X, Y, Colonnes);
         Y += Pas;
     }
+    Lignes.front().Nom.WhenEmpty = "Choisissez un produit";
 }
 
 void Nomenclature::CommencerParZéro()

@@ -122,7 +122,7 @@ void frm_ArmesLégendaires::EffacerArme()
 
 void frm_ArmesLégendaires::cmd_AjouterPanier_Click()
 {
-    AjouterAuPanier(App, cbo_Arme.Text != "" && cbo_Type.Text != "",
+    AjouterAuPanier(App, HasChoice(),
                     {cbo_Arme.Text + " " + cbo_Type.Text, txt_NbObjet, txt_PrixCoûtantTotal,
                      txt_PrixVente, [this] { return Achetés(); }});
 }

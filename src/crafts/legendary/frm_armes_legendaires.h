@@ -65,6 +65,7 @@ class frm_ArmesLégendaires : public Feuille
 
     void Load() override;
     void Activate() override;
+    bool HasChoice() const override { return cbo_Arme.Text != "" && cbo_Type.Text != ""; }
 
     // Choice and trade
     Shape NAMED(shp_Choix);

@@ -5,18 +5,23 @@
 
 namespace orvane {
 
+bool frm_ArtisanatsMagiques::HasChoice() const
+{
+    return (lbl_Artisanat.Caption == "Alchimie" ? cbo_Objet : cbo_DegréGemmes).Text != "";
+}
+
 void frm_ArtisanatsMagiques::cmd_AjouterPanier_Click()
 {
     if (lbl_Artisanat.Caption == "Alchimie") {
         const bool Teinture = cbo_Produit.Text == "Teintures";
         const std::string Détail = Teinture ? cbo_ProduitDétaillé.Text + " : " : std::string();
-        AjouterAuPanier(App, cbo_Objet.Text != "",
+        AjouterAuPanier(App, HasChoice(),
                         {Détail + cbo_Objet.Text, txt_NbObjetAlchimie, txt_PrixCoûtantAlchimie,
                          txt_PrixVenteAlchimie,
                          [this] { return Achetés(Lots({&txt_NbObjetAlchimie})); }});
     } else {
         AjouterAuPanier(
-            App, cbo_DegréGemmes.Text != "",
+            App, HasChoice(),
             {cbo_TypeGemmes.Text + " " + cbo_SousTypeGemmes.Text + " " + cbo_DegréGemmes.Text,
              txt_ArcanesNbObjet, txt_ArcanesPrixCoûtantTotal, txt_ArcanesPrixVenteTotal,
              [this] { return Achetés(LotsDeGemmes()); }},

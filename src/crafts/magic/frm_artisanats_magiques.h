@@ -26,6 +26,7 @@ class frm_ArtisanatsMagiques : public Feuille
 
     void Load() override;
     void Activate() override;
+    bool HasChoice() const override;
     void WayBack() override;
 
     // Shared by both crafts

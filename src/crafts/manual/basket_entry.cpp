@@ -9,7 +9,7 @@ namespace orvane {
 void frm_ArtisanatsManuels::cmd_AjouterPanier_Click()
 {
     const std::string Type = cbo_TypeDégats.Visible ? cbo_TypeDégats.Text + " " : std::string();
-    AjouterAuPanier(App, cbo_Degré.Text != "",
+    AjouterAuPanier(App, HasChoice(),
                     {cbo_Objet.Text + " " + Type + cbo_Degré.Text, txt_NbObjet,
                      txt_PrixCoûtantTotal, txt_PrixVente, [this] { return Achetés(); }});
 }

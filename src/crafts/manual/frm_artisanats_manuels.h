@@ -22,6 +22,7 @@ class frm_ArtisanatsManuels : public Feuille
 
     void Load() override;
     void Activate() override;
+    bool HasChoice() const override { return cbo_Degré.Text != ""; }
     void WayBack() override;
 
     // Trade, menu, choice

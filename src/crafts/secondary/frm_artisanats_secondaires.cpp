@@ -73,7 +73,7 @@ void frm_ArtisanatsSecondaires::txt_Matériaux_Change(LigneMatériau& Ligne)
 
 void frm_ArtisanatsSecondaires::cmd_AjouterPanier_Click()
 {
-    AjouterAuPanier(App, cbo_ObjetSecondaire.Text != "",
+    AjouterAuPanier(App, HasChoice(),
                     {cbo_ObjetSecondaire.Text, txt_SellerieNbObjets, txt_SelleriePrixCoûtant,
                      txt_SelleriePrixVente,
                      [this] { return AchatsPour(Lots({&txt_SellerieNbObjets}), {{&Matériaux}}); }});

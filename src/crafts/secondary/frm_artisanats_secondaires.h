@@ -22,6 +22,7 @@ class frm_ArtisanatsSecondaires : public Feuille
 
     void Load() override;
     void WayBack() override;
+    bool HasChoice() const override { return cbo_ObjetSecondaire.Text != ""; }
 
     // Trade, menu, choice, object
     Image NAMED(img_Bannière);

@@ -56,9 +56,6 @@ class Reader : public QTextBrowser
         setOpenLinks(false);
         setFont(look::Font(Points));
         setFrameShape(NoFrame);
-        QPalette Paper = palette();
-        Paper.setColor(QPalette::Base, look::Panel);
-        setPalette(Paper);
         connect(this, &QTextBrowser::anchorClicked, this,
                 [this](const QUrl& Link) { scrollToAnchor(Link.fragment()); });
         setSearchPaths({QFileInfo(File).path()});

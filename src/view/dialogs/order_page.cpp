@@ -23,6 +23,7 @@ constexpr double Points = 11;
 constexpr double TitlePoints = 18;
 constexpr int BannerWidth = 480; // pixels at 96 dots per inch
 constexpr int Padding = 5;
+constexpr QColor Rule(0xB7, 0x9B, 0x6B); // on white paper, whatever the skin
 constexpr std::array Headings{"Objet", "Nombre", "Prix de vente"};
 
 void WriteCell(QTextTable& Table, int Row, int Column, const QString& Text, bool Bold)
@@ -43,7 +44,7 @@ void WriteRows(QTextCursor& Page, const ListeDAchats& Of)
     Format.setCellPadding(Padding);
     Format.setBorderCollapse(true);
     Format.setBorder(1);
-    Format.setBorderBrush(look::PanelBorder);
+    Format.setBorderBrush(Rule);
     Format.setHeaderRowCount(1); // on every page
     Format.setColumnWidthConstraints({QTextLength(QTextLength::PercentageLength, 64),
                                       QTextLength(QTextLength::PercentageLength, 14),
