@@ -9,6 +9,7 @@
 #include "view/desktop.h"
 #include "view/dialogs/backups.h"
 #include "view/dialogs/menus.h"
+#include "view/dialogs/order_in_hand.h"
 #include "view/french.h"
 #include "view/picture_source.h"
 #include "view/qt_dialogs.h"
@@ -142,7 +143,8 @@ int main(int Count, char** Arguments)
         OfferConversion(Convertible, Boxes);
     Loading.wait();
     Boxes.StandAbove(App.Feuilles);
-    Desktop Windows(App.Feuilles, App.Door, ProgramMenus(App, Restart));
+    Desktop Windows(App.Feuilles, App.Door, ProgramMenus(App, Restart),
+                    [&App] { return LinesInHand(App); });
     App.OnAdded = [&](Screen& From, const std::string& Commande) {
         Windows.Answer(From.Find("cmd_AjouterPanier"),
                        ToQt(Typeset("Ajouté à la commande « ") + Commande + Typeset(" »")));

@@ -173,6 +173,7 @@ void frm_Panier::cmd_SupprimerCommande_Click()
         RetenirSuppression(SupprimerCommande(*Globals.BaseDonnées, cbo_Commandes.Text));
     }
     ViderListes();
+    lst_Objet.WhenEmpty = "La commande est supprimée";
     RemplirCommandes(App);
     txt_TotalPanierCoûtant.Text = "0";
     txt_TotalPanierVente.Text = "0";

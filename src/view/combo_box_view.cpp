@@ -92,11 +92,11 @@ void ComboBoxView::FollowAll()
     ShowText();
 }
 
-QRect ComboBoxView::Place() const
+QRect ComboBoxView::Place()
 {
     QRect Result = ControlView::Place();
     if (Result.height() <= 0)
-        Result.setHeight(look::ComboHeight);
+        Result.setHeight(static_cast<int>(look::ComboHeight * Scale()));
     return Result;
 }
 
@@ -211,7 +211,7 @@ void ComboBoxView::ShowText()
 void ComboBoxView::ShowFont()
 {
     const int Room = width() - look::ArrowWidth - 2 * look::FieldPadding;
-    const QFont Fitting = look::FittingFont(Box.FontSize, lineEdit()->text(), Room);
+    const QFont Fitting = look::FittingFont(Points(), lineEdit()->text(), Room);
     if (Fitting != lineEdit()->font())
         lineEdit()->setFont(Fitting);
 }

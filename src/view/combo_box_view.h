@@ -31,7 +31,7 @@ class ComboBoxView : public QComboBox, public ControlView
     const EntryPopup* Popup() const { return ThePopup; } // nothing before its first opening
 
   protected:
-    QRect Place() const override;
+    QRect Place() override;
     void paintEvent(QPaintEvent* Event) override;
     void resizeEvent(QResizeEvent* Event) override;
     void hideEvent(QHideEvent* Event) override;

@@ -3,6 +3,7 @@
 #include "view/contrast.h"
 #include "view/look.h"
 #include "view/qt_text.h"
+#include "view/screen_area.h"
 #include "view/tip.h"
 
 #include <QPalette>
@@ -12,17 +13,27 @@
 
 namespace orvane {
 
-int Pixels(int Twips)
+int Pixels(int Twips, double Scale)
 {
-    return static_cast<int>(std::lround(Twips / 15.0));
+    return static_cast<int>(std::lround(Twips * Scale / 15));
 }
 
-QRect PixelBox(const Control& Which)
+QRect PixelBox(const Control& Which, double Scale)
 {
-    const int Left = Pixels(Which.Left);
-    const int Top = Pixels(Which.Top);
-    return {Left, Top, Pixels(Which.Left + Which.Width) - Left,
-            Pixels(Which.Top + Which.Height) - Top};
+    const int Left = Pixels(Which.Left, Scale);
+    const int Top = Pixels(Which.Top, Scale);
+    return {Left, Top, Pixels(Which.Left + Which.Width, Scale) - Left,
+            Pixels(Which.Top + Which.Height, Scale) - Top};
+}
+
+double ControlView::Scale()
+{
+    return static_cast<ScreenArea*>(Widget().parentWidget())->Scale();
+}
+
+double ControlView::Points()
+{
+    return TheControl.FontSize * Scale();
 }
 
 void ControlView::Follow(PropertyId What)
@@ -39,7 +50,7 @@ void ControlView::Follow(PropertyId What)
         Widget().setGeometry(Place());
         break;
     case PropertyId::FontSize:
-        Widget().setFont(look::Font(TheControl.FontSize));
+        Widget().setFont(look::Font(Points()));
         break;
     case PropertyId::Tip:
         SetTip(Widget(), ToQt(TheControl.Tip));

@@ -13,9 +13,9 @@ class QWidget;
 
 namespace orvane {
 
-// Twips to pixels at 96 dots per inch.
-int Pixels(int Twips);
-QRect PixelBox(const Control& Which);
+// Twips to pixels: 96 dots per inch at scale 1.
+int Pixels(int Twips, double Scale);
+QRect PixelBox(const Control& Which, double Scale);
 
 // What all kinds have in common: a widget that follows a control.
 class ControlView
@@ -38,11 +38,14 @@ class ControlView
     Control& Model() const { return TheControl; }
 
   protected:
+    double Scale();  // of the screen's area
+    double Points(); // of the words on it
+
     // The ground of a box, and on it its ink where that can be read, or one that can.
     void ShowBoxColours(const QColor& Ground, const QColor& Ink);
     void ShowBoxColours(); // the model's
 
-    virtual QRect Place() const { return PixelBox(TheControl); }
+    virtual QRect Place() { return PixelBox(TheControl, Scale()); }
 
   private:
     Control& TheControl;

@@ -8,10 +8,7 @@
 #include "view/screen_window.h"
 
 #include <QApplication>
-#include <QScreen>
 #include <QToolTip>
-
-#include <algorithm>
 
 namespace orvane {
 
@@ -21,10 +18,11 @@ constexpr int FocusPatience = 700; // milliseconds
 
 } // namespace
 
-Desktop::Desktop(Forms& TheForms, User& TheUser, Menus TheMenus)
+Desktop::Desktop(Forms& TheForms, User& TheUser, Menus TheMenus, OrderSource Order)
     : TheForms(TheForms),
       TheUser(TheUser),
-      TheMenus(std::move(TheMenus))
+      TheMenus(std::move(TheMenus)),
+      Order(std::move(Order))
 {
     QApplication::setQuitOnLastWindowClosed(false);
     InstallInterfaces();
@@ -69,7 +67,7 @@ ScreenWindow& Desktop::Built(Screen& Which)
 {
     std::unique_ptr<ScreenWindow>& Window = Windows[&Which];
     if (Window == nullptr) {
-        Window = std::make_unique<ScreenWindow>(Which, TheUser, TheMenus);
+        Window = std::make_unique<ScreenWindow>(Which, TheUser, TheMenus, Order);
         Window->ShowInMenuBar(InMenuBars);
         if (KeysAreUsed)
             LetFocusShow(*Window);
@@ -115,11 +113,9 @@ void Desktop::Place(ScreenWindow& Window) const
 {
     if (LastShown == nullptr || LastShown == &Window)
         return;
-    QRect Frame = Window.frameGeometry();
-    Frame.moveCenter(LastShown->frameGeometry().center());
-    const QRect Room = Window.screen()->availableGeometry();
-    Window.move(std::max(Room.left(), std::min(Frame.left(), Room.right() + 1 - Frame.width())),
-                std::max(Room.top(), std::min(Frame.top(), Room.bottom() + 1 - Frame.height())));
+    QRect Frame = Window.Framed();
+    Frame.moveCenter(LastShown->Framed().center());
+    Window.MoveOnScreen(Frame);
 }
 
 bool Desktop::Awaits() const

@@ -2,6 +2,7 @@
 
 #include "toolkit/colour.h"
 #include "toolkit/forms.h"
+#include "view/order_panel.h"
 #include "view/window_menu.h"
 
 #include <QElapsedTimer>
@@ -19,8 +20,8 @@ class User;
 class Desktop : public QObject, public FormsObserver
 {
   public:
-    // TheMenus stand in every window.
-    Desktop(Forms& TheForms, User& TheUser, Menus TheMenus = {});
+    // TheMenus stand in every window, and the order beside its screen where there is room.
+    Desktop(Forms& TheForms, User& TheUser, Menus TheMenus = {}, OrderSource Order = {});
     ~Desktop() override;
 
     void Shown(Screen& Which) override;
@@ -29,7 +30,8 @@ class Desktop : public QObject, public FormsObserver
     // From then on everything is painted with these.
     void TakeColours(const std::map<std::string, Colour>& Given);
 
-    // At the right of every window's menu bar.
+    // An event has ended: these words stand at the right of every window's menu bar, and the order
+    // is read afresh where it is seen.
     void ShowInMenuBars(const QString& Words);
 
     // Tells what pressing that button has done, in its own window.
@@ -50,6 +52,7 @@ class Desktop : public QObject, public FormsObserver
     Forms& TheForms;
     User& TheUser;
     Menus TheMenus;
+    OrderSource Order;
     std::map<const Screen*, std::unique_ptr<ScreenWindow>> Windows;
     QString InMenuBars;
     bool KeysAreUsed = false; // from then on every window shows where the focus is

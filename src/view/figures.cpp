@@ -14,11 +14,11 @@ void ShowTogether(const std::vector<TextBoxView*>& Boxes, bool HasChoice)
     std::map<std::tuple<int, int, double, int>, std::vector<TextBoxView*>> Columns;
     for (TextBoxView* Each : Boxes)
         if (Each->Model().Visible)
-            Columns[{Each->x(), Each->width(), Each->Points(), Each->Weight()}].push_back(Each);
+            Columns[{Each->x(), Each->width(), Each->FullPoints(), Each->Weight()}].push_back(Each);
     for (const auto& [Place, Column] : Columns) {
-        const TextBoxView& First = *Column.front();
+        TextBoxView& First = *Column.front();
         const QFont Shared =
-            look::FittingFont(First.Points(), First.Weight(), [&](const QFontMetrics& Tried) {
+            look::FittingFont(First.FullPoints(), First.Weight(), [&](const QFontMetrics& Tried) {
                 return std::ranges::all_of(
                     Column, [&](const TextBoxView* Each) { return Each->Fits(Tried); });
             });

@@ -51,13 +51,13 @@ int LabelView::Room() const
 }
 
 // Whether its box, at the full size, is high enough for two lines.
-bool LabelView::Wraps() const
+bool LabelView::Wraps()
 {
     return text().contains(u'\n') ||
-           height() >= 2 * QFontMetrics(look::Font(TheLabel.FontSize)).lineSpacing() - 2;
+           height() >= 2 * QFontMetrics(look::Font(Points())).lineSpacing() - 2;
 }
 
-bool LabelView::Fits(const QFontMetrics& In) const
+bool LabelView::Fits(const QFontMetrics& In)
 {
     if (!Wraps())
         return In.horizontalAdvance(text()) <= Room();
@@ -70,7 +70,7 @@ void LabelView::Fit()
 {
     if (text() != ToQt(TheLabel.Caption))
         setText(ToQt(TheLabel.Caption));
-    setFont(look::FittingFont(TheLabel.FontSize, TheLabel.Bold ? QFont::Bold : QFont::Normal,
+    setFont(look::FittingFont(Points(), TheLabel.Bold ? QFont::Bold : QFont::Normal,
                               [this](const QFontMetrics& Tried) { return Fits(Tried); }));
     SetTip(*this, !Fits(fontMetrics()) && TheLabel.Tip.empty() ? text() : ToQt(TheLabel.Tip));
 }

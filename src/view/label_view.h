@@ -25,8 +25,8 @@ class LabelView : public QLabel, public ControlView
   private:
     void Fit();
     int Room() const;
-    bool Wraps() const;
-    bool Fits(const QFontMetrics& In) const;
+    bool Wraps();
+    bool Fits(const QFontMetrics& In);
 
     Label& TheLabel;
 };

@@ -49,9 +49,6 @@ void MenuEntryView::SetInHand(bool Now)
     if (Now == InHand)
         return;
     InHand = Now;
-    QFont Marked = font();
-    Marked.setBold(InHand);
-    setFont(Marked);
     QAccessible::State Checked;
     Checked.checked = true;
     QAccessibleStateChangeEvent Told(this, Checked);
@@ -80,9 +77,13 @@ void MenuEntryView::paintEvent(QPaintEvent*)
             QPointF(Gap + 2, (height() - Pixels.deviceIndependentSize().height()) / 2), Pixels);
     Painter.setPen(InHand || isDown() || underMouse() || ShowsFocus(*this) ? look::Now().Ink
                                                                            : Words);
+    QFont Marked = font();
+    Marked.setBold(InHand);
+    Painter.setFont(Marked);
     const QRect Box = WordsBox();
-    Painter.drawText(Box, Qt::AlignLeft | Qt::AlignVCenter,
-                     fontMetrics().elidedText(accessibleName(), Qt::ElideRight, Box.width()));
+    Painter.drawText(
+        Box, Qt::AlignLeft | Qt::AlignVCenter,
+        Painter.fontMetrics().elidedText(accessibleName(), Qt::ElideRight, Box.width()));
     if (ShowsFocus(*this))
         look::PaintFocusRing(Painter, QRectF(rect()).adjusted(2, 1, -2, -1), look::FieldRadius);
 }

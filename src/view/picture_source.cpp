@@ -26,6 +26,7 @@ class Decoder
         Reader.setAutoTransform(true);
     }
 
+    QSize Size() const { return Reader.size(); } // known before it is read
     QImage Read() { return Reader.read(); }
     bool GoesOn() { return Reader.jumpToNextImage(); }
 
@@ -40,16 +41,38 @@ QImage Read(const fs::path& File)
     return Decoder(File).Read();
 }
 
-// The sharper of the two files and how many of its pixels go into one of the screen's definition.
-std::pair<QImage, double> ReadFor(const fs::path& File, double Density)
+fs::path Beside(const fs::path& File, const char* Mark, const fs::path& Suffix)
 {
-    if (Density > 1) {
-        fs::path Dense = File;
-        Dense.replace_filename(File.stem().string() + "@2x" + File.extension().string());
-        if (QImage Result = Read(Dense); !Result.isNull())
-            return {Result, 2};
-    }
-    return {Read(File), 1};
+    fs::path Result = File;
+    return Result.replace_filename(File.stem().string() + Mark + Suffix.string());
+}
+
+// A GIF has no soft edges, so a PNG of the same name is shown in its place.
+fs::path SoftTwin(const fs::path& File)
+{
+    const fs::path Twin = Beside(File, "", ".png");
+    std::error_code Unknown;
+    return File.extension() == ".gif" && fs::exists(Twin, Unknown) ? Twin : File;
+}
+
+// A picture and the size at which it stands in the box, in pixels of the screen's definition: as
+// large as the box or, where it keeps its proportions, no larger than it is sharp. Where that asks
+// for more pixels than it has, its twin of double size is taken, if there is one.
+std::pair<QImage, QSizeF> ReadFor(const fs::path& File, QSizeF Box, double Density,
+                                  PictureSource::Fit How)
+{
+    const bool KeepsProportions = How == PictureSource::Fit::KeepingProportions;
+    Decoder Plain(File);
+    const QSizeF Natural = Plain.Size();
+    const QSizeF Wished = KeepsProportions ? Natural.scaled(Box, Qt::KeepAspectRatio) : Box;
+    QImage Result;
+    if (Wished.width() * Density > Natural.width())
+        Result = Read(Beside(File, "@2x", File.extension()));
+    const double Sharp = Result.isNull() ? 1 : 2;
+    if (Result.isNull())
+        Result = Plain.Read();
+    const bool IsTooLarge = KeepsProportions && Wished.width() > Natural.width() * Sharp;
+    return {Result, IsTooLarge ? Natural * Sharp : Wished};
 }
 
 } // namespace
@@ -72,18 +95,13 @@ const QPixmap& PictureSource::For(QSize Box, double Density, Fit How)
 
 QPixmap PictureSource::Scaled(QSize Box, double Density, Fit How) const
 {
-    auto [Source, PerPixel] = ReadFor(TheFile.File, Density);
-    if (Source.isNull())
-        std::tie(Source, PerPixel) = ReadFor(TheFile.Otherwise, Density);
+    QImage Source;
+    QSizeF Target;
+    for (const fs::path& Each : {TheFile.File, TheFile.Otherwise})
+        if (Source.isNull() && !Each.empty())
+            std::tie(Source, Target) = ReadFor(SoftTwin(Each), Box, Density, How);
     if (Source.isNull())
         return {};
-    QSizeF Target = Box;
-    if (How == Fit::KeepingProportions) {
-        const QSizeF Natural = QSizeF(Source.size()) / PerPixel;
-        Target = Natural.scaled(Target, Qt::KeepAspectRatio);
-        if (Target.width() > Natural.width())
-            Target = Natural;
-    }
     const QSize Pixels = (Target * Density).toSize().expandedTo(QSize(1, 1));
     if (Pixels != Source.size())
         Source = Source.scaled(Pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

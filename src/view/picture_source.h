@@ -9,8 +9,9 @@
 
 namespace orvane {
 
-// A picture of the model, decoded when it is first to be seen. On high-density screens the file
-// "name@2x.ext" beside it is taken when there is one.
+// A picture of the model, decoded when it is first to be seen. Where more pixels are asked for than
+// it has, on dense screens and in large windows, the file "name@2x.ext" beside it is taken when
+// there is one; in place of a GIF, the PNG of its name.
 class PictureSource
 {
   public:

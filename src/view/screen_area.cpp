@@ -97,6 +97,17 @@ void ScreenArea::ControlChanged(Control& Which, PropertyId What)
     }
 }
 
+void ScreenArea::SetScale(double New)
+{
+    if (New == TheScale)
+        return;
+    TheScale = New;
+    for (const auto& [Which, View] : Views)
+        for (const PropertyId Each : {PropertyId::Left, PropertyId::FontSize})
+            View->Follow(Each);
+    Settle();
+}
+
 void ScreenArea::ShowColours()
 {
     for (const auto& [Which, View] : Views)
@@ -213,7 +224,7 @@ std::vector<QColor> ScreenArea::GroundsUnder(const QRect& Place)
     const QColor Veil = PanelGround();
     const auto Veils = std::ranges::count_if(TheScreen.Controls(), [&](const Control* Each) {
         return Each->Kind() == ControlKind::Shape && Each->Visible &&
-               PixelBox(*Each).contains(Place.center());
+               PixelBox(*Each, TheScale).contains(Place.center());
     });
     std::vector<QColor> Result;
     for (int Y = Place.top(); Y <= Place.bottom(); Y += Coarseness)

@@ -23,6 +23,10 @@ class ScreenArea : public QWidget
   public:
     ScreenArea(Screen& Model, User& TheUser, QWidget* Parent);
 
+    // Everything on it is as much larger or smaller than its layout has it, its words too.
+    double Scale() const { return TheScale; }
+    void SetScale(double New);
+
     QColor PanelGround();
     const QPixmap& Background(); // null without a picture
 
@@ -56,6 +60,7 @@ class ScreenArea : public QWidget
 
     Screen& TheScreen;
     User& TheUser;
+    double TheScale = 1;
     PictureSource Source;
     QColor ThePanelGround;
     qint64 PanelGroundOf = -1; // the background that it was found for

@@ -16,30 +16,46 @@
 #include <QCloseEvent>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QScreen>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace orvane {
 
 namespace {
 
+constexpr QSize FrameSize(4, 34); // of a title and borders, as desktops have them
+constexpr double SmallestScale = 0.4;
+constexpr double LargestScale = 3;
+
+// At which a screen of that size just fits into the room; 1 for one that fits nearly.
+double ScaleFor(QSize Size, QSize Room)
+{
+    constexpr double Nearly = 0.005;
+    const double Result =
+        std::min(double(Room.width()) / Size.width(), double(Room.height()) / Size.height());
+    return std::abs(Result - 1) < Nearly ? 1 : Result;
+}
+
 constexpr int SettlingTime = 300; // milliseconds: who types on hears of the last figure only
 
 } // namespace
 
-ScreenWindow::ScreenWindow(Screen& Model, User& TheUser, const Menus& TheMenus)
+ScreenWindow::ScreenWindow(Screen& Model, User& TheUser, const Menus& TheMenus, OrderSource Order)
     : TheScreen(Model),
       TheUser(TheUser),
       TheMenu(new WindowMenu(TheMenus, this)),
       Area(new ScreenArea(Model, TheUser, this)),
+      Order(std::move(Order)),
       TheAnnouncer(new Announcer(this))
 {
     Settling.setSingleShot(true);
     Settling.setInterval(SettlingTime);
     Settling.callOnTimeout([this] { TellAnswers(); });
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                   Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
+                   Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
     setObjectName(ToQt(Model.Name()));
     ShowSize();
     ScreenChanged(PropertyId::Caption);
@@ -115,11 +131,79 @@ void ScreenWindow::ShowSize()
 {
     if (TheScreen.Width() <= 0 || TheScreen.Height() <= 0)
         return;
-    const QSize Size(Pixels(TheScreen.Width), Pixels(TheScreen.Height));
-    const int Bar = TheMenu->actions().isEmpty() ? 0 : TheMenu->sizeHint().height();
-    TheMenu->setGeometry(0, 0, Size.width(), Bar);
-    Area->setGeometry(QRect(QPoint(0, Bar), Size));
-    setFixedSize(Size.width(), Size.height() + Bar);
+    const QSize Bar(0, BarHeight());
+    const QSize Room = screen()->availableGeometry().size() - FrameSize - Bar;
+    const QSize Size = Natural();
+    setMinimumSize(Size * SmallestScale + Bar);
+    if (!isMaximized())
+        resize(Size * std::min(1.0, ScaleFor(Size, Room)) + Bar);
+    LayOut();
+    if (isVisible() && !isMaximized())
+        MoveOnScreen(Framed());
+}
+
+QSize ScreenWindow::Natural() const
+{
+    return {Pixels(TheScreen.Width, 1), Pixels(TheScreen.Height, 1)};
+}
+
+int ScreenWindow::BarHeight() const
+{
+    return TheMenu->actions().isEmpty() ? 0 : TheMenu->sizeHint().height();
+}
+
+void ScreenWindow::LayOut()
+{
+    const QSize Size = Natural();
+    const int Bar = BarHeight();
+    const QRect Room(0, Bar, width(), height() - Bar);
+    TheMenu->setGeometry(0, 0, width(), Bar);
+    if (Size.isEmpty() || Room.isEmpty())
+        return;
+    const double Scale = std::clamp(ScaleFor(Size, Room.size()), SmallestScale, LargestScale);
+    QRect Place(QPoint(), Size * Scale);
+    const int Beside = std::min(Room.width() - Place.width(), OrderPanel::Widest);
+    const bool HasOrder = Order && Beside >= OrderPanel::Narrowest;
+    Place.moveCenter(Room.center());
+    if (HasOrder)
+        Place.moveLeft((Room.width() - Place.width() - Beside) / 2);
+    Area->SetScale(Scale);
+    Area->setGeometry(Place);
+    LayOutOrder(HasOrder ? QRect(Place.right() + 1, Place.top(), Beside, Place.height()) : QRect());
+}
+
+// Nothing for no place.
+void ScreenWindow::LayOutOrder(QRect Place)
+{
+    if (TheOrder == nullptr && Place.isEmpty())
+        return;
+    if (TheOrder == nullptr)
+        TheOrder = new OrderPanel(Order, this);
+    TheOrder->setGeometry(Place);
+    TheOrder->setVisible(!Place.isEmpty());
+    if (!Place.isEmpty())
+        Act([this] { TheOrder->Refresh(); });
+}
+
+void ScreenWindow::ShowInMenuBar(const QString& Words)
+{
+    TheMenu->ShowAtTheEnd(Words);
+    TheMenu->ShowOffers();
+    if (TheOrder != nullptr && TheOrder->isVisible())
+        TheOrder->Refresh();
+}
+
+QRect ScreenWindow::Framed() const
+{
+    const QRect Known = frameGeometry();
+    return Known == geometry() ? QRect(Known.topLeft(), Known.size() + FrameSize) : Known;
+}
+
+void ScreenWindow::MoveOnScreen(QRect Frame)
+{
+    const QRect Room = screen()->availableGeometry();
+    move(std::max(Room.left(), std::min(Frame.left(), Room.right() + 1 - Frame.width())),
+         std::max(Room.top(), std::min(Frame.top(), Room.bottom() + 1 - Frame.height())));
 }
 
 void ScreenWindow::FocusFirstInput()
@@ -143,6 +227,12 @@ bool ScreenWindow::event(QEvent* Event)
     if (Event->type() == QEvent::WindowActivate && OnFocused)
         OnFocused();
     return QWidget::event(Event);
+}
+
+void ScreenWindow::resizeEvent(QResizeEvent* Event)
+{
+    QWidget::resizeEvent(Event);
+    LayOut();
 }
 
 void ScreenWindow::closeEvent(QCloseEvent* Event)

@@ -36,11 +36,15 @@ LineView::LineView(Line& Model, QWidget* Parent)
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
-QRect LineView::Place() const
+QLine LineView::Ends()
 {
-    const auto [Left, Right] = std::minmax({Pixels(TheLine.X1), Pixels(TheLine.X2)});
-    const auto [Top, Bottom] = std::minmax({Pixels(TheLine.Y1), Pixels(TheLine.Y2)});
-    return QRect(QPoint(Left, Top), QPoint(Right, Bottom)).adjusted(-1, -1, 1, 1);
+    return {Pixels(TheLine.X1, Scale()), Pixels(TheLine.Y1, Scale()), Pixels(TheLine.X2, Scale()),
+            Pixels(TheLine.Y2, Scale())};
+}
+
+QRect LineView::Place()
+{
+    return QRect(Ends().p1(), Ends().p2()).normalized().adjusted(-1, -1, 1, 1);
 }
 
 void LineView::paintEvent(QPaintEvent*)
@@ -50,8 +54,7 @@ void LineView::paintEvent(QPaintEvent*)
     Painter.setRenderHint(QPainter::Antialiasing, !Straight);
     Painter.setPen(QPen(look::ColourOf(TheLine.BorderColor), 1));
     Painter.translate(-Place().topLeft());
-    Painter.drawLine(Pixels(TheLine.X1), Pixels(TheLine.Y1), Pixels(TheLine.X2),
-                     Pixels(TheLine.Y2));
+    Painter.drawLine(Ends());
 }
 
 } // namespace orvane

@@ -31,10 +31,13 @@ class LineView : public QWidget, public ControlView
     QWidget& Widget() override { return *this; }
 
   protected:
-    QRect Place() const override;
+    QRect Place() override;
+
     void paintEvent(QPaintEvent* Event) override;
 
   private:
+    QLine Ends(); // within the area
+
     Line& TheLine;
 };
 

@@ -42,8 +42,7 @@ TextBoxView::TextBoxView(TextBox& Model, User& TheUser, QWidget* Parent)
     : QLineEdit(Parent),
       ControlView(Model),
       Box(Model),
-      TheUser(TheUser),
-      Resting(look::Font(Points()))
+      TheUser(TheUser)
 {
     setFrame(false);
     setTextMargins(look::FieldPadding - 1, 0, look::FieldPadding - 1, 0);
@@ -135,9 +134,9 @@ QFont::Weight TextBoxView::Weight() const
 }
 
 // What people come for is larger than what it is made of.
-double TextBoxView::Points() const
+double TextBoxView::FullPoints()
 {
-    return Box.FontSize * (Box.IsAnswer ? AnswerShare : 1);
+    return Points() * (Box.IsAnswer ? AnswerShare : 1);
 }
 
 void TextBoxView::TakeFont(const QFont& Shared)
@@ -150,7 +149,7 @@ void TextBoxView::TakeFont(const QFont& Shared)
 // While somebody types, what is typed stays as large as it was.
 void TextBoxView::ShowFont()
 {
-    QFont Font = hasFocus() && !isReadOnly() ? look::Font(Points()) : Resting;
+    QFont Font = hasFocus() && !isReadOnly() ? look::Font(FullPoints()) : Resting;
     Font.setItalic(Box.Stale);
     if (Font != font())
         setFont(Font);
@@ -165,7 +164,9 @@ void TextBoxView::ShowState()
 {
     ShowFont();
     ShowBoxColours(Box.Marked ? look::Now().WrongGround : look::GroundOf(Box.BackColor),
-                   Box.Stale || IsPale ? look::Now().MutedInk : look::InkOf(Box.ForeColor));
+                   Box.Stale || (IsPale && Box.BackColor() != InputGrey)
+                       ? look::Now().MutedInk
+                       : look::InkOf(Box.ForeColor));
     ShowTip();
     update();
 }
@@ -236,7 +237,7 @@ void TextBoxView::paintEvent(QPaintEvent* Event)
         QLineEdit::paintEvent(Event);
     } else {
         const QString Words = ToQt(AwaitingWords);
-        Painter.setFont(look::FittingFont(Points(), Words, width() - 2 * look::FieldPadding));
+        Painter.setFont(look::FittingFont(FullPoints(), Words, width() - 2 * look::FieldPadding));
         Painter.setPen(look::Now().MutedInk);
         Painter.drawText(rect(), Qt::AlignCenter, Words);
     }

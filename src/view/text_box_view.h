@@ -25,7 +25,7 @@ class TextBoxView : public QLineEdit, public ControlView
     // Boxes of one column share a font. Fits tells of this one's text alone.
     bool Fits(const QFontMetrics& In) const;
     QFont::Weight Weight() const;
-    double Points() const;
+    double FullPoints();
     void TakeFont(const QFont& Shared);
 
   protected:

@@ -17,9 +17,12 @@ class PicturesOnScreen : public Stage
     {
         Make("plate.png", {40, 20});
         Make("high.png", {400, 200});
+        Make("small.png", {20, 20});
         Make("dense.png", {20, 20});
         Make("dense@2x.png", {40, 40}, Qt::blue);
         Make("png.gif", {10, 10});
+        Make("soft.gif", {20, 20});
+        Make("soft.png", {20, 20}, Qt::blue);
         EXPECT_TRUE(QFile::copy(Folder.filePath("high.png"), Folder.filePath("cut.png")));
         EXPECT_TRUE(QFile::resize(Folder.filePath("cut.png"), 100));
         EXPECT_EQ(::mkfifo(File("pipe.png").File.c_str(), 0600), 0);
@@ -50,6 +53,9 @@ TEST_F(PicturesOnScreen, FillTheirBoxOrKeepTheirProportions)
         {"plate.png", 90, 1, KeepingProportions, "40x20 #ff0000"}, // never larger than its file
         {"dense.png", 20, 1, KeepingProportions, "20x20 #ff0000"},
         {"dense.png", 20, 2, KeepingProportions, "40x40 #0000ff"},
+        {"dense.png", 30, 1, KeepingProportions, "30x30 #0000ff"},
+        {"dense.png", 90, 1, KeepingProportions, "40x40 #0000ff"},
+        {"soft.gif", 20, 1, Whole, "20x20 #0000ff"},
         {"png.gif", 10, 1, Whole, "10x10 #ff0000"}, // known by its content
         {"plate.png", 20, 2, KeepingProportions, "40x20 #ff0000"},
         {"absent.png", 10, 1, Whole, "0x0 "},
@@ -105,8 +111,8 @@ TEST_F(PicturesOnScreen, FillAButtonAndStandInTheMiddleOfAnImage)
         {"cmd_Ajouter", "absent.png", {10, 10}, false}, // its words on a plate
         {"img_Blason", "high.png", {3, 50}, true},      // 100 by 100
         {"img_Blason", "high.png", {50, 10}, false},
-        {"img_Blason", "dense.png", {50, 50}, true},
-        {"img_Blason", "dense.png", {30, 50}, false},
+        {"img_Blason", "small.png", {50, 50}, true},
+        {"img_Blason", "small.png", {30, 50}, false},
     };
     for (const auto& [Name, Picture, At, IsRed] : Cases) {
         Model(Name).Picture = File(Picture);

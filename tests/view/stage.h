@@ -23,7 +23,7 @@ class frm_Atelier : public Screen
     explicit frm_Atelier(Forms& Owner, const char* Name = "frm_Atelier")
         : Screen(Owner, Name, "Atelier d'essai")
     {
-        SizeScreen(*this, 800, 600);
+        SizeScreen(*this, 790, 600);
         Place(Bar_Menus, {10, 10, 150, 560});
         PlacePanel(shp_Gauche, {170, 10, 300, 480});
         PlacePanel(shp_Droite, {480, 10, 300, 480});

@@ -9,6 +9,8 @@ namespace orvane::pictures {
 
 namespace {
 
+constexpr QLatin1String Gif(".gif");
+
 struct Variant
 {
     std::vector<Palette> Each;
@@ -55,8 +57,13 @@ std::vector<Picture> PicturesOf(const TableRow& Row, const std::vector<Palette>&
         RefuseOutsidePath(Row, P.Output);
         RefuseOutsidePath(Row, P.Source);
         Result.push_back(P);
-        if (V.Double)
-            Result.push_back(AtTwice(P));
+        if (!V.Double)
+            continue;
+        if (P.Output.endsWith(Gif)) { // which has no soft edges, and few colours
+            P.Output.replace(P.Output.size() - Gif.size(), Gif.size(), QLatin1String(".png"));
+            Result.push_back(P);
+        }
+        Result.push_back(AtTwice(P));
     }
     return Result;
 }

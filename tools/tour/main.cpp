@@ -11,6 +11,7 @@
 #include "tour/tour.h"
 #include "view/desktop.h"
 #include "view/dialogs/menus.h"
+#include "view/dialogs/order_in_hand.h"
 #include "view/french.h"
 #include "view/qt_dialogs.h"
 #include "view/style.h"
@@ -42,6 +43,7 @@ class Evening
     {
         Watched = &Scene;
         Boxes.StandAbove(App.Feuilles);
+        App.OnEventEnd = [this] { Windows.ShowInMenuBars(OrderInHand(App)); };
         App.OnColours = [this] { Windows.TakeColours(App.Couleurs); };
         Scene.StartBy([this]() -> Application& {
             EnregistrerFeuilles(App);
@@ -57,7 +59,8 @@ class Evening
   private:
     QtDialogs Boxes;
     Application App{Scene.Path(), Boxes};
-    Desktop Windows{App.Feuilles, App.Door, ProgramMenus(App, [] {})};
+    Desktop Windows{App.Feuilles, App.Door, ProgramMenus(App, [] {}),
+                    [this] { return LinesInHand(App); }};
 };
 
 void Walk(const QString& Program, const QDir& Pictures, const QStringList& Filter)

@@ -36,11 +36,6 @@ std::vector<MenuEntry> OrdersToTake(Application& App)
 
 } // namespace
 
-QString OrderInHand(Application& App)
-{
-    return ToQt(Typeset("Commande : ") + CommandeEnMain(App));
-}
-
 Menus ProgramMenus(Application& App, const std::function<void()>& Restart)
 {
     return {{"&Commande",

@@ -8,7 +8,4 @@ namespace orvane {
 // What the menu of every window holds. App outlives it. Restart ends this run and begins another.
 Menus ProgramMenus(Application& App, const std::function<void()>& Restart);
 
-// What stands at the right of every menu bar: the order in hand.
-QString OrderInHand(Application& App);
-
 } // namespace orvane
