@@ -1,6 +1,7 @@
 // Layout tables of the skins, from the screens to the editable files under data/skins.
 //   make_layouts draw FOLDER DATA SKIN
-//       lays all screens of the definition out for each resolution of data/skins/SKIN/tailles.tsv
+//       lays all screens out for each resolution of data/skins/SKIN/tailles.tsv, as their
+//       definition or the arrangement named there has them
 //   make_layouts move FOLDER DATA SKIN TABLE
 //       moves the captured rows of Temp into TABLE of the skin's database, numbered, and writes
 //       the table back to its editable file
@@ -78,10 +79,13 @@ void DrawAll(const fs::path& Folder, const fs::path& Data, const std::string& Sk
     for (const TsvTable::Row& Row : ReadTsv(SkinFolder / "tailles.tsv").Rows) {
         const bool IsCommon = Row.Cells.at(0) == "Commun";
         const double Factor = DoubleFromText(Row.Cells.at(1)).value_or(100) / 100;
+        const std::string& Name = Row.Cells.at(2);
+        const Arrangement Arranged =
+            Name == "-" ? Arrangement() : Arrangement(Data / "skins" / (Name + ".tsv"));
         for (int i = 0; i < Screens.Screens().Count(); ++i) {
             const Screen& Which = Screens.Screens()[i];
             if (Common.contains(Which.Name()) == IsCommon)
-                Draw(Which, Factor, Colours)
+                Draw(Which, Arranged, Factor, Colours)
                     .Write(SkinFolder /
                            (Which.Name() + "_" + SansEspaces(Row.Cells.at(0)) + ".tsv"));
         }

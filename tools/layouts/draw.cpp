@@ -32,7 +32,12 @@ bool HasFixedWidth(const Control& Which)
 class RowWriter
 {
   public:
-    RowWriter(double Factor, const Palette& Colours) : Factor(Factor), Colours(Colours) {}
+    RowWriter(const Arrangement& Arranged, double Factor, const Palette& Colours)
+        : Arranged(Arranged),
+          Factor(Factor),
+          Colours(Colours)
+    {
+    }
 
     std::vector<std::string> RowOf(const Control& Which, int Num) const
     {
@@ -45,14 +50,15 @@ class RowWriter
             Row["Height"] = Scaled(Stroke->Y2);
             return InOrder(Row);
         }
-        Row["Left"] = Scaled(Which.Left);
-        Row["Top"] = Scaled(Which.Top);
-        Size(Row, Which.Width, Which.Height);
+        const Placement At = Arranged.Of(Which);
+        Row["Left"] = Scaled(At.Left);
+        Row["Top"] = Scaled(At.Top);
+        Size(Row, At);
         if (HasFixedWidth(Which))
             Row["Width"] = std::to_string(Which.Width());
         if (HasFont(Which.Kind())) {
             Row["ChangeFontSize"] = "O";
-            Row["FontSize"] = TextOfDouble(std::round(Which.FontSize * Factor * 2) / 2);
+            Row["FontSize"] = TextOfDouble(std::round(Which.FontSize * At.Factor * Factor * 2) / 2);
         }
         if (Which.Kind() == ControlKind::Label)
             Paint(Row, Which.ForeColor);
@@ -64,7 +70,7 @@ class RowWriter
     std::vector<std::string> RowOf(const Screen& Which, int Num) const
     {
         Cells Row = Named(Which.Name(), Num);
-        Size(Row, Which.Width, Which.Height);
+        Size(Row, Arranged.Of(Which));
         return InOrder(Row);
     }
 
@@ -94,18 +100,18 @@ class RowWriter
     }
 
     // On whole pixels, so that edges stay sharp.
-    std::string Scaled(int Twips) const
+    std::string Scaled(double Twips) const
     {
         constexpr int Pixel = 15;
         return std::to_string(std::lround(Twips * Factor / Pixel) * Pixel);
     }
 
-    void Size(Cells& Row, int Width, int Height) const
+    void Size(Cells& Row, const Placement& At) const
     {
         Row["ChangeWidth"] = "O";
-        Row["Width"] = Scaled(Width);
+        Row["Width"] = Scaled(At.Width);
         Row["ChangeHeight"] = "O";
-        Row["Height"] = Scaled(Height);
+        Row["Height"] = Scaled(At.Height);
     }
 
     void Paint(Cells& Row, Colour Given) const
@@ -115,6 +121,7 @@ class RowWriter
         Row["Color"] = std::to_string(Known == Colours.end() ? Given.Number : Known->second);
     }
 
+    const Arrangement& Arranged;
     double Factor;
     const Palette& Colours;
 };
@@ -129,9 +136,10 @@ Palette ReadPalette(const std::filesystem::path& File)
     return Colours;
 }
 
-LayoutFile Draw(const Screen& Which, double Factor, const Palette& Colours)
+LayoutFile Draw(const Screen& Which, const Arrangement& Arranged, double Factor,
+                const Palette& Colours)
 {
-    const RowWriter Writer(Factor, Colours);
+    const RowWriter Writer(Arranged, Factor, Colours);
     LayoutFile Result;
     int Num = 0;
     for (const Control* Each : Which.Controls())

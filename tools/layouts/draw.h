@@ -1,5 +1,6 @@
 #pragma once
 
+#include "layouts/arrangement.h"
 #include "layouts/layout_file.h"
 #include "toolkit/screen.h"
 
@@ -13,7 +14,8 @@ using Palette = std::map<std::int32_t, std::int32_t>;
 // The two columns Définition and Skin of a file, colours written RRGGBB.
 Palette ReadPalette(const std::filesystem::path& File);
 
-// The geometry that a screen has at this moment, Factor times as large, in the skin's colours.
-LayoutFile Draw(const Screen& Which, double Factor, const Palette& Colours);
+// The geometry that a screen has in that arrangement, Factor times as large, in the skin's colours.
+LayoutFile Draw(const Screen& Which, const Arrangement& Arranged, double Factor,
+                const Palette& Colours);
 
 } // namespace orvane::tools

@@ -172,6 +172,9 @@ Picture AsBackground(Picture P, const TableRow& Row, const Skin&)
 Picture AsButton(Picture P, const TableRow& Row, const Skin& Look)
 {
     P.Quality = ButtonQuality;
+    QHash<QString, QString>& Words = P.Colours.Words;
+    for (const char* Shade : {"-clair", "", "-sombre"})
+        Words["plaque" + QLatin1String(Shade)] = Words[Row.Cells["ground"] + QLatin1String(Shade)];
     const QString Glyph = Row.Cells["glyph"];
     P.Written = {Row.Cells["words"], Look.Family,
                  Glyph == NoneCell ? QString() : "skins/glyphes/" + Glyph + ".svg",
@@ -189,6 +192,16 @@ std::vector<Picture> BothDensities(const std::vector<Picture>& Pictures)
     return Result;
 }
 
+// A row for every folder, unless the same file has one for this folder alone.
+bool IsFor(const ImageFolder& Images, const TableRow& Row, const std::vector<TableRow>& Rows)
+{
+    const auto IsOwn = [&](const TableRow& Each) {
+        return Each.Cells["folder"] == Images.Name && Each.Cells["screen"] == Row.Cells["screen"] &&
+               Each.Cells["file"] == Row.Cells["file"];
+    };
+    return Row.Cells["folder"] == NoneCell ? std::ranges::none_of(Rows, IsOwn) : IsOwn(Row);
+}
+
 template <typename Kind>
 void Append(std::vector<Picture>& Result, const Sources& From, const std::vector<TableRow>& Rows,
             Kind Finished)
@@ -196,7 +209,8 @@ void Append(std::vector<Picture>& Result, const Sources& From, const std::vector
     for (const Skin& Look : From.Skins)
         for (const ImageFolder& Images : From.Folders)
             for (const TableRow& Row : Rows) {
-                if (Look.Common.contains(Row.Cells["screen"]) != (Images.Name == CommonFolder))
+                if (Look.Common.contains(Row.Cells["screen"]) != (Images.Name == CommonFolder) ||
+                    !IsFor(Images, Row, Rows))
                     continue;
                 for (const Palette& Realm : RealmsOf(From, Row))
                     Result.push_back(Finished(PictureOf(Look, Images, Row, Realm), Row, Look));
@@ -207,11 +221,12 @@ void Append(std::vector<Picture>& Result, const Sources& From, const std::vector
 
 std::vector<Picture> ReadSkins(const QString& Folder, const std::vector<Palette>& Palettes)
 {
-    const QStringList Shared{"screen", "file", "drawing", "width", "height"};
+    const QStringList Shared{"screen", "file", "folder", "drawing", "width", "height"};
     const Sources From{
         Palettes, SkinsOf(Folder), FoldersOf(Folder),
         ReadSkinTable(Folder, "backgrounds.tsv", Shared + QStringList{"emblem", "x", "y", "side"}),
-        ReadSkinTable(Folder, "buttons.tsv", Shared + QStringList{"letters", "glyph", "words"})};
+        ReadSkinTable(Folder, "buttons.tsv",
+                      Shared + QStringList{"letters", "glyph", "words", "ground"})};
     RefuseUnknownCommon(From);
     std::vector<Picture> Result;
     Append(Result, From, From.Backgrounds, AsBackground);

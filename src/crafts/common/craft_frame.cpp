@@ -8,8 +8,8 @@ void Placer(Screen& Which, const Tête& Haut)
     Place(Haut.Menu, {12, 10, 190, 680});
     Place(Haut.Bannière, {MiddleX - 4, 10, 590, 64});
     PlacePanel(Haut.Cadre, {812, 10, 188, 64});
-    Place(Haut.Emblème, {824, 26, 32, 32});
-    PlaceTitle(Haut.Artisanat, "", {864, 24, 132, 36});
+    Place(Haut.Emblème, {822, 26, 32, 32});
+    PlaceTitle(Haut.Artisanat, "", {860, 24, 130, 36});
 }
 
 void PlacerBoutons(Button& AjouterPanier, Button& Retour)
