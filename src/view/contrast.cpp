@@ -16,6 +16,8 @@ double Luminance(const QColor& Colour)
            0.0722 * Linear(Colour.blueF());
 }
 
+constexpr double Margin = 1.15; // thin strokes are painted paler than their ink
+
 double WorstContrast(const QColor& Ink, std::span<const QColor> Grounds)
 {
     double Worst = 21;
@@ -43,12 +45,12 @@ double Contrast(const QColor& One, const QColor& Other)
 
 QColor Readable(const QColor& Ink, std::span<const QColor> Grounds)
 {
-    constexpr int Steps = 10;
+    constexpr int Steps = 20;
     QColor Best = Ink;
     for (int Step = 0; Step <= Steps; ++Step)
         for (const QColor& End : {QColor(Qt::white), QColor(Qt::black)}) {
             const QColor Tried = Mixed(Ink, End, double(Step) / Steps);
-            if (WorstContrast(Tried, Grounds) >= LeastContrast)
+            if (WorstContrast(Tried, Grounds) >= LeastContrast * Margin)
                 return Tried;
             if (WorstContrast(Tried, Grounds) > WorstContrast(Best, Grounds))
                 Best = Tried;

@@ -27,7 +27,7 @@ namespace orvane {
 namespace {
 
 constexpr QSize FrameSize(4, 34); // of a title and borders, as desktops have them
-constexpr double SmallestScale = 0.4;
+constexpr double SmallestScale = 0.25;
 constexpr double LargestScale = 3;
 
 // At which a screen of that size just fits into the room; 1 for one that fits nearly.

@@ -1,6 +1,7 @@
 #include "tour/camera.h"
 
 #include "tour/names.h"
+#include "view/screen_window.h"
 
 #include <QImage>
 #include <QScreen>
@@ -39,6 +40,13 @@ void Camera::CheckSize() const
                           .arg(ControlOf(&TheEyes.Window()))
                           .arg(Size.width())
                           .arg(Size.height()));
+    const auto& Framed = static_cast<const ScreenWindow&>(TheEyes.Window());
+    const QRect Room = Framed.screen()->availableGeometry();
+    if (!Room.contains(Framed.Framed()))
+        throw Because(QStringLiteral("%1 isn't wholly on the screen of %2 x %3")
+                          .arg(ControlOf(&TheEyes.Window()))
+                          .arg(Room.width())
+                          .arg(Room.height()));
 }
 
 // What the screen shows at the window's place: a box above it is in the picture too.

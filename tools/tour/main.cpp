@@ -67,7 +67,9 @@ void Walk(const QString& Program, const QDir& Pictures, const QStringList& Filte
 {
     const FolderCopy Folder(Program.toStdString());
     Evening Whole(Folder.Path(), Pictures);
+    Whole.Scene.ReadWords();
     Tour(Whole.Scene).Walk(Filter);
+    std::printf("least contrasts\n%s", qUtf8Printable(Whole.Scene.LeastContrasts()));
     std::printf("%d pictures, %d focus rings seen\n", Whole.Scene.Photographer().Count(),
                 Whole.Scene.RingsSeen());
 }

@@ -81,6 +81,11 @@ void Tour::Walk(const QStringList& Filter)
             Scene.LookAtRings(Resolution == Resolutions.front()); // the same at every size
             Visit(Skin, Resolution);
         }
+    if (Filter.isEmpty())
+        for (const QString& Layouts : Skins)
+            for (const QString& Skin : Skins)
+                if (Skin != Layouts)
+                    VisitMixed(Skin, Layouts, Resolutions.front());
     Scene.Click("cmd_Quitter");
     if (Scene.Ends() == 0)
         throw scenario::CannotGoOn("the program doesn't quit");
@@ -102,19 +107,31 @@ void Tour::ReadLooks()
 
 void Tour::Visit(const QString& Skin, const QString& Resolution)
 {
-    Scene.Photographer().BeginLook(FileNamePart(Skin) + u'-' + FileNamePart(Resolution),
-                                   SizeOf(Resolution));
+    ChangeLook(Skin, OtherThan(Resolution, AllResolutions));
+    ChangeLook(Skin, Resolution);
+    Play(FileNamePart(Skin), Resolution);
+}
+
+// One skin's pictures on the layouts, and so on the colours, of another.
+void Tour::VisitMixed(const QString& Skin, const QString& Layouts, const QString& Resolution)
+{
+    ChangeLook(Layouts, OtherThan(Resolution, AllResolutions));
+    ChangeLook(Layouts, Resolution);
+    ChangeLook(Skin, Resolution);
+    Play(FileNamePart(Skin) + QStringLiteral("-sur-") + FileNamePart(Layouts), Resolution);
+}
+
+void Tour::Play(const QString& Look, const QString& Resolution)
+{
+    Scene.Photographer().BeginLook(Look + u'-' + FileNamePart(Resolution), SizeOf(Resolution));
     try {
-        for (const QString& Each : {OtherThan(Resolution, AllResolutions), Resolution})
-            ChangeLook(Skin, Each);
         PlayAll(Scene, Stops);
         if (!SeenOnce)
             for (const scenario::Script* Each : {&Boxes, &Keys})
                 PlayAll(Scene, *Each);
     } catch (const scenario::CannotGoOn& Given) {
-        throw Because(QStringLiteral("%1, %2, after picture %3: %4")
-                          .arg(Skin, Resolution, Scene.Photographer().Last(),
-                               QString::fromUtf8(Given.what())));
+        throw Because(QStringLiteral("%1, after picture %2: %3")
+                          .arg(Look, Scene.Photographer().Last(), QString::fromUtf8(Given.what())));
     }
     SeenOnce = true;
 }

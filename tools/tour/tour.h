@@ -20,6 +20,8 @@ class Tour
   private:
     void ReadLooks();
     void Visit(const QString& Skin, const QString& Resolution);
+    void VisitMixed(const QString& Skin, const QString& Layouts, const QString& Resolution);
+    void Play(const QString& Look, const QString& Resolution); // all stops, with pictures
     void ChangeLook(const QString& Skin, const QString& Resolution);
 
     WindowScene& Scene;

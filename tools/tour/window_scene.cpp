@@ -100,6 +100,8 @@ void WindowScene::Act(const scenario::Step& Which)
         Bring(ActiveScreen());
         TheHands.PutMouseAside();
         TheCamera.Photograph(QString::fromStdString(Which.Target));
+        if (WithWords)
+            Words.Check(TheEyes.Window());
         if (WithRings)
             Rings += CheckRings(TheEyes.Window());
     } else

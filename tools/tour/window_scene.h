@@ -5,6 +5,7 @@
 #include "tour/camera.h"
 #include "tour/hands.h"
 #include "tour/keyboard.h"
+#include "tour/legibility.h"
 
 namespace orvane::tour {
 
@@ -28,6 +29,11 @@ class WindowScene : public scenario::ProgramScene
     // Whether each photo comes with a look at the focus rings; and how many were seen.
     void LookAtRings(bool Wanted) { WithRings = Wanted; }
     int RingsSeen() const { return Rings; }
+
+    // From then on each photo comes with a look at all words.
+    void ReadWords() { WithWords = true; }
+    QString LeastContrasts() const { return Words.Table(); }
+
     int Ends() const { return Quits; }
 
     // Something that went wrong without stopping anything; the deed in hand fails by it.
@@ -60,6 +66,8 @@ class WindowScene : public scenario::ProgramScene
     Hands TheHands{TheEyes};
     Keyboard TheKeyboard{TheEyes};
     bool WithRings = false;
+    bool WithWords = false;
+    Legibility Words;
     int Rings = 0;
     bool KeysAlone = false; // the mouse is left alone
     Boxes TheBoxes{TheCamera};
