@@ -210,7 +210,7 @@ void ComboBoxView::ShowText()
 // A long text takes a smaller font; the list keeps the full one.
 void ComboBoxView::ShowFont()
 {
-    const int Room = width() - look::ArrowWidth - 2 * look::FieldPadding;
+    const int Room = width() - look::ArrowWidth(height()) - 2 * look::FieldPadding;
     const QFont Fitting = look::FittingFont(Points(), lineEdit()->text(), Room);
     if (Fitting != lineEdit()->font())
         lineEdit()->setFont(Fitting);
@@ -241,7 +241,8 @@ void ComboBoxView::paintEvent(QPaintEvent*)
                       .Focused = ShowsFocus(*this),
                       .HalfTyped = Before.has_value(),
                       .Unkept = IsUnkept(Box)});
-    const QRect Arrow(width() - look::ArrowWidth, 0, look::ArrowWidth, height());
+    const int Wide = look::ArrowWidth(height());
+    const QRect Arrow(width() - Wide, 0, Wide, height());
     look::PaintArrow(Painter, Arrow,
                      ShowsFocus(*this) || underMouse() ? look::Now().Focus : look::Now().MutedInk);
 }

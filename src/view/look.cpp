@@ -7,6 +7,8 @@
 #include <QPixmap>
 #include <QRandomGenerator>
 
+#include <algorithm>
+
 namespace orvane::look {
 
 namespace {
@@ -76,13 +78,13 @@ QFont Font(double Points, bool Bold)
 QFont FittingFont(double Points, QFont::Weight Weight,
                   const std::function<bool(const QFontMetrics&)>& Fits)
 {
-    constexpr double Smallest = 0.7;
-    constexpr double Step = 0.06;
-    constexpr int Narrow = 88; // percent
+    constexpr int Steps = 6;
+    constexpr double Step = 0.06; // of the size
+    constexpr int Narrow = 88;    // percent
     QFont Result = Font(Points);
     Result.setWeight(Weight);
-    for (double Share = 1; Share >= Smallest && !Fits(QFontMetrics(Result)); Share -= Step) {
-        Result.setPointSizeF(Points * Share);
+    for (int Tried = 0; Tried <= Steps && !Fits(QFontMetrics(Result)); ++Tried) {
+        Result.setPointSizeF(Points * (1 - Tried * Step));
         Result.setStretch(Narrow);
     }
     return Result;
@@ -248,6 +250,12 @@ QPixmap Notice(double Density)
     Painter.drawEllipse(QPointF(Side / 2, 12), 2.6, 2.6);
     Painter.drawRoundedRect(QRectF(Side / 2 - 2.2, 17.5, 4.4, 13), 2.2, 2.2);
     return Result;
+}
+
+int ArrowWidth(int High)
+{
+    constexpr int Most = 17;
+    return std::min(Most, High * Most / ComboHeight);
 }
 
 void PaintArrow(QPainter& Painter, const QRectF& Box, const QColor& Colour)

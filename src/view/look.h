@@ -22,7 +22,6 @@ inline constexpr double FieldRadius = 3;
 inline constexpr double PlateRadius = 5;
 inline constexpr int FieldPadding = 4;
 inline constexpr int RowPadding = 5;
-inline constexpr int ArrowWidth = 17; // of a combo box
 inline constexpr int ComboHeight = 23;
 inline constexpr int PopupRows = 14;
 inline constexpr double DialogPoints = 10;
@@ -95,6 +94,8 @@ BarColours BarOn(const QPixmap& Background);
 // What stands beside the words of a message.
 QPixmap Notice(double Density);
 
+// Of the arrow of a combo box that is so high.
+int ArrowWidth(int High);
 void PaintArrow(QPainter& Painter, const QRectF& Box, const QColor& Colour);
 
 } // namespace orvane::look

@@ -19,7 +19,6 @@
 #include <QScreen>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace orvane {
@@ -30,13 +29,13 @@ constexpr QSize FrameSize(4, 34); // of a title and borders, as desktops have th
 constexpr double SmallestScale = 0.25;
 constexpr double LargestScale = 3;
 
-// At which a screen of that size just fits into the room; 1 for one that fits nearly.
+// At which a screen of that size just fits into the room; 1 where hardly any is left.
 double ScaleFor(QSize Size, QSize Room)
 {
     constexpr double Nearly = 0.005;
     const double Result =
         std::min(double(Room.width()) / Size.width(), double(Room.height()) / Size.height());
-    return std::abs(Result - 1) < Nearly ? 1 : Result;
+    return Result > 1 && Result < 1 + Nearly ? 1 : Result;
 }
 
 constexpr int SettlingTime = 300; // milliseconds: who types on hears of the last figure only

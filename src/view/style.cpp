@@ -107,9 +107,10 @@ QRect Style::subControlRect(ComplexControl Control, const QStyleOptionComplex* O
                             SubControl Part, const QWidget* Widget) const
 {
     if (Control == CC_ComboBox && Part == SC_ComboBoxEditField)
-        return Option->rect.adjusted(3, 2, -look::ArrowWidth, -2);
+        return Option->rect.adjusted(3, 2, -look::ArrowWidth(Option->rect.height()), -2);
     if (Control == CC_ComboBox && Part == SC_ComboBoxArrow)
-        return Option->rect.adjusted(Option->rect.width() - look::ArrowWidth, 0, 0, 0);
+        return Option->rect.adjusted(Option->rect.width() - look::ArrowWidth(Option->rect.height()),
+                                     0, 0, 0);
     return QProxyStyle::subControlRect(Control, Option, Part, Widget);
 }
 

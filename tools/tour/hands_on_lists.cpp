@@ -49,6 +49,8 @@ QStringList Hands::Entries(const QString& List) const
     const QAbstractItemModel& Rows = *Opened(List).model();
     for (int Row = 0; Row < Rows.rowCount(); ++Row)
         Result << Rows.index(Row, 0).data().toString();
+    if (auto* Combo = qobject_cast<QComboBox*>(&TheEyes.The(List))) // may lie on what comes next
+        Combo->hidePopup();
     return Result;
 }
 
