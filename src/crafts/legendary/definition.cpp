@@ -145,7 +145,7 @@ void frm_ArmesLégendaires::DéfinirComposant(Composant& Lequel, const char* Tit
     PlaceLabel(Lequel.TitreNiveau, "Niveau :", {X + 134, BlocksY + 12, 62, High});
     PlaceHeading(Lequel.Niveau, "", {X + 198, BlocksY + 12, 60, High});
     Place(Lequel.Indicateur, {X + 266, BlocksY + 12, 24, 24}, Titre + std::string(", niveau"));
-    Lequel.Matériaux.Placer(X, BlocksY + 54, 34, {172, 30, 64}, Titre);
+    Lequel.Matériaux.Placer(X, BlocksY + 54, 34, {180, 28, 58}, Titre);
     Lequel.Matériaux.CommencerParZéro();
     PlaceField(Lequel.TitrePrixCoûtant, "Px coût. :", Lequel.PrixCoûtant,
                {X + 120, BlocksY + 164, 74, High}, 100, Titre + std::string(", prix coûtant"));
