@@ -157,7 +157,8 @@ void TextBoxView::ShowFont()
 
 int TextBoxView::Room() const
 {
-    return width() - 3 * look::FieldPadding;
+    constexpr int Inside = 2; // at each end, by the toolkit
+    return width() - 2 * (look::FieldPadding - 1 + Inside);
 }
 
 void TextBoxView::ShowState()

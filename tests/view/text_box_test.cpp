@@ -134,7 +134,8 @@ constexpr Row LookRows[] = {
     {"AFigureThatWaits", "<in txt_Total><waits><stale yes>",
      "muted italic Ce chiffre attend un nombre juste dans «\u00a0Nb d'objets\u00a0»."},
     {"FreshAgain", "<in txt_Total><stale yes><stale no>", ""},
-    {"ALongText", "<in txt_Total><total Une bien longue désignation>", "Une bien longue désignation"},
+    {"ALongText", "<in txt_Total><total Une bien longue désignation>",
+     "Une bien longue désignation"},
     {"AShortText", "<in txt_Total><total Une longue désignation><total 1>", ""},
 };
 EACH_ROW(TextBoxLook, LookRows);

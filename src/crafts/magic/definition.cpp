@@ -149,7 +149,7 @@ void frm_ArtisanatsMagiques::DéfinirObjetSup()
     PlaceLabel(lbl_AlchimieObjetSupNiveau, "Niveau :", {X + 98, Y + 62, 58, High});
     PlaceLabel(lbl_AlchimieObjetSupNiveauCraft, "", {X + 158, Y + 62, 50, High}, Alignment::Right);
     Place(img_AlchimieObjetSupNiveau, {X + 218, Y + 62, 24, 24}, "Objet nécessaire, niveau");
-    MatériauxSup.Placer(X, Y + 92, 28, {164, 26, 52}, "Objet nécessaire");
+    MatériauxSup.Placer(X, Y + 92, 28, {166, 26, 50}, "Objet nécessaire");
     PlaceField(lbl_AlchimieObjetSUpPrixCoûtant, "Prix coûtant :", txt_AlchimieObjetSUpPrixCoûtant,
                {X + 70, Y + 208, 100, High}, 100, "Objet nécessaire, prix coûtant");
     txt_NbAlchimieObjetSup.Text.StartWith("1");

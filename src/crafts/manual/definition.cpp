@@ -123,7 +123,7 @@ void frm_ArtisanatsManuels::DéfinirObjetSup()
     PlaceLabel(lbl_ObjetSupNiveau, "Niveau :", {RightX + 112, 454, 58, High});
     PlaceLabel(lbl_ObjetSupNiveauCraft, "", {RightX + 172, 454, 50, High}, Alignment::Right);
     Place(img_ObjetSupNiveau, {RightX + 232, 454, 24, 24}, "Objet nécessaire, niveau");
-    MatériauxSup.Placer(RightX + 14, 484, 28, {164, 26, 52}, "Objet nécessaire");
+    MatériauxSup.Placer(RightX + 14, 484, 28, {166, 26, 50}, "Objet nécessaire");
     PlaceField(lbl_ObjetSUpPrixCoûtant, "Prix :", txt_ObjetSUpPrixCoûtant,
                {RightX + 128, 600, 56, High}, 100, "Objet nécessaire, prix");
     lbl_ObjetSUpPrixCoûtant.Align = Alignment::Right;
