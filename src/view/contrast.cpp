@@ -1,19 +1,34 @@
 #include "view/contrast.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace orvane {
 
 namespace {
 
+// What each of the 256 steps of a colour's part sheds of light; worked out once, for many colours
+// are compared before a window is seen.
+const std::array<double, 256>& Light()
+{
+    static const auto Steps = [] {
+        std::array<double, 256> Result;
+        for (std::size_t i = 0; i < Result.size(); ++i) {
+            const double Part = double(i) / 255;
+            Result[i] = Part <= 0.03928 ? Part / 12.92 : std::pow((Part + 0.055) / 1.055, 2.4);
+        }
+        return Result;
+    }();
+    return Steps;
+}
+
 double Luminance(const QColor& Colour)
 {
-    const auto Linear = [](double Part) {
-        return Part <= 0.03928 ? Part / 12.92 : std::pow((Part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * Linear(Colour.redF()) + 0.7152 * Linear(Colour.greenF()) +
-           0.0722 * Linear(Colour.blueF());
+    const QRgb Parts = Colour.rgb();
+    return 0.2126 * Light()[static_cast<std::size_t>(qRed(Parts))] +
+           0.7152 * Light()[static_cast<std::size_t>(qGreen(Parts))] +
+           0.0722 * Light()[static_cast<std::size_t>(qBlue(Parts))];
 }
 
 constexpr double Margin = 1.15; // thin strokes are painted paler than their ink

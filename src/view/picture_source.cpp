@@ -57,16 +57,17 @@ fs::path SoftTwin(const fs::path& File)
 
 // A picture and the size at which it stands in the box, in pixels of the screen's definition: as
 // large as the box or, where it keeps its proportions, no larger than it is sharp. Where that asks
-// for more pixels than it has, its twin of double size is taken, if there is one.
+// for many more pixels than it has, its twin of double size is taken, if there is one.
 std::pair<QImage, QSizeF> ReadFor(const fs::path& File, QSizeF Box, double Density,
                                   PictureSource::Fit How)
 {
+    constexpr double Enough = 1.1; // below it nobody sees a difference
     const bool KeepsProportions = How == PictureSource::Fit::KeepingProportions;
     Decoder Plain(File);
     const QSizeF Natural = Plain.Size();
     const QSizeF Wished = KeepsProportions ? Natural.scaled(Box, Qt::KeepAspectRatio) : Box;
     QImage Result;
-    if (Wished.width() * Density > Natural.width())
+    if (Wished.width() * Density > Natural.width() * Enough)
         Result = Read(Beside(File, "@2x", File.extension()));
     const double Sharp = Result.isNull() ? 1 : 2;
     if (Result.isNull())
